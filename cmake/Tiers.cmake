@@ -1,0 +1,19 @@
+# SPDX-License-Identifier: MIT
+# Row files are compiled once for every SIMD tier; these are the only flags of the library that name an instruction set.
+set(ZORCC_TIERS ssse3 avx2 avx512)
+set(ZORCC_TIER_FLAGS_ssse3 -mssse3)
+set(ZORCC_TIER_FLAGS_avx2 -mavx2)
+set(ZORCC_TIER_FLAGS_avx512 -mavx512f -mavx512bw -mavx512dq -mavx512vl -mavx512vbmi -mavx512vnni)
+
+# Adds the row files to `target`, in one object library a tier.
+function(zorcc_add_tiers target)
+  foreach(tier IN LISTS ZORCC_TIERS)
+    add_library(${target}_${tier} OBJECT ${ARGN})
+    target_compile_definitions(${target}_${tier} PRIVATE ZORCC_TIER=${tier} ZORCC_TIER_${tier})
+    target_compile_options(${target}_${tier} PRIVATE ${ZORCC_TIER_FLAGS_${tier}} -fno-exceptions -fno-rtti)
+    target_include_directories(${target}_${tier} PRIVATE ${PROJECT_SOURCE_DIR}/src ${PROJECT_SOURCE_DIR}/include)
+    target_link_libraries(${target}_${tier} PRIVATE zorcc_options)
+    target_link_libraries(${target} PUBLIC ${target}_${tier})
+    target_sources(${target} INTERFACE $<TARGET_OBJECTS:${target}_${tier}>)
+  endforeach()
+endfunction()

@@ -1,0 +1,152 @@
+/* SPDX-License-Identifier: MIT */
+/*
+ * zorcc: colour conversion of raster images (libzorccn8.so.6.1). Valid C99 and C++17.
+ *
+ * Names: zori<Operation>_<sample types>_<layouts>R. Sample types: 8u, 16u, 16s, 32f (two joined: source, destination).
+ * Layouts (two joined: source, destination):
+ *   C1, C2, C3, C4  that many samples a pixel, interleaved, channel 0 at the lowest address
+ *   AC4             four samples a pixel; the fourth is alpha: ignored in a source, left as it is in a destination. (Its
+ *                   value stays; the store may rewrite it, so no other thread may change it during the call.)
+ *   P2, P3, P4      planes; a P2 image is a luma plane and a plane of interleaved chroma pairs
+ *   AP4             three colour planes and an alpha plane
+ * An I before the layout marks the forms that work in place.
+ *
+ * Images: a pointer to the first pixel of the region and a step, the distance in bytes from one row to the next. A step
+ * is never in pixels, may be larger than a row, and may be negative, which walks the image upwards from the pointer,
+ * unless the function's group says that steps are checked. A planar image is an array of plane pointers; where its
+ * planes differ in size there is an array of steps, too. Pointers and steps need no alignment beyond the sample type's.
+ * Names without the final R take no steps: rows follow each other without gaps (a chroma plane that shares samples
+ * between two columns has rows of width / 2 bytes, rounded down).
+ *
+ * No byte outside the rows of the images is read or written. Source and destination must not overlap, except where both
+ * are the same image (same pointers, steps and sample layout).
+ *
+ * Statuses: the first failing check decides, and then nothing is written. Unless a group says otherwise:
+ *   zorStatusNullPointer  an image pointer or an array of plane pointers is null (source before destination)
+ *   zorStatusBadSize      width or height is below 1
+ *   zorStatusNullPointer  a plane pointer inside an array is null (source planes before destination planes)
+ *   zorStatusOk
+ *
+ * Results of integer conversions are exact: the same bytes on every processor, alignment, step and thread count.
+ * All functions may be called from any thread at any time, on distinct destinations.
+ */
+#ifndef ZORCC_H
+#define ZORCC_H
+
+#include "zorcore.h"
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/* The version record: always the same address. */
+ZOR_API const ZorVersion* zorccGetLibVersion(void);
+
+/*
+ * ---- RGB and YUV ----------------------------------------------------------------------------------------------------
+ *
+ * 8-bit R'G'B' to and from the Y'UV of analogue television with the luma weights of ITU-R BT.601 (0.299, 0.587, 0.114)
+ * and full-range luma:
+ *   Y = 0.299 R + 0.587 G + 0.114 B,  U = 0.492 (B - Y) + 128,  V = 0.877 (R - Y) + 128
+ *   R = Y + 1.140 (V - 128),  G = Y - 0.394 (U - 128) - 0.581 (V - 128),  B = Y + 2.032 (U - 128)
+ * all in 0..255; U stays within 16..239, V saturates. Fixed point, rounded down, unless a function says otherwise.
+ * Channel (or plane) 0 is R, Y, or in BGR images B. Steps are not checked. All of these run on the calling thread.
+ */
+
+/* 4:4:4. One step serves all planes of an image. AC4P4: plane 3 receives the alpha of every source pixel. */
+ZOR_API ZorStatus zoriRGBToYUV_8u_C3R(const uint8_t* pSrc, int srcStep, uint8_t* pDst, int dstStep, ZorSize roiSize);
+ZOR_API ZorStatus zoriRGBToYUV_8u_AC4R(const uint8_t* pSrc, int srcStep, uint8_t* pDst, int dstStep, ZorSize roiSize);
+ZOR_API ZorStatus zoriRGBToYUV_8u_AC4P4R(const uint8_t* pSrc, int srcStep, uint8_t* const pDst[4], int dstStep,
+                                         ZorSize roiSize);
+ZOR_API ZorStatus zoriRGBToYUV_8u_C3P3R(const uint8_t* pSrc, int srcStep, uint8_t* const pDst[3], int dstStep,
+                                        ZorSize roiSize);
+
+/*
+ * 4:4:4, planes to planes, by a matrix with its own coefficients, the nearest multiples of 1/65536 (Y) and 1/32768 (U, V)
+ * not above -0.147, -0.289, 0.436 (U) and 0.615, -0.515, -0.100 (V). In the first 16 * (width / 16) pixels of a row each
+ * weighted term of Y is rounded down to 1/256 before they are added; the other pixels round the sum alone. Y can differ
+ * by one between the two.
+ */
+ZOR_API ZorStatus zoriRGBToYUV_8u_P3R(const uint8_t* const pSrc[3], int srcStep, uint8_t* const pDst[3], int dstStep,
+                                      ZorSize roiSize);
+
+/* 4:4:4 to RGB. The planar sources use coefficients one unit of 1/65536 below those of all other sources. */
+ZOR_API ZorStatus zoriYUVToRGB_8u_C3R(const uint8_t* pSrc, int srcStep, uint8_t* pDst, int dstStep, ZorSize roiSize);
+ZOR_API ZorStatus zoriYUVToRGB_8u_AC4R(const uint8_t* pSrc, int srcStep, uint8_t* pDst, int dstStep, ZorSize roiSize);
+ZOR_API ZorStatus zoriYUVToRGB_8u_P3C3R(const uint8_t* const pSrc[3], int srcStep, uint8_t* pDst, int dstStep,
+                                        ZorSize roiSize);
+ZOR_API ZorStatus zoriYUVToRGB_8u_P3R(const uint8_t* const pSrc[3], int srcStep, uint8_t* const pDst[3], int dstStep,
+                                      ZorSize roiSize);
+
+/*
+ * 4:2:2: two neighbouring pixels of a row share the mean of their U and V. C2 is packed Y0 U Y1 V; the chroma planes of P3
+ * are width / 2 (rounded down) wide and height high. An odd last pixel: packed, its Y and its own U are written, the two
+ * bytes behind them stay as they are; planar, only its Y is written.
+ */
+ZOR_API ZorStatus zoriRGBToYUV422_8u_C3C2R(const uint8_t* pSrc, int srcStep, uint8_t* pDst, int dstStep,
+                                           ZorSize roiSize);
+ZOR_API ZorStatus zoriRGBToYUV422_8u_C3P3R(const uint8_t* pSrc, int srcStep, uint8_t* const pDst[3],
+                                           const int dstStep[3], ZorSize roiSize);
+ZOR_API ZorStatus zoriRGBToYUV422_8u_C3P3(const uint8_t* pSrc, uint8_t* const pDst[3], ZorSize roiSize);
+ZOR_API ZorStatus zoriRGBToYUV422_8u_P3R(const uint8_t* const pSrc[3], int srcStep, uint8_t* const pDst[3],
+                                         const int dstStep[3], ZorSize roiSize);
+ZOR_API ZorStatus zoriRGBToYUV422_8u_P3(const uint8_t* const pSrc[3], uint8_t* const pDst[3], ZorSize roiSize);
+
+/*
+ * 16-bit 5-6-5 pixels to planar 4:2:2: R in bits 4..0, G in bits 10..5, B in bits 15..11, each moved to the top of a byte
+ * with zeros below, so that white is (248, 252, 248).
+ */
+ZOR_API ZorStatus zoriRGB565ToYUV422_16u8u_C3P3R(const uint16_t* pSrc, int srcStep, uint8_t* const pDst[3],
+                                                 const int dstStep[3], ZorSize roiSize);
+
+/*
+ * 4:2:2 to RGB: both pixels of a pair take the pair's U and V as they are. An odd last pixel: packed, its own U and the V
+ * of the pair before it (width 1: its U for both); planar, the last U and V of the row (width 1: there are none, 128).
+ */
+ZOR_API ZorStatus zoriYUV422ToRGB_8u_C2C3R(const uint8_t* pSrc, int srcStep, uint8_t* pDst, int dstStep,
+                                           ZorSize roiSize);
+ZOR_API ZorStatus zoriYUV422ToRGB_8u_P3C3R(const uint8_t* const pSrc[3], const int srcStep[3], uint8_t* pDst,
+                                           int dstStep, ZorSize roiSize);
+ZOR_API ZorStatus zoriYUV422ToRGB_8u_P3C3(const uint8_t* const pSrc[3], uint8_t* pDst, ZorSize roiSize);
+ZOR_API ZorStatus zoriYUV422ToRGB_8u_P3R(const uint8_t* const pSrc[3], const int srcStep[3], uint8_t* const pDst[3],
+                                         int dstStep, ZorSize roiSize);
+ZOR_API ZorStatus zoriYUV422ToRGB_8u_P3(const uint8_t* const pSrc[3], uint8_t* const pDst[3], ZorSize roiSize);
+
+/* The same, rounded to nearest; despite the name the fourth byte of every pixel is written: 0. */
+ZOR_API ZorStatus zoriYUV422ToRGB_8u_P3AC4R(const uint8_t* const pSrc[3], const int srcStep[3], uint8_t* pDst,
+                                            int dstStep, ZorSize roiSize);
+
+/*
+ * Planar 4:2:0: each 2 x 2 block of pixels shares the mean of its U and V; the chroma planes are width / 2 by height / 2.
+ * An odd last column or row is neither read nor written, and the result is then zorStatusOddSize instead of zorStatusOk.
+ */
+ZOR_API ZorStatus zoriRGBToYUV420_8u_C3P3R(const uint8_t* pSrc, int srcStep, uint8_t* const pDst[3],
+                                           const int dstStep[3], ZorSize roiSize);
+ZOR_API ZorStatus zoriRGBToYUV420_8u_C3P3(const uint8_t* pSrc, uint8_t* const pDst[3], ZorSize roiSize);
+ZOR_API ZorStatus zoriRGBToYUV420_8u_P3R(const uint8_t* const pSrc[3], int srcStep, uint8_t* const pDst[3],
+                                         const int dstStep[3], ZorSize roiSize);
+ZOR_API ZorStatus zoriRGBToYUV420_8u_P3(const uint8_t* const pSrc[3], uint8_t* const pDst[3], ZorSize roiSize);
+ZOR_API ZorStatus zoriBGRToYUV420_8u_AC4P3R(const uint8_t* pSrc, int srcStep, uint8_t* const pDst[3],
+                                            const int dstStep[3], ZorSize roiSize);
+ZOR_API ZorStatus zoriRGB565ToYUV420_16u8u_C3P3R(const uint16_t* pSrc, int srcStep, uint8_t* const pDst[3],
+                                                 const int dstStep[3], ZorSize roiSize);
+
+/* Planar 4:2:0 to RGB or BGR: the four pixels of a block take its U and V as they are. Odd sizes as above. */
+ZOR_API ZorStatus zoriYUV420ToRGB_8u_P3C3R(const uint8_t* const pSrc[3], const int srcStep[3], uint8_t* pDst,
+                                           int dstStep, ZorSize roiSize);
+ZOR_API ZorStatus zoriYUV420ToRGB_8u_P3C3(const uint8_t* const pSrc[3], uint8_t* pDst, ZorSize roiSize);
+ZOR_API ZorStatus zoriYUV420ToRGB_8u_P3R(const uint8_t* const pSrc[3], const int srcStep[3], uint8_t* const pDst[3],
+                                         int dstStep, ZorSize roiSize);
+ZOR_API ZorStatus zoriYUV420ToRGB_8u_P3(const uint8_t* const pSrc[3], uint8_t* const pDst[3], ZorSize roiSize);
+ZOR_API ZorStatus zoriYUV420ToBGR_8u_P3C3R(const uint8_t* const pSrc[3], const int srcStep[3], uint8_t* pDst,
+                                           int dstStep, ZorSize roiSize);
+
+/* The same, rounded to nearest; despite the name the fourth byte of every pixel is written: 0. */
+ZOR_API ZorStatus zoriYUV420ToRGB_8u_P3AC4R(const uint8_t* const pSrc[3], const int srcStep[3], uint8_t* pDst,
+                                            int dstStep, ZorSize roiSize);
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif

@@ -1,0 +1,71 @@
+/* SPDX-License-Identifier: MIT */
+/* Types shared by zorcc.h and zorcore.h. Valid C99 and C++17. */
+#ifndef ZORTYPES_H
+#define ZORTYPES_H
+
+#include <stdint.h>
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/* Result of every call: 0 is success, negative an error (nothing was written), positive a warning. */
+typedef int32_t ZorStatus;
+
+enum {
+    zorStatusOk = 0,
+    zorStatusNothingDone = 1,       /* warning: there was nothing to do; the destination is as it was */
+    zorStatusOddSize = 35,          /* warning: a size was odd in a subsampled format; the even part was converted */
+    zorStatusBadArgument = -5,      /* an enumerated argument or a count is outside its set */
+    zorStatusBadSize = -6,          /* width or height is below the function's minimum (1 unless stated) */
+    zorStatusNullPointer = -8,      /* a pointer, an array of plane pointers or a plane pointer is null */
+    zorStatusNoMemory = -9,         /* a temporary buffer could not be allocated */
+    zorStatusBadStep = -14,         /* a step is below 1, in the families that check steps */
+    zorStatusContextMismatch = -17, /* a state record is not of the kind that the function expects */
+    zorStatusBadRange = -49,        /* the upper bound minus the lower bound of a range is not greater than 0 */
+    zorStatusDitherLevels = -54,    /* the number of output levels is outside the function's range */
+    zorStatusNoiseRange = -55       /* the noise amount is outside 0..100 */
+};
+
+/* Size of the region to convert, in pixels. */
+typedef struct {
+    int32_t width, height;
+} ZorSize;
+
+/* A rectangle inside an image, in pixels; (x, y) is its top left pixel. */
+typedef struct {
+    int32_t x, y, width, height;
+} ZorRect;
+
+/* Colour of the 2 x 2 cell at pixel (0, 0) of a Bayer mosaic, read row by row. */
+typedef enum { zorBayerBGGR = 0, zorBayerRGGB = 1, zorBayerGBRG = 2, zorBayerGRBG = 3 } ZorBayerGrid;
+
+typedef enum {
+    zorDitherMethodNone = 0,
+    zorDitherMethodFloydSteinberg = 1,
+    zorDitherMethodJarvisJudiceNinke = 2,
+    zorDitherMethodStucki = 3,
+    zorDitherMethodOrdered = 4
+} ZorDitherMethod;
+
+/* What zorccGetLibVersion returns; owned by the library, valid for ever. */
+typedef struct {
+    int32_t major, minor;
+    int32_t buildMajor, buildMinor;
+    char cpuCode[4];         /* target code of the variant, zero padded; not always terminated */
+    const char* libraryName; /* file name of the library */
+    const char* versionText;
+    const char* buildDate;
+} ZorVersion;
+
+#if defined(__GNUC__)
+#define ZOR_API __attribute__((visibility("default")))
+#else
+#define ZOR_API
+#endif
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif

@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: MIT
+// Pixel formats as data: what a caller of the library must lay out in memory. Shared by tests, benchmarks and the tool.
+#pragma once
+
+#include <cstddef>
+#include <string_view>
+
+namespace zorcc::interface
+{
+
+enum class Model { rgb, yuv };
+
+enum class Sample { u8, u16, s16, s32, f32 };
+
+constexpr int sampleBytes(Sample sample)
+{
+    return sample == Sample::u8 ? 1 : sample == Sample::u16 || sample == Sample::s16 ? 2 : 4;
+}
+
+enum class Layout {
+    interleaved, // one plane, all channels of a pixel side by side
+    planar,      // one plane a channel; channels 1 and 2 may be subsampled
+    packed422,   // one plane, four samples for two pixels
+    semiPlanar,  // a luma plane and a plane of interleaved chroma pairs
+    packedBits   // one plane, all channels in the bits of one sample
+};
+
+// A plane holds `samples` samples for every (1 << log2X) x (1 << log2Y) pixels.
+struct PlaneShape {
+    int samples = 0, log2X = 0, log2Y = 0;
+};
+
+inline constexpr int maxPlanes = 4;
+
+struct Format {
+    std::string_view name;     // unique, as the tool's users write it
+    std::string_view channels; // in memory order, one letter each: "BGRA", "YUV", packed 4:2:2 by bytes: "YUYV"
+    Model model;
+    Sample sample;
+    Layout layout;
+    int planes;
+    PlaneShape plane[maxPlanes];
+
+    constexpr bool subsampled() const { return layout == Layout::packed422 || plane[1].log2X > 0; }
+    constexpr int log2X() const { return layout == Layout::packed422 ? 1 : plane[1].log2X; } // chroma subsampling
+    constexpr int log2Y() const { return plane[1].log2Y; }
+};
+
+// Bytes of one row of plane p, and its rows, that an image of the given size occupies. An odd last pixel counts for
+// nothing in a subsampled plane; a packed 4:2:2 row ends behind the last pixel's own two bytes.
+constexpr std::size_t rowBytes(const Format& f, int p, int width)
+{
+    return static_cast<std::size_t>(width >> f.plane[p].log2X) * f.plane[p].samples * sampleBytes(f.sample);
+}
+constexpr int rows(const Format& f, int p, int height) { return height >> f.plane[p].log2Y; }
+
+namespace formats
+{
+
+constexpr Format interleaved(std::string_view name, std::string_view channels, Model model, Sample sample)
+{
+    return {name, channels, model, sample, Layout::interleaved, 1, {{static_cast<int>(channels.size()), 0, 0}}};
+}
+
+// Chroma planes (1 and 2) hold one sample for (1 << log2X) x (1 << log2Y) pixels.
+constexpr Format planar(std::string_view name, std::string_view channels, Model model, Sample sample, int log2X = 0,
+                        int log2Y = 0)
+{
+    return {name,
+            channels,
+            model,
+            sample,
+            Layout::planar,
+            static_cast<int>(channels.size()),
+            {{1, 0, 0}, {1, log2X, log2Y}, {1, log2X, log2Y}, {channels.size() > 3 ? 1 : 0, 0, 0}}};
+}
+
+constexpr Format packed422(std::string_view name, std::string_view channels, Model model)
+{
+    return {name, channels, model, Sample::u8, Layout::packed422, 1, {{2, 0, 0}}};
+}
+
+constexpr Format packedBits(std::string_view name, std::string_view channels, Model model)
+{
+    return {name, channels, model, Sample::u16, Layout::packedBits, 1, {{1, 0, 0}}};
+}
+
+inline constexpr Format rgb24 = interleaved("rgb24", "RGB", Model::rgb, Sample::u8);
+inline constexpr Format bgr24 = interleaved("bgr24", "BGR", Model::rgb, Sample::u8);
+inline constexpr Format rgba = interleaved("rgba", "RGBA", Model::rgb, Sample::u8);
+inline constexpr Format bgra = interleaved("bgra", "BGRA", Model::rgb, Sample::u8);
+inline constexpr Format rgb444p = planar("rgb444p", "RGB", Model::rgb, Sample::u8);
+inline constexpr Format rgb565 = packedBits("rgb565", "RGB", Model::rgb); // R in the lowest bits
+
+inline constexpr Format yuv24 = interleaved("yuv24", "YUV", Model::yuv, Sample::u8);
+inline constexpr Format yuva = interleaved("yuva", "YUVA", Model::yuv, Sample::u8);
+inline constexpr Format yuv444p = planar("yuv444p", "YUV", Model::yuv, Sample::u8);
+inline constexpr Format yuva444p = planar("yuva444p", "YUVA", Model::yuv, Sample::u8);
+inline constexpr Format yuv422p = planar("yuv422p", "YUV", Model::yuv, Sample::u8, 1, 0);
+inline constexpr Format yuv420p = planar("yuv420p", "YUV", Model::yuv, Sample::u8, 1, 1);
+inline constexpr Format yuyv = packed422("yuyv", "YUYV", Model::yuv);
+
+} // namespace formats
+
+} // namespace zorcc::interface

@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+// The table of all exported conversions.
+#pragma once
+
+#include <span>
+#include <string_view>
+
+#include "interface/call.h"
+#include "interface/formats.h"
+
+namespace zorcc::interface
+{
+
+enum class Alpha { none, keep, copy, zero, argument };
+
+struct Function {
+    std::string_view name;
+    std::string_view family; // title
+    const Format* source;
+    const Format* destination;
+    Alpha alpha;
+    Signature signature;
+    ZorStatus (*bound)(Call&);
+
+    ZorStatus operator()(const Image& from, const Image& to, ZorSize size, const Extra& extra = {}) const
+    {
+        Call call{from, to, size, extra};
+        return bound(call);
+    }
+};
+
+std::span<const Function> functions();
+
+// Null when there is no such function.
+const Function* findFunction(std::string_view name);
+
+// Steps of an image without gaps between its rows, as the forms without steps take it.
+void setContiguousSteps(const Format& format, int width, Image& image);
+
+} // namespace zorcc::interface

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#include "simd/tier.h"
+
+namespace zorcc
+{
+
+Tier bestTier()
+{
+    // These queries cover the operating system's side, too: whether it saves the wide registers.
+    if (__builtin_cpu_supports("avx512f") && __builtin_cpu_supports("avx512bw") && __builtin_cpu_supports("avx512dq") &&
+        __builtin_cpu_supports("avx512vl") && __builtin_cpu_supports("avx512vbmi") &&
+        __builtin_cpu_supports("avx512vnni"))
+        return Tier::avx512;
+    return __builtin_cpu_supports("avx2") ? Tier::avx2 : Tier::ssse3;
+}
+
+namespace
+{
+
+// Set before main and before any library that uses this one is initialised; read without a lock by every call.
+Tier active = Tier::ssse3;
+
+__attribute__((constructor)) void chooseTier()
+{
+    __builtin_cpu_init();
+    active = bestTier();
+}
+
+} // namespace
+
+Tier activeTier() { return active; }
+void setActiveTier(Tier tier) { active = tier; }
+
+} // namespace zorcc
