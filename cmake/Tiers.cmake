@@ -11,6 +11,9 @@ function(zorcc_add_tiers target)
     add_library(${target}_${tier} OBJECT ${ARGN})
     target_compile_definitions(${target}_${tier} PRIVATE ZORCC_TIER=${tier} ZORCC_TIER_${tier})
     target_compile_options(${target}_${tier} PRIVATE ${ZORCC_TIER_FLAGS_${tier}} -fno-exceptions -fno-rtti)
+    # g++ 12 takes the undefined operands inside its own AVX-512 headers for uninitialised variables.
+    target_compile_options(${target}_${tier} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-Wno-uninitialized>
+      $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
     target_include_directories(${target}_${tier} PRIVATE ${PROJECT_SOURCE_DIR}/src ${PROJECT_SOURCE_DIR}/include)
     target_link_libraries(${target}_${tier} PRIVATE zorcc_options)
     target_link_libraries(${target} PUBLIC ${target}_${tier})

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Argument checks of the exported functions. Each gives zorStatusOk or the status to return; checkAll takes the first
-// failure of a list, so that a wrapper reads as the list of its checks in their order.
+// Argument checks of the exported functions. Each gives zorStatusOk or the status to return.
 #pragma once
 
 #include "zortypes.h"
@@ -8,22 +7,41 @@
 namespace zorcc
 {
 
-template <class... Pointers> [[nodiscard]] inline ZorStatus checkPointers(const Pointers*... pointers)
-{
-    return (... && pointers) ? zorStatusOk : zorStatusNullPointer;
-}
+// An image argument: a pointer to pixels, or to an array of `planes` plane pointers.
+template <class T> struct Interleaved {
+    const T* pixels;
+
+    bool missing() const { return !pixels; }
+    bool planeMissing() const { return false; }
+};
+
+template <int planes, class T> struct Planar {
+    const T* const* plane;
+
+    bool missing() const { return !plane; }
+    bool planeMissing() const
+    {
+        for (int p = 0; p < planes; ++p)
+            if (!plane[p]) return true;
+        return false;
+    }
+};
+
+template <class T> inline Interleaved<T> interleaved(const T* pixels) { return {pixels}; }
+template <int planes, class T> inline Planar<planes, T> planar(const T* const* plane) { return {plane}; }
 
 [[nodiscard]] inline ZorStatus checkSize(ZorSize size, int minWidth = 1, int minHeight = 1)
 {
     return size.width < minWidth || size.height < minHeight ? zorStatusBadSize : zorStatusOk;
 }
 
-// The plane pointers of an image whose array of planes is known not to be null.
-template <class T, int planes> [[nodiscard]] inline ZorStatus checkPlanes(T* const* plane)
+// The checks that most conversions share, in their order: the images themselves, the size, the planes of the images.
+template <class Source, class Destination>
+[[nodiscard]] inline ZorStatus checkImages(Source source, Destination destination, ZorSize size)
 {
-    for (int p = 0; p < planes; ++p)
-        if (!plane[p]) return zorStatusNullPointer;
-    return zorStatusOk;
+    if (source.missing() || destination.missing()) return zorStatusNullPointer;
+    if (const ZorStatus status = checkSize(size); status != zorStatusOk) return status;
+    return source.planeMissing() || destination.planeMissing() ? zorStatusNullPointer : zorStatusOk;
 }
 
 // What a conversion of whole 2 x 2 blocks returns after its work.

@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: MIT
+// 8-bit layouts in which every pixel has all of its channels.
+#pragma once
+
+#include "simd/layout.h"
+
+namespace zorcc::ZORCC_TIER
+{
+namespace
+{
+
+// Whether formulas see the channels as they are stored or, of a BGR image, as RGB.
+enum class Order { asStored, reversed };
+
+// Three interleaved channels.
+template <class Byte, Order order = Order::asStored> struct C3 : Rows<Byte, Unit{3, 0}> {
+    using Base = Rows<Byte, Unit{3, 0}>;
+    static constexpr int channels = 3;
+
+    Pixels<3> load(int x) const
+    {
+        u8v v[3];
+        deinterleave3(this->at(0, x), v);
+        return order == Order::reversed ? Pixels<3>{{{v[2], v[1], v[0]}}} : Pixels<3>{{{v[0], v[1], v[2]}}};
+    }
+
+    void store(int x, const Pixels<3>& p) const
+    {
+        const int first = order == Order::reversed ? 2 : 0;
+        const u8v v[3] = {p.c[0][first], p.c[0][1], p.c[0][2 - first]};
+        interleave3(this->at(0, x), v);
+    }
+};
+
+// Four interleaved channels of which formulas see the first three; what becomes of the fourth in a destination:
+enum class Fourth { kept, zero };
+
+template <class Byte, Order order = Order::asStored, Fourth fourth = Fourth::kept> struct C4 : Rows<Byte, Unit{4, 0}> {
+    using Base = Rows<Byte, Unit{4, 0}>;
+    static constexpr int channels = 3;
+
+    Pixels<3> load(int x) const
+    {
+        u8v v[4];
+        deinterleave4(this->at(0, x), v);
+        return order == Order::reversed ? Pixels<3>{{{v[2], v[1], v[0]}}} : Pixels<3>{{{v[0], v[1], v[2]}}};
+    }
+
+    void store(int x, const Pixels<3>& p) const
+    {
+        const int first = order == Order::reversed ? 2 : 0;
+        const u8v v[4] = {p.c[0][first], p.c[0][1], p.c[0][2 - first], u8v{}};
+        interleave4<fourth == Fourth::kept>(this->at(0, x), v);
+    }
+};
+
+// Four interleaved channels that formulas see all.
+template <class Byte> struct C4All : Rows<Byte, Unit{4, 0}> {
+    Pixels<4> load(int x) const
+    {
+        Pixels<4> p;
+        deinterleave4(this->at(0, x), p.c[0]);
+        return p;
+    }
+};
+
+// A plane for each of `count` channels.
+template <class Byte, Unit... units> struct Planes : Rows<Byte, units...> {
+    using Base = Rows<Byte, units...>;
+    static constexpr int channels = sizeof...(units);
+
+    Pixels<channels> load(int x) const
+    {
+        Pixels<channels> p;
+        for (int c = 0; c < channels; ++c) p.c[0][c] = zorcc::ZORCC_TIER::load(this->at(c, x));
+        return p;
+    }
+
+    void store(int x, const Pixels<channels>& p) const
+    {
+        for (int c = 0; c < channels; ++c) zorcc::ZORCC_TIER::store(this->at(c, x), p.c[0][c]);
+    }
+};
+template <class Byte> using P3 = Planes<Byte, Unit{1, 0}, Unit{1, 0}, Unit{1, 0}>;
+template <class Byte> using P4 = Planes<Byte, Unit{1, 0}, Unit{1, 0}, Unit{1, 0}, Unit{1, 0}>;
+
+// 16-bit pixels: channel 0 in bits 4..0, channel 1 in bits 10..5, channel 2 in bits 15..11. Each field moves to the top
+// of a byte, with zeros below.
+template <class Byte> struct Bits565 : Rows<Byte, Unit{2, 0}> {
+    using Base = Rows<Byte, Unit{2, 0}>;
+    static constexpr int channels = 3;
+
+    Pixels<3> load(int x) const
+    {
+        u8v v[2];
+        loadBlocks(this->at(0, x), v);
+        const u16v a = (u16v)v[0], b = (u16v)v[1];
+        return {{{pack(a << 3 & 0xf8, b << 3 & 0xf8), pack(a >> 3 & 0xfc, b >> 3 & 0xfc),
+                  pack(a >> 8 & 0xf8, b >> 8 & 0xf8)}}};
+    }
+
+    static u8v pack(u16v lo, u16v hi) { return packUnsigned((s16v)lo, (s16v)hi); }
+};
+
+} // namespace
+} // namespace zorcc::ZORCC_TIER

@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: MIT
+// The loop over a row, for every conversion: whole vectors, then the end of the row, never a byte outside it.
+#pragma once
+
+#include "simd/layout.h"
+
+namespace zorcc::ZORCC_TIER
+{
+namespace
+{
+
+// A copy of the first pixels of a row, long enough for a whole vector, with zeros behind them.
+template <class Layout> class Stage
+{
+public:
+    // `width` pixels, fewer than a vector holds.
+    Stage(const Layout& row, int width) : staged(row)
+    {
+        for (int p = 0; p < Layout::planes; ++p) {
+            __builtin_memcpy(bytes[p], row.plane[p], static_cast<size_t>(Layout::unit[p].offset(width)));
+            staged.plane[p] = bytes[p];
+        }
+    }
+
+    const Layout& row() const { return staged; }
+
+    void copyTo(const Layout& row, int width) const
+    {
+        for (int p = 0; p < Layout::planes; ++p)
+            __builtin_memcpy(row.plane[p], bytes[p], static_cast<size_t>(Layout::unit[p].offset(width)));
+    }
+
+private:
+    static constexpr int maxBytes = 4; // a pixel
+    alignas(vectorBytes) uint8_t bytes[Layout::planes][maxBytes * vectorBytes] = {};
+    Layout staged;
+};
+
+// Converts `width` pixels, a multiple of the pixels that share a sample. Source and destination may be the same row of
+// the same layout: the last vector, which overlaps the one before it, is read before anything is written.
+template <class Source, class Formula, class Destination>
+ZORCC_INLINE void convertRow(const Source from, const Formula formula, const Destination to, int width)
+{
+    constexpr int step = vectorBytes;
+    if (width >= step) {
+        const auto last = from.load(width - step);
+        int x = 0;
+        for (; x + step <= width; x += step) to.store(x, formula(from.load(x)));
+        if (x < width) to.store(width - step, formula(last));
+    } else if (width > 0) {
+        const Stage<Source> source(from, width);
+        const Stage<Destination> destination(to, width); // with what a store keeps
+        destination.row().store(0, formula(source.row().load(0)));
+        destination.copyTo(to, width);
+    }
+}
+
+// The same for the first `count` rows (or pairs of rows) of two images.
+template <class Source, class Formula, class Destination>
+ZORCC_INLINE void convertRows(const Image<Source> from, const Formula formula, const Image<Destination> to, int width,
+                              int count)
+{
+    for (int y = 0; y < count; ++y) convertRow(from[y], formula, to[y], width);
+}
+
+} // namespace
+} // namespace zorcc::ZORCC_TIER

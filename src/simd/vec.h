@@ -1,0 +1,153 @@
+// SPDX-License-Identifier: MIT
+// The vector vocabulary of a tier: the compiler's vector types, whose operators do the arithmetic, and functions for
+// what operators cannot say. Included by row files alone; everything has internal linkage, so that no code of one tier
+// can stand in for another's.
+//
+// A *block* is 128 bits. Zips, packs and shuffles work within blocks, as the instructions do; zipLow and zipHigh of two
+// vectors give elements in an order that a pack of both takes back.
+#pragma once
+
+#include <immintrin.h>
+#include <stdint.h>
+
+#define ZORCC_INLINE static inline __attribute__((always_inline))
+
+#if defined(ZORCC_TIER_avx512)
+    #define ZORCC_MM(op) _mm512_##op
+    #define ZORCC_SI(op) _mm512_##op##_si512
+#elif defined(ZORCC_TIER_avx2)
+    #define ZORCC_MM(op) _mm256_##op
+    #define ZORCC_SI(op) _mm256_##op##_si256
+#else
+    #define ZORCC_MM(op) _mm_##op
+    #define ZORCC_SI(op) _mm_##op##_si128
+#endif
+
+namespace zorcc::ZORCC_TIER
+{
+namespace
+{
+
+#if defined(ZORCC_TIER_avx512)
+constexpr int vectorBytes = 64;
+using Register = __m512i;
+#elif defined(ZORCC_TIER_avx2)
+constexpr int vectorBytes = 32;
+using Register = __m256i;
+#else
+constexpr int vectorBytes = 16;
+using Register = __m128i;
+#endif
+constexpr int blocks = vectorBytes / 16;
+
+template <class T> using Vec __attribute__((vector_size(vectorBytes))) = T;
+using u8v = Vec<uint8_t>;
+using s8v = Vec<int8_t>;
+using u16v = Vec<uint16_t>;
+using s16v = Vec<int16_t>;
+using u32v = Vec<uint32_t>;
+using s32v = Vec<int32_t>;
+using u64v = Vec<uint64_t>;
+using f32v = Vec<float>;
+
+ZORCC_INLINE Register reg(auto v) { return (Register)v; }
+
+// Memory may be anywhere: no alignment is asked for.
+template <class V = u8v> ZORCC_INLINE V load(const void* p)
+{
+    V v;
+    __builtin_memcpy(&v, p, sizeof v);
+    return v;
+}
+
+ZORCC_INLINE void store(void* p, auto v) { __builtin_memcpy(p, &v, sizeof v); }
+
+// A vector with every element `value`.
+ZORCC_INLINE u8v fill8(int value) { return (u8v)ZORCC_MM(set1_epi8)(static_cast<char>(value)); }
+ZORCC_INLINE s16v fill16(int value) { return (s16v)ZORCC_MM(set1_epi16)(static_cast<short>(value)); }
+ZORCC_INLINE s32v fill32(int value) { return (s32v)ZORCC_MM(set1_epi32)(value); }
+
+// The byte pair (first, second) in every 16-bit element, to multiply zipped bytes with.
+ZORCC_INLINE s8v fillPair8(int first, int second)
+{
+    return (s8v)fill16(static_cast<int16_t>((first & 0xff) | (second & 0xff) << 8));
+}
+
+ZORCC_INLINE s16v fillPair16(int first, int second)
+{
+    return (s16v)fill32((first & 0xffff) | static_cast<int32_t>(static_cast<uint32_t>(second) << 16));
+}
+
+// One block, repeated.
+ZORCC_INLINE u8v fillBlock(__m128i block)
+{
+#if defined(ZORCC_TIER_avx512)
+    return (u8v)_mm512_broadcast_i32x4(block);
+#elif defined(ZORCC_TIER_avx2)
+    return (u8v)_mm256_broadcastsi128_si256(block);
+#else
+    return (u8v)block;
+#endif
+}
+
+// ---- multiplication ------------------------------------------------------------------------------------------------
+
+// a0 b0 + a1 b1 of each pair of bytes; the caller's coefficients keep the sum within 16 bits (it would saturate).
+ZORCC_INLINE s16v mulAddPairs(u8v a, s8v b) { return (s16v)ZORCC_MM(maddubs_epi16)(reg(a), reg(b)); }
+
+// sum + a0 b0 + a1 b1 of each pair of 16-bit elements.
+ZORCC_INLINE s32v mulAddPairs(s32v sum, s16v a, s16v b)
+{
+#if defined(ZORCC_TIER_avx512)
+    return (s32v)_mm512_dpwssd_epi32(reg(sum), reg(a), reg(b));
+#else
+    return sum + (s32v)ZORCC_MM(madd_epi16)(reg(a), reg(b));
+#endif
+}
+
+// floor(a b / 65536)
+ZORCC_INLINE s16v mulHigh(s16v a, s16v b) { return (s16v)ZORCC_MM(mulhi_epi16)(reg(a), reg(b)); }
+ZORCC_INLINE u16v mulHigh(u16v a, u16v b) { return (u16v)ZORCC_MM(mulhi_epu16)(reg(a), reg(b)); }
+
+// ---- saturation ----------------------------------------------------------------------------------------------------
+
+ZORCC_INLINE u8v addSaturate(u8v a, u8v b) { return (u8v)ZORCC_MM(adds_epu8)(reg(a), reg(b)); }
+ZORCC_INLINE u8v subSaturate(u8v a, u8v b) { return (u8v)ZORCC_MM(subs_epu8)(reg(a), reg(b)); }
+
+// Per block: the elements of lo, then those of hi, saturated to the narrower type.
+ZORCC_INLINE u8v packUnsigned(s16v lo, s16v hi) { return (u8v)ZORCC_MM(packus_epi16)(reg(lo), reg(hi)); }
+ZORCC_INLINE s8v packSigned(s16v lo, s16v hi) { return (s8v)ZORCC_MM(packs_epi16)(reg(lo), reg(hi)); }
+ZORCC_INLINE s16v packSigned(s32v lo, s32v hi) { return (s16v)ZORCC_MM(packs_epi32)(reg(lo), reg(hi)); }
+
+// ---- order ---------------------------------------------------------------------------------------------------------
+
+// Per block: a0 b0 a1 b1 ... of the lower halves, and of the upper halves.
+template <class V> ZORCC_INLINE V zipLow(V a, V b)
+{
+    if constexpr (sizeof(a[0]) == 1)
+        return (V)ZORCC_MM(unpacklo_epi8)(reg(a), reg(b));
+    else if constexpr (sizeof(a[0]) == 2)
+        return (V)ZORCC_MM(unpacklo_epi16)(reg(a), reg(b));
+    else if constexpr (sizeof(a[0]) == 4)
+        return (V)ZORCC_MM(unpacklo_epi32)(reg(a), reg(b));
+    else
+        return (V)ZORCC_MM(unpacklo_epi64)(reg(a), reg(b));
+}
+
+template <class V> ZORCC_INLINE V zipHigh(V a, V b)
+{
+    if constexpr (sizeof(a[0]) == 1)
+        return (V)ZORCC_MM(unpackhi_epi8)(reg(a), reg(b));
+    else if constexpr (sizeof(a[0]) == 2)
+        return (V)ZORCC_MM(unpackhi_epi16)(reg(a), reg(b));
+    else if constexpr (sizeof(a[0]) == 4)
+        return (V)ZORCC_MM(unpackhi_epi32)(reg(a), reg(b));
+    else
+        return (V)ZORCC_MM(unpackhi_epi64)(reg(a), reg(b));
+}
+
+// Per block: element i is v[index[i]], or 0 where index[i] has its top bit set.
+ZORCC_INLINE u8v shuffle(u8v v, u8v index) { return (u8v)ZORCC_MM(shuffle_epi8)(reg(v), reg(index)); }
+
+} // namespace
+} // namespace zorcc::ZORCC_TIER
