@@ -5,8 +5,8 @@
  * Names: zori<Operation>_<sample types>_<layouts>R. Sample types: 8u, 16u, 16s, 32f (two joined: source, destination).
  * Layouts (two joined: source, destination):
  *   C1, C2, C3, C4  that many samples a pixel, interleaved, channel 0 at the lowest address
- *   AC4             four samples a pixel; the fourth is alpha: ignored in a source, left as it is in a destination. (Its
- *                   value stays; the store may rewrite it, so no other thread may change it during the call.)
+ *   AC4             four samples a pixel; the fourth is alpha: ignored in a source, left as it is in a destination (its
+ *                   value stays, but may be rewritten: no other thread may change it during the call)
  *   P2, P3, P4      planes; a P2 image is a luma plane and a plane of interleaved chroma pairs
  *   AP4             three colour planes and an alpha plane
  * An I before the layout marks the forms that work in place.
@@ -62,15 +62,15 @@ ZOR_API ZorStatus zoriRGBToYUV_8u_C3P3R(const uint8_t* pSrc, int srcStep, uint8_
                                         ZorSize roiSize);
 
 /*
- * 4:4:4, planes to planes, by a matrix with its own coefficients, the nearest multiples of 1/65536 (Y) and 1/32768 (U, V)
- * not above -0.147, -0.289, 0.436 (U) and 0.615, -0.515, -0.100 (V). In the first 16 * (width / 16) pixels of a row each
- * weighted term of Y is rounded down to 1/256 before they are added; the other pixels round the sum alone. Y can differ
- * by one between the two.
+ * 4:4:4, planes to planes, by a matrix:
+ *   U = -0.147 R - 0.289 G + 0.436 B + 128,  V = 0.615 R - 0.515 G - 0.100 B + 128
+ * In the first 16 * (width / 16) pixels of a row each weighted term of Y is rounded down to 1/256 before they are added;
+ * in the other pixels only the sum is rounded. Y can differ by one between the two.
  */
 ZOR_API ZorStatus zoriRGBToYUV_8u_P3R(const uint8_t* const pSrc[3], int srcStep, uint8_t* const pDst[3], int dstStep,
                                       ZorSize roiSize);
 
-/* 4:4:4 to RGB. The planar sources use coefficients one unit of 1/65536 below those of all other sources. */
+/* 4:4:4 to RGB. The planar sources use coefficients that are 1/65536 below those of all other sources. */
 ZOR_API ZorStatus zoriYUVToRGB_8u_C3R(const uint8_t* pSrc, int srcStep, uint8_t* pDst, int dstStep, ZorSize roiSize);
 ZOR_API ZorStatus zoriYUVToRGB_8u_AC4R(const uint8_t* pSrc, int srcStep, uint8_t* pDst, int dstStep, ZorSize roiSize);
 ZOR_API ZorStatus zoriYUVToRGB_8u_P3C3R(const uint8_t* const pSrc[3], int srcStep, uint8_t* pDst, int dstStep,
@@ -79,9 +79,9 @@ ZOR_API ZorStatus zoriYUVToRGB_8u_P3R(const uint8_t* const pSrc[3], int srcStep,
                                       ZorSize roiSize);
 
 /*
- * 4:2:2: two neighbouring pixels of a row share the mean of their U and V. C2 is packed Y0 U Y1 V; the chroma planes of P3
- * are width / 2 (rounded down) wide and height high. An odd last pixel: packed, its Y and its own U are written, the two
- * bytes behind them stay as they are; planar, only its Y is written.
+ * 4:2:2: two neighbouring pixels of a row share the mean of their U and V. C2 is packed Y0 U Y1 V; the chroma planes of
+ * P3 are width / 2 (rounded down) by height. An odd last pixel: packed, its Y and its own U are written and the row ends
+ * there; planar, only its Y is written.
  */
 ZOR_API ZorStatus zoriRGBToYUV422_8u_C3C2R(const uint8_t* pSrc, int srcStep, uint8_t* pDst, int dstStep,
                                            ZorSize roiSize);
@@ -93,15 +93,15 @@ ZOR_API ZorStatus zoriRGBToYUV422_8u_P3R(const uint8_t* const pSrc[3], int srcSt
 ZOR_API ZorStatus zoriRGBToYUV422_8u_P3(const uint8_t* const pSrc[3], uint8_t* const pDst[3], ZorSize roiSize);
 
 /*
- * 16-bit 5-6-5 pixels to planar 4:2:2: R in bits 4..0, G in bits 10..5, B in bits 15..11, each moved to the top of a byte
- * with zeros below, so that white is (248, 252, 248).
+ * 16-bit 5-6-5 pixels to planar 4:2:2: R in bits 4..0, G in bits 10..5, B in bits 15..11, each moved to the top of a
+ * byte with zeros below, so that white is (248, 252, 248).
  */
 ZOR_API ZorStatus zoriRGB565ToYUV422_16u8u_C3P3R(const uint16_t* pSrc, int srcStep, uint8_t* const pDst[3],
                                                  const int dstStep[3], ZorSize roiSize);
 
 /*
- * 4:2:2 to RGB: both pixels of a pair take the pair's U and V as they are. An odd last pixel: packed, its own U and the V
- * of the pair before it (width 1: its U for both); planar, the last U and V of the row (width 1: there are none, 128).
+ * 4:2:2 to RGB: both pixels of a pair take the pair's U and V as they are. An odd last pixel takes, packed, its own U and
+ * the V of the pair before it (width 1: its U for both); planar, the last U and V of the row (width 1: 128).
  */
 ZOR_API ZorStatus zoriYUV422ToRGB_8u_C2C3R(const uint8_t* pSrc, int srcStep, uint8_t* pDst, int dstStep,
                                            ZorSize roiSize);
@@ -117,8 +117,8 @@ ZOR_API ZorStatus zoriYUV422ToRGB_8u_P3AC4R(const uint8_t* const pSrc[3], const 
                                             int dstStep, ZorSize roiSize);
 
 /*
- * Planar 4:2:0: each 2 x 2 block of pixels shares the mean of its U and V; the chroma planes are width / 2 by height / 2.
- * An odd last column or row is neither read nor written, and the result is then zorStatusOddSize instead of zorStatusOk.
+ * Planar 4:2:0: the pixels of a 2 x 2 block share the mean of their U and V; chroma planes are width / 2 by height / 2.
+ * An odd last column or row is neither read nor written; the result is then zorStatusOddSize instead of zorStatusOk.
  */
 ZOR_API ZorStatus zoriRGBToYUV420_8u_C3P3R(const uint8_t* pSrc, int srcStep, uint8_t* const pDst[3],
                                            const int dstStep[3], ZorSize roiSize);
