@@ -14,8 +14,8 @@ namespace zorcc::ZORCC_TIER
 namespace
 {
 
-using YuvToRgbNearest = YuvToRgb<yuv::inverse, true>;
-using RGB0 = C4<Out, Order::asStored, Fourth::zero>; // the fourth byte is written as 0
+using YuvToRgb = YccToRgb<yuv::toRgb>;
+using YuvToRgb0 = WithAlpha<YccToRgb<yuv::toRgbNearest>>; // the fourth byte is written as 0
 
 // RGBA to YUVA: alpha goes along.
 struct RgbaToYuva {
@@ -67,7 +67,7 @@ template <class Source, class Destination>
 ZORCC_INLINE void innerRGBToYUV422(const Source& rgb, const Destination& yuv, int width)
 {
     const int even = width & ~1;
-    convertRow(rgb, RgbToSubsampledYuv<1, yuvOfPair>{}, yuv, even);
+    convertRow(rgb, RgbToYuv422{}, yuv, even);
     if (even == width) return;
     Yuv last;
     convertRow(from(rgb, even), RgbToYuv{}, P3<Out>{{{&last.y, &last.u, &last.v}}}, 1);
@@ -90,7 +90,7 @@ void rgbToYuv422(const Image<Source>& rgb, const Image<Destination>& yuv, int wi
     for (int y = 0; y < height; ++y) innerRGBToYUV422(rgb[y], yuv[y], width);
 }
 
-template <class Formula = YuvToRgb<yuv::inverse>, class Source, class Destination>
+template <class Formula = YuvToRgb, class Source, class Destination>
 void yuv422ToRgb(const Image<Source>& yuv, const Image<Destination>& rgb, int width, int height)
 {
     for (int y = 0; y < height; ++y) innerYUV422ToRGB<Formula>(yuv[y], rgb[y], width);
@@ -98,13 +98,13 @@ void yuv422ToRgb(const Image<Source>& yuv, const Image<Destination>& rgb, int wi
 
 // ---- 4:2:0: whole 2 x 2 blocks --------------------------------------------------------------------------------------
 
-template <SharedChroma chroma, class Source>
+template <class Formula, class Source>
 void rgbToYuv420(const Image<Source>& rgb, uint8_t* const* dst, const PlaneSteps& dstStep, int width, int height)
 {
-    convertRows(inPairs(rgb), RgbToSubsampledYuv<2, chroma>{}, planar420(dst, dstStep), width & ~1, height / 2);
+    convertRows(inPairs(rgb), Formula{}, planar420(dst, dstStep), width & ~1, height / 2);
 }
 
-template <class Formula = YuvToRgb<yuv::inverse>, class Destination>
+template <class Formula = YuvToRgb, class Destination>
 void yuv420ToRgb(const uint8_t* const* src, const PlaneSteps& srcStep, const Image<Destination>& rgb, int width,
                  int height)
 {
@@ -120,13 +120,13 @@ void myRGBToYUV_8u_C3R(const uint8_t* src, ptrdiff_t srcStep, uint8_t* dst, ptrd
 
 void myRGBToYUV_8u_AC4R(const uint8_t* src, ptrdiff_t srcStep, uint8_t* dst, ptrdiff_t dstStep, int width, int height)
 {
-    convertRows(rowsOf<C4<In>>(src, srcStep), RgbToYuv{}, rowsOf<C4<Out>>(dst, dstStep), width, height);
+    convertRows(rowsOf<AC4<In>>(src, srcStep), RgbToYuv{}, rowsOf<AC4<Out>>(dst, dstStep), width, height);
 }
 
 void myRGBToYUV_8u_AC4P4R(const uint8_t* src, ptrdiff_t srcStep, uint8_t* const dst[4], ptrdiff_t dstStep, int width,
                           int height)
 {
-    convertRows(rowsOf<C4All<In>>(src, srcStep), RgbaToYuva{}, rowsOf<P4<Out>>(dst, dstStep), width, height);
+    convertRows(rowsOf<C4<In>>(src, srcStep), RgbaToYuva{}, rowsOf<P4<Out>>(dst, dstStep), width, height);
 }
 
 void myRGBToYUV_8u_C3P3R(const uint8_t* src, ptrdiff_t srcStep, uint8_t* const dst[3], ptrdiff_t dstStep, int width,
@@ -145,25 +145,25 @@ void myRGBToYUV_8u_P3R(const uint8_t* const src[3], ptrdiff_t srcStep, uint8_t* 
 
 void myYUVToRGB_8u_C3R(const uint8_t* src, ptrdiff_t srcStep, uint8_t* dst, ptrdiff_t dstStep, int width, int height)
 {
-    convertRows(rowsOf<C3<In>>(src, srcStep), YuvToRgb<yuv::inverse>{}, rowsOf<C3<Out>>(dst, dstStep), width, height);
+    convertRows(rowsOf<C3<In>>(src, srcStep), YuvToRgb{}, rowsOf<C3<Out>>(dst, dstStep), width, height);
 }
 
 void myYUVToRGB_8u_AC4R(const uint8_t* src, ptrdiff_t srcStep, uint8_t* dst, ptrdiff_t dstStep, int width, int height)
 {
-    convertRows(rowsOf<C4<In>>(src, srcStep), YuvToRgb<yuv::inverse>{}, rowsOf<C4<Out>>(dst, dstStep), width, height);
+    convertRows(rowsOf<AC4<In>>(src, srcStep), YuvToRgb{}, rowsOf<AC4<Out>>(dst, dstStep), width, height);
 }
 
 void myYUVToRGB_8u_P3C3R(const uint8_t* const src[3], ptrdiff_t srcStep, uint8_t* dst, ptrdiff_t dstStep, int width,
                          int height)
 {
-    convertRows(rowsOf<P3<In>>(src, srcStep), YuvToRgb<yuv::planarInverse>{}, rowsOf<C3<Out>>(dst, dstStep), width,
+    convertRows(rowsOf<P3<In>>(src, srcStep), YccToRgb<yuv::planarToRgb>{}, rowsOf<C3<Out>>(dst, dstStep), width,
                 height);
 }
 
 void myYUVToRGB_8u_P3R(const uint8_t* const src[3], ptrdiff_t srcStep, uint8_t* const dst[3], ptrdiff_t dstStep,
                        int width, int height)
 {
-    convertRows(rowsOf<P3<In>>(src, srcStep), YuvToRgb<yuv::planarInverse>{}, rowsOf<P3<Out>>(dst, dstStep), width,
+    convertRows(rowsOf<P3<In>>(src, srcStep), YccToRgb<yuv::planarToRgb>{}, rowsOf<P3<Out>>(dst, dstStep), width,
                 height);
 }
 
@@ -212,31 +212,31 @@ void myYUV422ToRGB_8u_P3R(const uint8_t* const src[3], PlaneSteps srcStep, uint8
 void myYUV422ToRGB_8u_P3AC4R(const uint8_t* const src[3], PlaneSteps srcStep, uint8_t* dst, ptrdiff_t dstStep,
                              int width, int height)
 {
-    yuv422ToRgb<YuvToRgbNearest>(rowsOf<Planar422<In>>(src, srcStep), rowsOf<RGB0>(dst, dstStep), width, height);
+    yuv422ToRgb<YuvToRgb0>(rowsOf<Planar422<In>>(src, srcStep), rowsOf<C4<Out>>(dst, dstStep), width, height);
 }
 
 void myRGBToYUV420_8u_C3P3R(const uint8_t* src, ptrdiff_t srcStep, uint8_t* const dst[3], PlaneSteps dstStep, int width,
                             int height)
 {
-    rgbToYuv420<yuvOfBlock14>(rowsOf<C3<In>>(src, srcStep), dst, dstStep, width, height);
+    rgbToYuv420<RgbToYuv420By14>(rowsOf<C3<In>>(src, srcStep), dst, dstStep, width, height);
 }
 
 void myRGBToYUV420_8u_P3R(const uint8_t* const src[3], ptrdiff_t srcStep, uint8_t* const dst[3], PlaneSteps dstStep,
                           int width, int height)
 {
-    rgbToYuv420<yuvOfBlock>(rowsOf<P3<In>>(src, srcStep), dst, dstStep, width, height);
+    rgbToYuv420<RgbToYuv420>(rowsOf<P3<In>>(src, srcStep), dst, dstStep, width, height);
 }
 
 void myBGRToYUV420_8u_AC4P3R(const uint8_t* src, ptrdiff_t srcStep, uint8_t* const dst[3], PlaneSteps dstStep,
                              int width, int height)
 {
-    rgbToYuv420<yuvOfBlock>(rowsOf<C4<In, Order::reversed>>(src, srcStep), dst, dstStep, width, height);
+    rgbToYuv420<RgbToYuv420>(rowsOf<AC4<In, Order::reversed>>(src, srcStep), dst, dstStep, width, height);
 }
 
 void myRGB565ToYUV420_16u8u_C3P3R(const uint16_t* src, ptrdiff_t srcStep, uint8_t* const dst[3], PlaneSteps dstStep,
                                   int width, int height)
 {
-    rgbToYuv420<yuvOfBlock>(rowsOf<Bits565<In>>(src, srcStep), dst, dstStep, width, height);
+    rgbToYuv420<RgbToYuv420>(rowsOf<Bits565<In>>(src, srcStep), dst, dstStep, width, height);
 }
 
 void myYUV420ToRGB_8u_P3C3R(const uint8_t* const src[3], PlaneSteps srcStep, uint8_t* dst, ptrdiff_t dstStep, int width,
@@ -260,7 +260,7 @@ void myYUV420ToBGR_8u_P3C3R(const uint8_t* const src[3], PlaneSteps srcStep, uin
 void myYUV420ToRGB_8u_P3AC4R(const uint8_t* const src[3], PlaneSteps srcStep, uint8_t* dst, ptrdiff_t dstStep,
                              int width, int height)
 {
-    yuv420ToRgb<YuvToRgbNearest>(src, srcStep, rowsOf<RGB0>(dst, dstStep), width, height);
+    yuv420ToRgb<YuvToRgb0>(src, srcStep, rowsOf<C4<Out>>(dst, dstStep), width, height);
 }
 
 } // namespace zorcc::ZORCC_TIER

@@ -32,10 +32,8 @@ template <class Byte, Order order = Order::asStored> struct C3 : Rows<Byte, Unit
     }
 };
 
-// Four interleaved channels of which formulas see the first three; what becomes of the fourth in a destination:
-enum class Fourth { kept, zero };
-
-template <class Byte, Order order = Order::asStored, Fourth fourth = Fourth::kept> struct C4 : Rows<Byte, Unit{4, 0}> {
+// Four interleaved channels of which formulas see the first three. The fourth stays as it is in a destination.
+template <class Byte, Order order = Order::asStored> struct AC4 : Rows<Byte, Unit{4, 0}> {
     using Base = Rows<Byte, Unit{4, 0}>;
     static constexpr int channels = 3;
 
@@ -50,17 +48,27 @@ template <class Byte, Order order = Order::asStored, Fourth fourth = Fourth::kep
     {
         const int first = order == Order::reversed ? 2 : 0;
         const u8v v[4] = {p.c[0][first], p.c[0][1], p.c[0][2 - first], u8v{}};
-        interleave4<fourth == Fourth::kept>(this->at(0, x), v);
+        interleave4<true>(this->at(0, x), v);
     }
 };
 
 // Four interleaved channels that formulas see all.
-template <class Byte> struct C4All : Rows<Byte, Unit{4, 0}> {
+template <class Byte, Order order = Order::asStored> struct C4 : Rows<Byte, Unit{4, 0}> {
+    using Base = Rows<Byte, Unit{4, 0}>;
+    static constexpr int channels = 4;
+
     Pixels<4> load(int x) const
     {
-        Pixels<4> p;
-        deinterleave4(this->at(0, x), p.c[0]);
-        return p;
+        u8v v[4];
+        deinterleave4(this->at(0, x), v);
+        return order == Order::reversed ? Pixels<4>{{{v[2], v[1], v[0], v[3]}}} : Pixels<4>{{{v[0], v[1], v[2], v[3]}}};
+    }
+
+    void store(int x, const Pixels<4>& p) const
+    {
+        const int first = order == Order::reversed ? 2 : 0;
+        const u8v v[4] = {p.c[0][first], p.c[0][1], p.c[0][2 - first], p.c[0][3]};
+        interleave4<false>(this->at(0, x), v);
     }
 };
 

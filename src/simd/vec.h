@@ -109,6 +109,17 @@ ZORCC_INLINE s32v mulAddPairs(s32v sum, s16v a, s16v b)
 ZORCC_INLINE s16v mulHigh(s16v a, s16v b) { return (s16v)ZORCC_MM(mulhi_epi16)(reg(a), reg(b)); }
 ZORCC_INLINE u16v mulHigh(u16v a, u16v b) { return (u16v)ZORCC_MM(mulhi_epu16)(reg(a), reg(b)); }
 
+// sum, and 1 more where low + other does not fit 16 bits.
+ZORCC_INLINE s16v addWithCarry(s16v sum, u16v low, u16v other)
+{
+#if defined(ZORCC_TIER_avx512)
+    const __mmask32 carry = _mm512_cmpgt_epu16_mask(reg(low), reg(~other));
+    return (s16v)_mm512_mask_sub_epi16(reg(sum), carry, reg(sum), _mm512_set1_epi16(-1));
+#else
+    return sum - (s16v)((s16v)(low ^ 0x8000) > (s16v)(other ^ 0x7fff)); // true is -1
+#endif
+}
+
 // ---- saturation ----------------------------------------------------------------------------------------------------
 
 ZORCC_INLINE u8v addSaturate(u8v a, u8v b) { return (u8v)ZORCC_MM(adds_epu8)(reg(a), reg(b)); }
