@@ -64,8 +64,8 @@ ZOR_API ZorStatus zoriRGBToYUV_8u_C3P3R(const uint8_t* pSrc, int srcStep, uint8_
 /*
  * 4:4:4, planes to planes, by a matrix:
  *   U = -0.147 R - 0.289 G + 0.436 B + 128,  V = 0.615 R - 0.515 G - 0.100 B + 128
- * In the first 16 * (width / 16) pixels of a row each weighted term of Y is rounded down to 1/256 before they are added;
- * in the other pixels only the sum is rounded. Y can differ by one between the two.
+ * In the first 16 * (width / 16) pixels of a row each weighted term of Y is rounded down to 1/256 before they are
+ * added; in the other pixels only the sum is rounded. Y can differ by one between the two.
  */
 ZOR_API ZorStatus zoriRGBToYUV_8u_P3R(const uint8_t* const pSrc[3], int srcStep, uint8_t* const pDst[3], int dstStep,
                                       ZorSize roiSize);
@@ -80,8 +80,8 @@ ZOR_API ZorStatus zoriYUVToRGB_8u_P3R(const uint8_t* const pSrc[3], int srcStep,
 
 /*
  * 4:2:2: two neighbouring pixels of a row share the mean of their U and V. C2 is packed Y0 U Y1 V; the chroma planes of
- * P3 are width / 2 (rounded down) by height. An odd last pixel: packed, its Y and its own U are written and the row ends
- * there; planar, only its Y is written.
+ * P3 are width / 2 (rounded down) by height. An odd last pixel: packed, its Y and its own U are written and the row
+ * ends there; planar, only its Y is written.
  */
 ZOR_API ZorStatus zoriRGBToYUV422_8u_C3C2R(const uint8_t* pSrc, int srcStep, uint8_t* pDst, int dstStep,
                                            ZorSize roiSize);
@@ -100,8 +100,8 @@ ZOR_API ZorStatus zoriRGB565ToYUV422_16u8u_C3P3R(const uint16_t* pSrc, int srcSt
                                                  const int dstStep[3], ZorSize roiSize);
 
 /*
- * 4:2:2 to RGB: both pixels of a pair take the pair's U and V as they are. An odd last pixel takes, packed, its own U and
- * the V of the pair before it (width 1: its U for both); planar, the last U and V of the row (width 1: 128).
+ * 4:2:2 to RGB: both pixels of a pair take the pair's U and V as they are. An odd last pixel takes, packed, its own U
+ * and the V of the pair before it (width 1: its U for both); planar, the last U and V of the row (width 1: 128).
  */
 ZOR_API ZorStatus zoriYUV422ToRGB_8u_C2C3R(const uint8_t* pSrc, int srcStep, uint8_t* pDst, int dstStep,
                                            ZorSize roiSize);

@@ -20,7 +20,8 @@ ZOR_API void zorFree(void* block);
 
 /*
  * Size in bytes of the largest (last-level) data cache, stored to *bytes.
- * zorStatusNullPointer for a null pointer; zorStatusNothingDone, with *bytes as it was, when the processor does not tell.
+ * zorStatusNullPointer for a null pointer; zorStatusNothingDone, with *bytes as it was, when the processor does not
+ * tell.
  */
 ZOR_API ZorStatus zorGetMaxCacheSizeB(int* bytes);
 

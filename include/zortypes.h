@@ -59,9 +59,9 @@ typedef struct {
 } ZorVersion;
 
 #if defined(__GNUC__)
-#define ZOR_API __attribute__((visibility("default")))
+    #define ZOR_API __attribute__((visibility("default")))
 #else
-#define ZOR_API
+    #define ZOR_API
 #endif
 
 #ifdef __cplusplus

@@ -10,8 +10,7 @@
 #include "interface/formats.h"
 #include "zorcc.h"
 
-namespace zorcc::interface
-{
+namespace zorcc::interface {
 
 // Plane pointers and steps in bytes of one image; a single pointer or step argument takes entry 0.
 struct Image {

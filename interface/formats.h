@@ -5,8 +5,7 @@
 #include <cstddef>
 #include <string_view>
 
-namespace zorcc::interface
-{
+namespace zorcc::interface {
 
 enum class Model { rgb, yuv };
 
@@ -54,8 +53,7 @@ constexpr std::size_t rowBytes(const Format& f, int p, int width)
 }
 constexpr int rows(const Format& f, int p, int height) { return height >> f.plane[p].log2Y; }
 
-namespace formats
-{
+namespace formats {
 
 constexpr Format interleaved(std::string_view name, std::string_view channels, Model model, Sample sample)
 {

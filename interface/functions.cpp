@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "interface/functions.h"
 
-namespace zorcc::interface
-{
+namespace zorcc::interface {
 
-namespace
-{
+namespace {
 
 using namespace formats;
 

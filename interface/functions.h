@@ -8,8 +8,7 @@
 #include "interface/call.h"
 #include "interface/formats.h"
 
-namespace zorcc::interface
-{
+namespace zorcc::interface {
 
 enum class Alpha { none, keep, copy, zero, argument };
 

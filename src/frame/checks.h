@@ -4,8 +4,7 @@
 
 #include "zortypes.h"
 
-namespace zorcc
-{
+namespace zorcc {
 
 // An image argument: a pointer to pixels, or to an array of `planes` plane pointers.
 template <class T> struct Interleaved {

@@ -4,8 +4,7 @@
 
 #include <stddef.h>
 
-namespace zorcc
-{
+namespace zorcc {
 
 struct PlaneSteps {
     ptrdiff_t of[3];

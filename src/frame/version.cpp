@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "zorcc.h"
 
-namespace
-{
+namespace {
 
 constexpr ZorVersion version = {
     6, 1, 137, 754, {'n', '8', 0, 0}, "libzorccn8.so.6.1", "6.1 build 137.56", "Mar 17 2010"};

@@ -2,8 +2,7 @@
 // How coefficient sets between RGB and luma-chroma models are written down. Units are 1/65536 unless stated.
 #pragma once
 
-namespace zorcc
-{
+namespace zorcc {
 
 // Weights of R, G and B (or of any three channels) in a sum.
 struct Weights {

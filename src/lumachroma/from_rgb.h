@@ -6,10 +6,8 @@
 #include "simd/layout.h"
 #include "simd/weights.h"
 
-namespace zorcc::ZORCC_TIER
-{
-namespace
-{
+namespace zorcc::ZORCC_TIER {
+namespace {
 
 // (weighted sum + bias) >> 16 in 0..255, with a bias for the even and one for the odd pixels of a row.
 template <Weights w, int evenBias = 0, int oddBias = evenBias> struct WeighedLuma {
@@ -24,8 +22,7 @@ template <Weights w, int evenBias = 0, int oddBias = evenBias> struct WeighedLum
 
 // (bias + weighted sum) >> shift of 16-bit sums of bytes, saturated to 16 bits. Weights that pass 16 bits are brought
 // back by 65536 (to be made up for by the caller) or, above 32767, by a shift of their own.
-template <Weights w, int bias, int shift> class WeighedSums
-{
+template <Weights w, int bias, int shift> class WeighedSums {
 public:
     ZORCC_INLINE s16v of(s16v r, s16v g, s16v b)
     {

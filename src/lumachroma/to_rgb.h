@@ -6,13 +6,10 @@
 #include "simd/layout.h"
 #include "simd/weights.h"
 
-namespace zorcc::ZORCC_TIER
-{
-namespace
-{
+namespace zorcc::ZORCC_TIER {
+namespace {
 
-template <ToRgb k> class YccToRgb
-{
+template <ToRgb k> class YccToRgb {
 public:
     // Every channel is whole units of luma and chroma, added in 16 bits, and a rest of less than 16 bits in 8.8 fixed
     // point.

@@ -5,8 +5,7 @@
 
 #include "lumachroma/coefficients.h"
 
-namespace zorcc::yuv
-{
+namespace zorcc::yuv {
 
 // 0.299, 0.587, 0.114. They add up to 65536, so that luma needs no clamp.
 inline constexpr Weights luma = {19595, 38470, 7471};

@@ -7,10 +7,8 @@
 #include "lumachroma/to_rgb.h"
 #include "lumachroma/yuv_coeffs.h"
 
-namespace zorcc::ZORCC_TIER
-{
-namespace
-{
+namespace zorcc::ZORCC_TIER {
+namespace {
 
 // 4:4:4 by colour differences. With s the weighted sum, Y = s >> 16, and the difference to B is
 // ((B << 16) - s + 32767) >> 16 = B - ((s + 32768) >> 16): B less the rounded luma; likewise to R. 8.8 fixed point

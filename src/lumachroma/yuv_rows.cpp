@@ -6,13 +6,11 @@
 #include "simd/layouts_subsampled.h"
 #include "simd/row_loop.h"
 
-namespace zorcc::ZORCC_TIER
-{
+namespace zorcc::ZORCC_TIER {
 
 #include "lumachroma/yuv_rows.h"
 
-namespace
-{
+namespace {
 
 using YuvToRgb = YccToRgb<yuv::toRgb>;
 using YuvToRgb0 = WithAlpha<YccToRgb<yuv::toRgbNearest>>; // the fourth byte is written as 0

@@ -5,16 +5,13 @@
 // No include guard: a file may do this for several families.
 #include "simd/tier.h"
 
-namespace zorcc::ssse3
-{
+namespace zorcc::ssse3 {
 #include ZORCC_DRIVERS
 }
-namespace zorcc::avx2
-{
+namespace zorcc::avx2 {
 #include ZORCC_DRIVERS
 }
-namespace zorcc::avx512
-{
+namespace zorcc::avx512 {
 #include ZORCC_DRIVERS
 }
 

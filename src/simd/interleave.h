@@ -5,10 +5,8 @@
 
 #include "simd/vec.h"
 
-namespace zorcc::ZORCC_TIER
-{
-namespace
-{
+namespace zorcc::ZORCC_TIER {
+namespace {
 
 // ---- blocks: block b of v[k] is block b * count + k of memory ------------------------------------------------------
 

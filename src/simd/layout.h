@@ -12,10 +12,8 @@
 #include "frame/steps.h"
 #include "simd/interleave.h"
 
-namespace zorcc::ZORCC_TIER
-{
-namespace
-{
+namespace zorcc::ZORCC_TIER {
+namespace {
 
 // ---- what layouts hand to formulas, and formulas to layouts ---------------------------------------------------------
 

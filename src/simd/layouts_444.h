@@ -4,10 +4,8 @@
 
 #include "simd/layout.h"
 
-namespace zorcc::ZORCC_TIER
-{
-namespace
-{
+namespace zorcc::ZORCC_TIER {
+namespace {
 
 // Whether formulas see the channels as they are stored or, of a BGR image, as RGB.
 enum class Order { asStored, reversed };

@@ -4,10 +4,8 @@
 
 #include "simd/layout.h"
 
-namespace zorcc::ZORCC_TIER
-{
-namespace
-{
+namespace zorcc::ZORCC_TIER {
+namespace {
 
 // A luma plane and two chroma planes, one row of each: 4:2:2.
 template <class Byte> struct Planar422 : Rows<Byte, Unit{1, 0}, Unit{1, 1}, Unit{1, 1}> {

@@ -4,14 +4,11 @@
 
 #include "simd/layout.h"
 
-namespace zorcc::ZORCC_TIER
-{
-namespace
-{
+namespace zorcc::ZORCC_TIER {
+namespace {
 
 // A copy of the first pixels of a row, long enough for a whole vector, with zeros behind them.
-template <class Layout> class Stage
-{
+template <class Layout> class Stage {
 public:
     // `width` pixels, fewer than a vector holds.
     Stage(const Layout& row, int width) : staged(row)

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "simd/tier.h"
 
-namespace zorcc
-{
+namespace zorcc {
 
 Tier bestTier()
 {
@@ -14,8 +13,7 @@ Tier bestTier()
     return __builtin_cpu_supports("avx2") ? Tier::avx2 : Tier::ssse3;
 }
 
-namespace
-{
+namespace {
 
 // Set before main and before any library that uses this one is initialised; read without a lock by every call.
 Tier active = Tier::ssse3;

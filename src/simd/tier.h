@@ -3,8 +3,7 @@
 // name; all tiers give the same bytes.
 #pragma once
 
-namespace zorcc
-{
+namespace zorcc {
 
 enum class Tier {
     ssse3, // 128 bits: what every processor that the library supports has

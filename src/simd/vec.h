@@ -23,10 +23,8 @@
     #define ZORCC_SI(op) _mm_##op##_si128
 #endif
 
-namespace zorcc::ZORCC_TIER
-{
-namespace
-{
+namespace zorcc::ZORCC_TIER {
+namespace {
 
 #if defined(ZORCC_TIER_avx512)
 constexpr int vectorBytes = 64;

@@ -6,10 +6,8 @@
 #include "lumachroma/coefficients.h"
 #include "simd/vec.h"
 
-namespace zorcc::ZORCC_TIER
-{
-namespace
-{
+namespace zorcc::ZORCC_TIER {
+namespace {
 
 // A coefficient k as 256 high + low with low in -128..127.
 constexpr int highPart(int k) { return (k + 128) >> 8; }
