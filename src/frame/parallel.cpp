@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: MIT
+#include "frame/parallel.h"
+
+#include <omp.h>
+#include <stdint.h>
+
+#include "zorcore.h"
+
+namespace zorcc {
+namespace {
+
+constexpr int64_t maxSerialPixels = 4096;
+constexpr int minBandedSize = 192; // width and height
+constexpr int minGroupedWidth = 128;
+constexpr int maxSerialGroupedHeight = 128;
+constexpr int rowsPerGroup = 4;
+
+// A caller that is parallel itself already keeps the processors busy.
+int teamSize() { return omp_in_parallel() ? 1 : ownGetNumThreads(); }
+
+// Calls body(0) .. body(count - 1), contiguous ranges on each of at most `threads` threads.
+void forEach(int threads, int count, FunctionRef<void(int)> body)
+{
+    if (threads == 1) {
+        for (int i = 0; i < count; ++i) body(i);
+        return;
+    }
+#pragma omp parallel for schedule(static) num_threads(threads)
+    for (int i = 0; i < count; ++i) body(i);
+}
+
+} // namespace
+
+void rowsAboveThreshold(int width, int height, FunctionRef<void(int)> row)
+{
+    forEach(int64_t{width} * height > maxSerialPixels ? teamSize() : 1, height, row);
+}
+
+void rowsAlways(int height, FunctionRef<void(int)> row) { forEach(teamSize(), height, row); }
+
+void bandsAboveThreshold(int width, int height, FunctionRef<void(int, int)> band)
+{
+    const int bands = width >= minBandedSize && height >= minBandedSize ? teamSize() : 1;
+    const int share = height / bands;
+    forEach(bands, bands, [&](int index) {
+        const int first = index * share;
+        const int count = index == bands - 1 ? height - first : share;
+        if (count > 0) band(first, count);
+    });
+}
+
+void groupsAboveThreshold(int width, int height, FunctionRef<void(GroupBand)> band)
+{
+    const int groups = height / rowsPerGroup;
+    const int threads = width >= minGroupedWidth && height > maxSerialGroupedHeight ? teamSize() : 1;
+    if (threads == 1) {
+        band({0, groups, true, true});
+        return;
+    }
+#pragma omp parallel num_threads(threads)
+    {
+        // The team may be smaller than asked for, so shares are formed here, by each member for itself.
+        const int members = omp_get_num_threads();
+        const int member = omp_get_thread_num();
+        const int share = (height - rowsPerGroup) / rowsPerGroup / members;
+        const int first = member * share;
+        const bool isLast = member == members - 1;
+        const int count = isLast ? groups - first : share;
+        if (count > 0) band({first, count, first == 0, isLast});
+    }
+}
+
+} // namespace zorcc

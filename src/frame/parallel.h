@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+// Rows of an image on several threads: the calling thread forks a team of ownGetNumThreads() members, every member
+// converts its share, all join before the call returns. Members write different rows, so there are no locks, and the
+// result does not depend on how many there are.
+//
+// Inside a parallel region of the caller nothing is forked: the calling thread does all the work.
+#pragma once
+
+#include "frame/function_ref.h"
+
+namespace zorcc {
+
+// Calls row(y) for every row; forks above 4096 pixels. Each member gets one contiguous band of rows.
+void rowsAboveThreshold(int width, int height, FunctionRef<void(int y)> row);
+
+// Calls row(y) for every row; forks whatever the size.
+void rowsAlways(int height, FunctionRef<void(int y)> row);
+
+// Calls band(first row, row count) for one band a thread; forks from 192 x 192 pixels. All bands have the same number
+// of rows, but the last also takes the remainder. Bands without rows are left out.
+void bandsAboveThreshold(int width, int height, FunctionRef<void(int firstRow, int rowCount)> band);
+
+// Groups of four rows, for fields of two rows that are filtered across group borders.
+struct GroupBand {
+    int firstGroup, groupCount;
+    bool isFirst, isLast; // whether the image begins, ends with this band; both when there is only one
+};
+
+// Calls band for one band of groups a thread; forks from a width of 128 and above a height of 128. Together the bands
+// hold height / 4 groups; up to three rows below them are left to the band that is last. The last group belongs to that
+// band alone and is no part of what is divided: the others have equal shares of the rest, rounded down.
+void groupsAboveThreshold(int width, int height, FunctionRef<void(GroupBand)> band);
+
+} // namespace zorcc

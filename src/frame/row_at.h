@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <stddef.h>
+#include <stdint.h>
+#include <type_traits>
+
+namespace zorcc {
+
+// First sample of row y; the step is in bytes, and step times row need not fit an int.
+template <class Sample> inline Sample* rowAt(Sample* firstRow, int step, int y)
+{
+    using Byte = std::conditional_t<std::is_const_v<Sample>, const uint8_t, uint8_t>;
+    return reinterpret_cast<Sample*>(reinterpret_cast<Byte*>(firstRow) + static_cast<ptrdiff_t>(step) * y);
+}
+
+} // namespace zorcc
