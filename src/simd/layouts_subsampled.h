@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// 8-bit layouts in which two columns, or four pixels, share chroma. Widths are even.
+// 8-bit layouts in which two or four columns, or four pixels, share chroma. Widths are even.
 #pragma once
 
 #include "simd/layout.h"
@@ -44,21 +44,35 @@ template <class Byte> Image<Planar420<Byte>> planar420(Byte* const* plane, const
     return {{plane[0], plane[0] + y, plane[1], plane[2]}, {2 * y, 2 * y, step.of[1], step.of[2]}};
 }
 
-// Packed 4:2:2: luma, first chroma, luma, second chroma.
-template <class Byte> struct Packed422 : Rows<Byte, Unit{4, 1}> {
+// A luma plane and two chroma planes with a sample for four columns, one row of each: 4:1:1. Widths are multiples of 4.
+template <class Byte> struct Planar411 : Rows<Byte, Unit{1, 0}, Unit{1, 2}, Unit{1, 2}> {
+    Subsampled<1> load(int x) const
+    {
+        return {{zorcc::ZORCC_TIER::load(this->at(0, x))}, loadQuarters(this->at(1, x), this->at(2, x))};
+    }
+};
+
+// Packed 4:2:2: luma and chroma bytes take turns, the chroma bytes being of the first channel and of the second in
+// turn.
+enum class PackedOrder { lumaFirst, chromaFirst };
+
+template <class Byte, PackedOrder order = PackedOrder::lumaFirst> struct Packed422 : Rows<Byte, Unit{4, 1}> {
     Subsampled<1> load(int x) const
     {
         u8v v[2];
         loadBlocks(this->at(0, x), v);
-        const s16v a = (s16v)v[0], b = (s16v)v[1];
-        const u8v chroma = packUnsigned((s16v)((u16v)a >> 8), (s16v)((u16v)b >> 8));
-        return {{packUnsigned(a & 0xff, b & 0xff)}, unzipHalves(chroma)};
+        const u8v even = packUnsigned((s16v)v[0] & 0xff, (s16v)v[1] & 0xff);
+        const u8v odd = packUnsigned((s16v)((u16v)v[0] >> 8), (s16v)((u16v)v[1] >> 8));
+        if constexpr (order == PackedOrder::lumaFirst) return {{even}, unzipHalves(odd)};
+        return {{odd}, unzipHalves(even)};
     }
 
     void store(int x, const Subsampled<1>& s) const
     {
         const u8v chroma = zipHalves(s.chroma);
-        storeBlocks(this->at(0, x), {zipLow(s.y[0], chroma), zipHigh(s.y[0], chroma)});
+        const u8v even = order == PackedOrder::lumaFirst ? s.y[0] : chroma;
+        const u8v odd = order == PackedOrder::lumaFirst ? chroma : s.y[0];
+        storeBlocks(this->at(0, x), {zipLow(even, odd), zipHigh(even, odd)});
     }
 };
 

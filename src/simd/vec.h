@@ -123,6 +123,11 @@ ZORCC_INLINE s16v addWithCarry(s16v sum, u16v low, u16v other)
 ZORCC_INLINE u8v addSaturate(u8v a, u8v b) { return (u8v)ZORCC_MM(adds_epu8)(reg(a), reg(b)); }
 ZORCC_INLINE u8v subSaturate(u8v a, u8v b) { return (u8v)ZORCC_MM(subs_epu8)(reg(a), reg(b)); }
 
+ZORCC_INLINE u8v clamp(u8v v, int low, int high)
+{
+    return (u8v)ZORCC_MM(max_epu8)(ZORCC_MM(min_epu8)(reg(v), reg(fill8(high))), reg(fill8(low)));
+}
+
 // Per block: the elements of lo, then those of hi, saturated to the narrower type.
 ZORCC_INLINE u8v packUnsigned(s16v lo, s16v hi) { return (u8v)ZORCC_MM(packus_epi16)(reg(lo), reg(hi)); }
 ZORCC_INLINE s8v packSigned(s16v lo, s16v hi) { return (s8v)ZORCC_MM(packs_epi16)(reg(lo), reg(hi)); }
