@@ -51,7 +51,7 @@ void rgbTo422(const Image<Source> rgb, const Pairs pairs, const Single single, c
         convertRow(rgb[y], pairs, ycc[y], even);
         if (even == width) continue;
         YccPixel last;
-        convertRow(from(rgb[y], even), single, P3<Out>{{{&last.y, &last.u, &last.v}}}, 1);
+        convertShortRow(from(rgb[y], even), single, P3<Out>{{{&last.y, &last.u, &last.v}}}, 1);
         storeLastPixel(ycc[y], even, last);
     }
 }
@@ -64,7 +64,7 @@ void rgbFrom422(const Image<Source> ycc, const Formula formula, const Image<Dest
         convertRow(ycc[y], formula, rgb[y], even);
         if (even == width) continue;
         const YccPixel last = lastPixel(ycc[y], even);
-        convertRow(P3<In>{{{&last.y, &last.u, &last.v}}}, formula, from(rgb[y], even), 1);
+        convertShortRow(P3<In>{{{&last.y, &last.u, &last.v}}}, formula, from(rgb[y], even), 1);
     }
 }
 
@@ -79,10 +79,11 @@ void rgbFrom411(const Image<Planar411<In>> ycc, const Formula formula, const Ima
     for (int y = 0; y < height; ++y) {
         const Planar411<In> row = ycc[y];
         convertRow(row, formula, rgb[y], whole);
+        if (whole == width) continue;
         const uint8_t u = whole > 0 ? *(row.at(1, whole) - 1) : 128, v = whole > 0 ? *(row.at(2, whole) - 1) : 128;
         const uint8_t chroma[2][3] = {{u, u, u}, {v, v, v}};
         const P3<In> rest = {{{row.at(0, whole), chroma[0], chroma[1]}}};
-        convertRow(rest, formula, from(rgb[y], whole), width - whole);
+        convertShortRow(rest, formula, from(rgb[y], whole), width - whole);
     }
 }
 

@@ -78,9 +78,28 @@ private:
     ZORCC_INLINE Triple offsets(u8v uv)
     {
         const s16v u = firstOfPairs(uv) - 128, v = secondOfPairs(uv) - 128;
-        constexpr int whole = wholePart(-k.g2), part = signedPart(-k.g2);
-        const s16v g = (weighPair<-k.g1, part, k.constantG + 128 * 65536 * whole>(uv) >> 8) + times<whole>(v);
-        return {{product<k.r, k.constantR>(v), g, product<k.b, k.constantB>(u)}};
+        return {
+            {product<k.r, k.constantR>(v), product2<-k.g1, -k.g2, k.constantG>(u, v), product<k.b, k.constantB>(u)}};
+    }
+
+    // The constants centre chroma, which u and v are already, and round.
+    template <int constant, int weights> static constexpr bool rounds()
+    {
+        static_assert(constant + 128 * weights == 0 || constant + 128 * weights == 32768);
+        return constant + 128 * weights == 32768;
+    }
+
+    template <int weight, int constant> ZORCC_INLINE s16v product(s16v c)
+    {
+        return rounds<constant, weight>() ? scaleRounded<weight>(c) : scale<weight>(c);
+    }
+
+    template <int first, int second, int constant> ZORCC_INLINE s16v product2(s16v u, s16v v)
+    {
+        const s16v sum = addWithCarry(scale<first>(u) + scale<second>(v), scaleRest<first>(u), scaleRest<second>(v));
+        if constexpr (rounds<constant, first + second>())
+            return sum + (s16v)((scaleRest<first>(u) + scaleRest<second>(v)) >> 15);
+        return sum;
     }
 
     // Offsets are formed once for a pair of columns and applied to the bytes of luma as what is to be added and what is
@@ -95,13 +114,6 @@ private:
             for (int row = 0; row < rows; ++row) rgb.c[row][c] = subSaturate(addSaturate(ycc.y[row], more), less);
         }
         return rgb;
-    }
-
-    template <int weight, int constant> ZORCC_INLINE s16v product(s16v c)
-    {
-        constexpr int rounding = constant + 128 * weight;
-        static_assert(rounding == 0 || rounding == 32768);
-        return rounding ? scaleRounded<weight>(c) : scale<weight>(c);
     }
 
     // ---- shared chroma, luma scaled

@@ -154,7 +154,7 @@ void myRGBToYUV420_8u_P3R(const uint8_t* const src[3], ptrdiff_t srcStep, uint8_
 void myBGRToYUV420_8u_AC4P3R(const uint8_t* src, ptrdiff_t srcStep, uint8_t* const dst[3], PlaneSteps dstStep,
                              int width, int height)
 {
-    rgbTo420(rowsOf<AC4<In, Order::reversed>>(src, srcStep), RgbToYuv420{}, dst, dstStep, width, height);
+    rgbTo420(rowsOf<BGRX<In>>(src, srcStep), RgbToYuv420{}, dst, dstStep, width, height);
 }
 
 void myRGB565ToYUV420_16u8u_C3P3R(const uint16_t* src, ptrdiff_t srcStep, uint8_t* const dst[3], PlaneSteps dstStep,
@@ -178,7 +178,7 @@ void myYUV420ToRGB_8u_P3R(const uint8_t* const src[3], PlaneSteps srcStep, uint8
 void myYUV420ToBGR_8u_P3C3R(const uint8_t* const src[3], PlaneSteps srcStep, uint8_t* dst, ptrdiff_t dstStep, int width,
                             int height)
 {
-    rgbFrom420(src, srcStep, YuvToRgb{}, rowsOf<C3<Out, Order::reversed>>(dst, dstStep), width, height);
+    rgbFrom420(src, srcStep, YuvToRgb{}, rowsOf<BGR<Out>>(dst, dstStep), width, height);
 }
 
 void myYUV420ToRGB_8u_P3AC4R(const uint8_t* const src[3], PlaneSteps srcStep, uint8_t* dst, ptrdiff_t dstStep,

@@ -70,6 +70,10 @@ template <class Byte, Order order = Order::asStored> struct C4 : Rows<Byte, Unit
     }
 };
 
+template <class Byte> using BGR = C3<Byte, Order::reversed>;
+template <class Byte> using BGRX = AC4<Byte, Order::reversed>;
+template <class Byte> using BGRA = C4<Byte, Order::reversed>;
+
 // A plane for each of `count` channels.
 template <class Byte, Unit... units> struct Planes : Rows<Byte, units...> {
     using Base = Rows<Byte, units...>;

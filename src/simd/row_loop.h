@@ -33,6 +33,16 @@ private:
     Layout staged;
 };
 
+// Converts `width` pixels, fewer than a vector holds.
+template <class Source, class Formula, class Destination>
+ZORCC_INLINE void convertShortRow(const Source from, const Formula formula, const Destination to, int width)
+{
+    const Stage<Source> source(from, width);
+    const Stage<Destination> destination(to, width); // with what a store keeps
+    destination.row().store(0, formula(source.row().load(0)));
+    destination.copyTo(to, width);
+}
+
 // Converts `width` pixels, a multiple of the pixels that share a sample. Source and destination may be the same row of
 // the same layout: the last vector, which overlaps the one before it, is read before anything is written.
 template <class Source, class Formula, class Destination>
@@ -42,13 +52,10 @@ ZORCC_INLINE void convertRow(const Source from, const Formula formula, const Des
     if (width >= step) {
         const auto last = from.load(width - step);
         int x = 0;
-        for (; x + step <= width; x += step) to.store(x, formula(from.load(x)));
+        for (; x <= width - step; x += step) to.store(x, formula(from.load(x)));
         if (x < width) to.store(width - step, formula(last));
     } else if (width > 0) {
-        const Stage<Source> source(from, width);
-        const Stage<Destination> destination(to, width); // with what a store keeps
-        destination.row().store(0, formula(source.row().load(0)));
-        destination.copyTo(to, width);
+        convertShortRow(from, formula, to, width);
     }
 }
 

@@ -13,14 +13,25 @@ namespace {
 constexpr int highPart(int k) { return (k + 128) >> 8; }
 constexpr int lowPart(int k) { return k - 256 * highPart(k); }
 
-// Whether a sum of products of bytes with the coefficients, and of a constant, stays within 16 bits.
-constexpr bool sumFits16(int a, int b, int c = 0, int constant = 0)
-{
-    const int most = (a > 0 ? a : 0) + (b > 0 ? b : 0) + (c > 0 ? c : 0);
-    const int least = (a < 0 ? a : 0) + (b < 0 ? b : 0) + (c < 0 ? c : 0);
-    return 255 * most + constant <= 32767 && 255 * least + constant >= -32768;
-}
+// The extremes of a sum of products of bytes with coefficients.
+constexpr int mostOf(int a, int b, int c = 0) { return 255 * ((a > 0 ? a : 0) + (b > 0 ? b : 0) + (c > 0 ? c : 0)); }
+constexpr int leastOf(int a, int b, int c = 0) { return -mostOf(-a, -b, -c); }
+constexpr bool sumFits16(int a, int b) { return mostOf(a, b) <= 32767 && leastOf(a, b) >= -32768; }
 constexpr bool fits8(int k) { return k >= -128 && k <= 127; }
+
+// H + floor((L + constant % 256) / 256) + floor(constant / 256) for 16-bit L between least and most, modulo 65536.
+// Where L passes the signed range it is moved into the unsigned one by a multiple of 256.
+template <int least, int most, int constant> ZORCC_INLINE u16v combine(u16v high, s16v low)
+{
+    constexpr int below = constant & 0xff;
+    if constexpr (most + below <= 32767 && least >= -32768) {
+        return high + (u16v)((low + fill16(below)) >> 8) + (u16v)fill16(constant >> 8);
+    } else {
+        constexpr int lift = (255 - least) / 256;
+        static_assert(most + below + 256 * lift <= 65535);
+        return high + (((u16v)low + (u16v)fill16(below + 256 * lift)) >> 8) + (u16v)fill16((constant >> 8) - lift);
+    }
+}
 
 // floor((w.r R + w.g G + w.b B + constant) / 256) modulo 65536, from the zipped bytes (R, G) and (B, G).
 //
@@ -31,25 +42,24 @@ template <Weights w, int constant = 0> ZORCC_INLINE u16v weigh(u8v rg, u8v bg)
 {
     constexpr int r = highPart(w.r), b = highPart(w.b), g = highPart(w.g);
     constexpr int gWithR = g > 0 && r > 0 && g > 128 - r ? 128 - r : g, gWithB = g - gWithR;
+    constexpr int rLow = lowPart(w.r), gLow = lowPart(w.g), bLow = lowPart(w.b);
     static_assert(fits8(r) && fits8(b) && fits8(gWithR) && fits8(gWithB));
-    static_assert(sumFits16(r, gWithR) && sumFits16(b, gWithB));
-    static_assert(sumFits16(lowPart(w.r), lowPart(w.g), lowPart(w.b), constant & 0xff));
+    static_assert(sumFits16(r, gWithR) && sumFits16(b, gWithB) && sumFits16(rLow, gLow));
 
     const u16v high = (u16v)mulAddPairs(rg, fillPair8(r, gWithR)) + (u16v)mulAddPairs(bg, fillPair8(b, gWithB));
-    const s16v low =
-        mulAddPairs(rg, fillPair8(lowPart(w.r), lowPart(w.g))) + mulAddPairs(bg, fillPair8(lowPart(w.b), 0));
-    return high + (u16v)((low + fill16(constant & 0xff)) >> 8) + (u16v)fill16(constant >> 8);
+    const u16v low = (u16v)mulAddPairs(rg, fillPair8(rLow, gLow)) + (u16v)mulAddPairs(bg, fillPair8(bLow, 0));
+    return combine<leastOf(rLow, gLow, bLow), mostOf(rLow, gLow, bLow), constant>(high, (s16v)low);
 }
 
 // floor((first a + second b + constant) / 256) modulo 65536, from the zipped bytes (a, b).
 template <int first, int second, int constant> ZORCC_INLINE s16v weighPair(u8v ab)
 {
-    static_assert(fits8(highPart(first)) && fits8(highPart(second)) && sumFits16(highPart(first), highPart(second)));
-    static_assert(sumFits16(lowPart(first), lowPart(second), 0, constant & 0xff));
+    constexpr int a = highPart(first), b = highPart(second), aLow = lowPart(first), bLow = lowPart(second);
+    static_assert(fits8(a) && fits8(b) && sumFits16(a, b) && sumFits16(aLow, bLow));
 
-    const u16v high = (u16v)mulAddPairs(ab, fillPair8(highPart(first), highPart(second)));
-    const s16v low = mulAddPairs(ab, fillPair8(lowPart(first), lowPart(second)));
-    return (s16v)(high + (u16v)((low + fill16(constant & 0xff)) >> 8) + (u16v)fill16(constant >> 8));
+    const u16v high = (u16v)mulAddPairs(ab, fillPair8(a, b));
+    return (s16v)combine<leastOf(aLow, bLow), mostOf(aLow, bLow), constant>(high,
+                                                                            mulAddPairs(ab, fillPair8(aLow, bLow)));
 }
 
 // A coefficient of 17 bits as 65536 whole + part with a signed 16-bit part.
@@ -66,11 +76,11 @@ template <int whole> ZORCC_INLINE s16v times(s16v v)
 // floor(k v / 65536)
 template <int k> ZORCC_INLINE s16v scale(s16v v) { return mulHigh(v, fill16(signedPart(k))) + times<wholePart(k)>(v); }
 
-// The same, rounded to nearest, a half upwards: the top bit of the lower half of part v carries.
-template <int k> ZORCC_INLINE s16v scaleRounded(s16v v)
-{
-    return scale<k>(v) + (s16v)(((u16v)v * (u16v)fill16(signedPart(k))) >> 15);
-}
+// k v - 65536 floor(k v / 65536): what scale leaves.
+template <int k> ZORCC_INLINE u16v scaleRest(s16v v) { return (u16v)v * (u16v)fill16(signedPart(k)); }
+
+// Rounded to nearest, a half upwards.
+template <int k> ZORCC_INLINE s16v scaleRounded(s16v v) { return scale<k>(v) + (s16v)(scaleRest<k>(v) >> 15); }
 
 // ---- packing results ------------------------------------------------------------------------------------------------
 
