@@ -145,6 +145,145 @@ ZOR_API ZorStatus zoriYUV420ToBGR_8u_P3C3R(const uint8_t* const pSrc[3], const i
 ZOR_API ZorStatus zoriYUV420ToRGB_8u_P3AC4R(const uint8_t* const pSrc[3], const int srcStep[3], uint8_t* pDst,
                                             int dstStep, ZorSize roiSize);
 
+/*
+ * ---- RGB and YCbCr (ITU-R BT.601) -----------------------------------------------------------------------------------
+ *
+ * 8-bit R'G'B' to and from Y'CbCr in studio range: Y 16..235, Cb and Cr 16..240 around 128:
+ *   Y  =  0.257 R + 0.504 G + 0.098 B + 16      R = 1.164 (Y - 16)                      + 1.596 (Cr - 128)
+ *   Cb = -0.148 R - 0.291 G + 0.439 B + 128     G = 1.164 (Y - 16) - 0.392 (Cb - 128) - 0.813 (Cr - 128)
+ *   Cr =  0.439 R - 0.368 G - 0.071 B + 128     B = 1.164 (Y - 16) + 2.017 (Cb - 128)
+ * From RGB results are rounded to nearest and never leave studio range; to RGB they are rounded down and saturate, so
+ * that peak white (235, 128, 128) gives 254. Channel (or plane) 0 is R, Y, or in BGR images B; YCrCb images have Cr in
+ * plane 1. Steps are not checked. All of these run on the calling thread.
+ */
+
+/* 4:4:4. One step serves all planes of an image. */
+ZOR_API ZorStatus zoriRGBToYCbCr_8u_C3R(const uint8_t* pSrc, int srcStep, uint8_t* pDst, int dstStep, ZorSize roiSize);
+ZOR_API ZorStatus zoriRGBToYCbCr_8u_AC4R(const uint8_t* pSrc, int srcStep, uint8_t* pDst, int dstStep, ZorSize roiSize);
+ZOR_API ZorStatus zoriRGBToYCbCr_8u_C3P3R(const uint8_t* pSrc, int srcStep, uint8_t* const pDst[3], int dstStep,
+                                          ZorSize roiSize);
+ZOR_API ZorStatus zoriRGBToYCbCr_8u_AC4P3R(const uint8_t* pSrc, int srcStep, uint8_t* const pDst[3], int dstStep,
+                                           ZorSize roiSize);
+ZOR_API ZorStatus zoriRGBToYCbCr_8u_P3R(const uint8_t* const pSrc[3], int srcStep, uint8_t* const pDst[3], int dstStep,
+                                        ZorSize roiSize);
+
+/* 4:4:4 to RGB. C4: the fourth byte of every pixel is `aval`. Planar to interleaved: coefficients 2/65536 lower. */
+ZOR_API ZorStatus zoriYCbCrToRGB_8u_C3R(const uint8_t* pSrc, int srcStep, uint8_t* pDst, int dstStep, ZorSize roiSize);
+ZOR_API ZorStatus zoriYCbCrToRGB_8u_AC4R(const uint8_t* pSrc, int srcStep, uint8_t* pDst, int dstStep, ZorSize roiSize);
+ZOR_API ZorStatus zoriYCbCrToRGB_8u_P3R(const uint8_t* const pSrc[3], int srcStep, uint8_t* const pDst[3], int dstStep,
+                                        ZorSize roiSize);
+ZOR_API ZorStatus zoriYCbCrToRGB_8u_P3C3R(const uint8_t* const pSrc[3], int srcStep, uint8_t* pDst, int dstStep,
+                                          ZorSize roiSize);
+ZOR_API ZorStatus zoriYCbCrToRGB_8u_P3C4R(const uint8_t* const pSrc[3], int srcStep, uint8_t* pDst, int dstStep,
+                                          ZorSize roiSize, uint8_t aval);
+
+/*
+ * To packed 4:2:2, Y0 Cb Y1 Cr: a pair of pixels shares the mean of its chroma. The luma of the second pixel is rounded
+ * down. An odd last pixel has its Y and its own Cb written, and the row ends there.
+ */
+ZOR_API ZorStatus zoriRGBToYCbCr422_8u_C3C2R(const uint8_t* pSrc, int srcStep, uint8_t* pDst, int dstStep,
+                                             ZorSize roiSize);
+ZOR_API ZorStatus zoriRGBToYCbCr422_8u_P3C2R(const uint8_t* const pSrc[3], int srcStep, uint8_t* pDst, int dstStep,
+                                             ZorSize roiSize);
+
+/*
+ * 4:2:2 to RGB: both pixels of a pair take its chroma. An odd last pixel takes, packed, its own Cb and the Cr of the
+ * pair before it (width 1: its Cb for both); planar, the last chroma samples of the row (width 1: 128). The constants
+ * of the packed forms are up to 57/65536 lower than exact centring gives.
+ */
+ZOR_API ZorStatus zoriYCbCr422ToRGB_8u_C2C3R(const uint8_t* pSrc, int srcStep, uint8_t* pDst, int dstStep,
+                                             ZorSize roiSize);
+ZOR_API ZorStatus zoriYCbCr422ToRGB_8u_C2P3R(const uint8_t* pSrc, int srcStep, uint8_t* const pDst[3], int dstStep,
+                                             ZorSize roiSize);
+ZOR_API ZorStatus zoriYCbCr422ToRGB_8u_P3C3R(const uint8_t* const pSrc[3], const int srcStep[3], uint8_t* pDst,
+                                             int dstStep, ZorSize roiSize);
+
+/*
+ * To planar 4:2:0: the pixels of a 2 x 2 block share the mean of their chroma, rounded down from an eighth above it;
+ * chroma planes are width / 2 by height / 2. An odd last column or row is neither read nor written; the result is then
+ * zorStatusOddSize.
+ */
+ZOR_API ZorStatus zoriRGBToYCbCr420_8u_C3P3R(const uint8_t* pSrc, int srcStep, uint8_t* const pDst[3],
+                                             const int dstStep[3], ZorSize roiSize);
+
+/* Planar 4:2:0 to RGB or BGR: the pixels of a block take its chroma. Odd sizes as above. C4: `aval` is the fourth byte.
+ */
+ZOR_API ZorStatus zoriYCbCr420ToRGB_8u_P3C3R(const uint8_t* const pSrc[3], const int srcStep[3], uint8_t* pDst,
+                                             int dstStep, ZorSize roiSize);
+ZOR_API ZorStatus zoriYCbCr420ToBGR_8u_P3C3R(const uint8_t* const pSrc[3], const int srcStep[3], uint8_t* pDst,
+                                             int dstStep, ZorSize roiSize);
+ZOR_API ZorStatus zoriYCbCr420ToBGR_8u_P3C4R(const uint8_t* const pSrc[3], const int srcStep[3], uint8_t* pDst,
+                                             int dstStep, ZorSize roiSize, uint8_t aval);
+ZOR_API ZorStatus zoriYCrCb420ToRGB_8u_P3C4R(const uint8_t* const pSrc[3], const int srcStep[3], uint8_t* pDst,
+                                             int dstStep, ZorSize roiSize, uint8_t aval);
+
+/*
+ * The same with chroma upsampled by a centred triangle filter: of the four chroma samples around a pixel the nearest
+ * counts 9/16, its two neighbours 3/16 each, the diagonal one 1/16, rounded to nearest; the edges of the (even part of
+ * the) image repeat.
+ */
+ZOR_API ZorStatus zoriYCrCb420ToBGR_Filter_8u_P3C4R(const uint8_t* const pSrc[3], const int srcStep[3], uint8_t* pDst,
+                                                    int dstStep, ZorSize roiSize, uint8_t aval);
+
+/*
+ * Planar 4:1:1, chroma planes of width / 4 by height, to BGR: four pixels take a chroma sample; the last width mod 4
+ * pixels of a row take its last one (width below 4: 128).
+ */
+ZOR_API ZorStatus zoriYCbCr411ToBGR_8u_P3C3R(const uint8_t* const pSrc[3], const int srcStep[3], uint8_t* pDst,
+                                             int dstStep, ZorSize roiSize);
+ZOR_API ZorStatus zoriYCbCr411ToBGR_8u_P3C4R(const uint8_t* const pSrc[3], const int srcStep[3], uint8_t* pDst,
+                                             int dstStep, ZorSize roiSize, uint8_t aval);
+
+/*
+ * ---- BGR and YCbCr (ITU-R BT.709) -----------------------------------------------------------------------------------
+ *
+ * 709CSC is studio range (Y 16..235, Cb and Cr 16..240), 709HDTV full range (luma 0..255, chroma around 128,
+ * saturated): CSC   Y = 0.183 R + 0.614 G + 0.062 B + 16,  Cb = -0.101 R - 0.338 G + 0.439 B + 128, Cr = 0.439 R -
+ * 0.399 G - 0.040 B + 128 R = 1.164 (Y - 16) + 1.793 (Cr - 128),  G = 1.164 (Y - 16) - 0.213 (Cb - 128) - 0.534 (Cr -
+ * 128), B = 1.164 (Y - 16) + 2.115 (Cb - 128) HDTV  Y = 0.213 R + 0.715 G + 0.072 B,  Cb = -0.117 R - 0.394 G + 0.511 B
+ * + 128, Cr = 0.511 R - 0.464 G - 0.047 B + 128 R = Y + 1.540 (Cr - 128),  G = Y - 0.183 (Cb - 128) - 0.459 (Cr - 128),
+ * B = Y + 1.816 (Cb - 128) Rounded to nearest, but 4:2:0 chroma down from an eighth above. Channel 0 is B; YCrCb images
+ * have Cr in plane 1. Chroma is shared and repeated as in the BT.601 functions; 4:2:0 functions give zorStatusOddSize
+ * for odd sizes, as there. Steps are not checked. All of these run on the calling thread. C4: the fourth byte of every
+ * pixel is `aval`.
+ */
+
+/* BGR to planar 4:2:0. */
+ZOR_API ZorStatus zoriBGRToYCbCr420_709CSC_8u_C3P3R(const uint8_t* pSrc, int srcStep, uint8_t* const pDst[3],
+                                                    const int dstStep[3], ZorSize roiSize);
+ZOR_API ZorStatus zoriBGRToYCbCr420_709CSC_8u_AC4P3R(const uint8_t* pSrc, int srcStep, uint8_t* const pDst[3],
+                                                     const int dstStep[3], ZorSize roiSize);
+ZOR_API ZorStatus zoriBGRToYCrCb420_709CSC_8u_C3P3R(const uint8_t* pSrc, int srcStep, uint8_t* const pDst[3],
+                                                    const int dstStep[3], ZorSize roiSize);
+ZOR_API ZorStatus zoriBGRToYCrCb420_709CSC_8u_AC4P3R(const uint8_t* pSrc, int srcStep, uint8_t* const pDst[3],
+                                                     const int dstStep[3], ZorSize roiSize);
+ZOR_API ZorStatus zoriBGRToYCbCr420_709HDTV_8u_AC4P3R(const uint8_t* pSrc, int srcStep, uint8_t* const pDst[3],
+                                                      const int dstStep[3], ZorSize roiSize);
+
+/* Planar to BGR. */
+ZOR_API ZorStatus zoriYCbCr420ToBGR_709CSC_8u_P3C3R(const uint8_t* const pSrc[3], const int srcStep[3], uint8_t* pDst,
+                                                    int dstStep, ZorSize roiSize);
+ZOR_API ZorStatus zoriYCbCr420ToBGR_709HDTV_8u_P3C4R(const uint8_t* const pSrc[3], const int srcStep[3], uint8_t* pDst,
+                                                     int dstStep, ZorSize roiSize, uint8_t aval);
+ZOR_API ZorStatus zoriYCbCrToBGR_709CSC_8u_P3C3R(const uint8_t* const pSrc[3], int srcStep, uint8_t* pDst, int dstStep,
+                                                 ZorSize roiSize);
+ZOR_API ZorStatus zoriYCbCrToBGR_709CSC_8u_P3C4R(const uint8_t* const pSrc[3], int srcStep, uint8_t* pDst, int dstStep,
+                                                 ZorSize roiSize, uint8_t aval);
+
+/*
+ * BGR to and from packed 4:2:2, Cb Y0 Cr Y1. To 4:2:2 every sample is limited to 1..254; an odd last pixel has its own
+ * Cb and its Y written, and the row ends there. To BGR it takes its own Cb and the Cr of the pair before it (width 1:
+ * its Cb for both).
+ */
+ZOR_API ZorStatus zoriBGRToCbYCr422_709HDTV_8u_C3C2R(const uint8_t* pSrc, int srcStep, uint8_t* pDst, int dstStep,
+                                                     ZorSize roiSize);
+ZOR_API ZorStatus zoriBGRToCbYCr422_709HDTV_8u_AC4C2R(const uint8_t* pSrc, int srcStep, uint8_t* pDst, int dstStep,
+                                                      ZorSize roiSize);
+ZOR_API ZorStatus zoriCbYCr422ToBGR_709HDTV_8u_C2C3R(const uint8_t* pSrc, int srcStep, uint8_t* pDst, int dstStep,
+                                                     ZorSize roiSize);
+ZOR_API ZorStatus zoriCbYCr422ToBGR_709HDTV_8u_C2C4R(const uint8_t* pSrc, int srcStep, uint8_t* pDst, int dstStep,
+                                                     ZorSize roiSize, uint8_t aval);
+
 #ifdef __cplusplus
 }
 #endif

@@ -18,4 +18,14 @@ inline ptrdiff_t contiguousC3(int width) { return 3 * static_cast<ptrdiff_t>(wid
 // Of 8-bit planes whose rows follow each other without gaps; chroma has half the columns, rounded down.
 inline PlaneSteps contiguousHalfWidthChroma(int width) { return {{width, width / 2, width / 2}}; }
 
+// The planes and steps of an image whose second plane is Cr and third is Cb, in the order Y, Cb, Cr that the drivers
+// expect.
+template <class Byte> struct PlanePointers {
+    Byte* of[3];
+
+    operator Byte* const*() const { return of; }
+};
+template <class Byte> PlanePointers<Byte> crFirst(Byte* const* plane) { return {{plane[0], plane[2], plane[1]}}; }
+inline PlaneSteps crFirst(const int* step) { return {{step[0], step[2], step[1]}}; }
+
 } // namespace zorcc
