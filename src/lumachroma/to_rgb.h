@@ -23,7 +23,7 @@ public:
         return rgb;
     }
 
-    template <int rows> Pixels<3, rows> operator()(const Subsampled<rows>& ycc) const
+    template <int rows> auto operator()(const Subsampled<rows>& ycc) const
     {
         const u8v uv = zipHalves(ycc.chroma);
         if constexpr (k.y == 65536)
@@ -96,7 +96,7 @@ private:
 
     template <int first, int second, int constant> ZORCC_INLINE s16v product2(s16v u, s16v v)
     {
-        const s16v sum = addWithCarry(scale<first>(u) + scale<second>(v), scaleRest<first>(u), scaleRest<second>(v));
+        const s16v sum = addOneWhere(scale<first>(u) + scale<second>(v), scaleRest<first>(u), ~scaleRest<second>(v));
         if constexpr (rounds<constant, first + second>())
             return sum + (s16v)((scaleRest<first>(u) + scaleRest<second>(v)) >> 15);
         return sum;
@@ -121,46 +121,49 @@ private:
 
     // Luma and chroma products are 16.16 fixed point in two halves. Even and odd columns are apart, so that the chroma
     // of a pair of columns stands in the lane of both.
-    struct Halves {
+    struct Luma {
         s16v high;
         u16v low;
     };
+    struct Chroma {
+        s16v high;
+        u16v room; // 65535 - low: a luma above it carries
+    };
 
-    template <int rows> ZORCC_INLINE Pixels<3, rows> onScaledLuma(const Subsampled<rows>& ycc, u8v uv)
+    template <int rows>
+    ZORCC_INLINE Pixels<3, rows, Columns::evenThenOdd> onScaledLuma(const Subsampled<rows>& ycc, u8v uv)
     {
-        const Halves chroma[3] = {chromaHalves<0, k.r, k.constantR>(uv), chromaHalves<-k.g1, -k.g2, k.constantG>(uv),
+        const Chroma chroma[3] = {chromaHalves<0, k.r, k.constantR>(uv), chromaHalves<-k.g1, -k.g2, k.constantG>(uv),
                                   chromaHalves<k.b, 0, k.constantB>(uv)};
-        Pixels<3, rows> rgb;
+        Pixels<3, rows, Columns::evenThenOdd> rgb;
         for (int row = 0; row < rows; ++row) {
-            const Halves even = lumaHalves(mulAddPairs(ycc.y[row], fillPair8(2, 0)));
-            const Halves odd = lumaHalves(mulAddPairs(ycc.y[row], fillPair8(0, 2)));
-            for (int c = 0; c < 3; ++c)
-                rgb.c[row][c] = zipHalves(packUnsigned(whole(even, chroma[c]), whole(odd, chroma[c])));
+            const Luma even = lumaHalves(mulAddPairs(ycc.y[row], fillPair8(2, 0)));
+            const Luma odd = lumaHalves(mulAddPairs(ycc.y[row], fillPair8(0, 2)));
+            for (int c = 0; c < 3; ++c) rgb.c[row][c] = packUnsigned(whole(even, chroma[c]), whole(odd, chroma[c]));
         }
         return rgb;
     }
 
     // From luma doubled, which brings its weight into 16 bits.
-    ZORCC_INLINE Halves lumaHalves(s16v twice)
+    ZORCC_INLINE Luma lumaHalves(s16v twice)
     {
         static_assert(k.y % 2 == 0);
         const u16v weight = (u16v)fill16(k.y / 2);
         return {(s16v)mulHigh((u16v)twice, weight), (u16v)twice * weight};
     }
 
-    template <int first, int second, int constant> ZORCC_INLINE Halves chromaHalves(u8v uv)
+    template <int first, int second, int constant> ZORCC_INLINE Chroma chromaHalves(u8v uv)
     {
         const s16v u = firstOfPairs(uv), v = secondOfPairs(uv);
         const s16v parts = fillPair16(signedPart(first), signedPart(second));
         const s32v lo = mulAddPairs(fill32(constant), (s16v)zipLow(uv, u8v{}), parts);
         const s32v hi = mulAddPairs(fill32(constant), (s16v)zipHigh(uv, u8v{}), parts);
-        const u16v low = (u16v)u * (u16v)fill16(signedPart(first)) + (u16v)v * (u16v)fill16(signedPart(second)) +
-                         (u16v)fill16(constant);
-        return {packSigned(lo >> 16, hi >> 16) + times<wholePart(first)>(u) + times<wholePart(second)>(v), low};
+        const u16v room = (u16v)fill16(-1 - constant) - scaleRest<first>(u) - scaleRest<second>(v);
+        return {packSigned(lo >> 16, hi >> 16) + times<wholePart(first)>(u) + times<wholePart(second)>(v), room};
     }
 
-    // The whole part of a sum.
-    ZORCC_INLINE s16v whole(const Halves& a, const Halves& b) { return addWithCarry(a.high + b.high, a.low, b.low); }
+    // The whole part of the sum.
+    ZORCC_INLINE s16v whole(const Luma& y, const Chroma& c) { return addOneWhere(y.high + c.high, y.low, c.room); }
 };
 
 // Alpha as a fourth channel, the same for all pixels.
@@ -170,9 +173,9 @@ template <class Formula> struct WithAlpha {
     template <class Source> auto operator()(const Source& source) const { return add(Formula{}(source)); }
 
 private:
-    template <int rows> Pixels<4, rows> add(const Pixels<3, rows>& rgb) const
+    template <int rows, Columns columns> Pixels<4, rows, columns> add(const Pixels<3, rows, columns>& rgb) const
     {
-        Pixels<4, rows> rgba;
+        Pixels<4, rows, columns> rgba;
         for (int row = 0; row < rows; ++row) {
             for (int c = 0; c < 3; ++c) rgba.c[row][c] = rgb.c[row][c];
             rgba.c[row][3] = fill8(alpha);

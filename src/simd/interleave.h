@@ -8,6 +8,19 @@
 namespace zorcc::ZORCC_TIER {
 namespace {
 
+// The order of the columns in a channel vector.
+enum class Columns {
+    inOrder,
+    evenThenOdd // per block the eight even columns, then the odd ones
+};
+
+// Where in a vector the given column is.
+constexpr int placeOf(int column, Columns columns)
+{
+    const int inBlock = column % 16;
+    return columns == Columns::inOrder ? column : column - inBlock + inBlock / 2 + inBlock % 2 * 8;
+}
+
 // ---- blocks: block b of v[k] is block b * count + k of memory ------------------------------------------------------
 
 template <int count> ZORCC_INLINE void loadBlocks(const uint8_t* p, u8v (&v)[count])
@@ -112,14 +125,15 @@ ZORCC_INLINE u8v unzipHalves(u8v v)
 // holds channel c in exactly one of the three vectors: blending the vectors gathers a channel, one permutation sorts
 // it.
 struct Thirds {
-    alignas(64) uint8_t sort[3][64];    // [channel][pixel]: position of the pixel's byte in the gathered channel
-    alignas(64) uint8_t scatter[3][64]; // [channel][position]: the pixel that belongs there
+    alignas(64) uint8_t sort[3][64];       // [channel][pixel]: position of the pixel's byte in the gathered channel
+    alignas(64) uint8_t scatter[2][3][64]; // [order of columns][channel][position]: the pixel that belongs there
 
     constexpr Thirds() : sort{}, scatter{}
     {
         for (int n = 0; n < 192; ++n) {
             sort[n % 3][n / 3] = static_cast<uint8_t>(n % 64);
-            scatter[n % 3][n % 64] = static_cast<uint8_t>(n / 3);
+            for (int columns = 0; columns < 2; ++columns)
+                scatter[columns][n % 3][n % 64] = static_cast<uint8_t>(placeOf(n / 3, Columns(columns)));
         }
     }
 };
@@ -141,10 +155,11 @@ ZORCC_INLINE void deinterleave3(const uint8_t* p, u8v (&channel)[3])
     for (int c = 0; c < 3; ++c) channel[c] = (u8v)_mm512_permutexvar_epi8(reg(load(thirds.sort[c])), gatherThird(v, c));
 }
 
-ZORCC_INLINE void interleave3(uint8_t* p, const u8v (&channel)[3])
+template <Columns columns> ZORCC_INLINE void interleave3(uint8_t* p, const u8v (&channel)[3])
 {
     __m512i v[3];
-    for (int c = 0; c < 3; ++c) v[c] = _mm512_permutexvar_epi8(reg(load(thirds.scatter[c])), reg(channel[c]));
+    for (int c = 0; c < 3; ++c)
+        v[c] = _mm512_permutexvar_epi8(reg(load(thirds.scatter[(int)columns][c])), reg(channel[c]));
     // Vector k takes positions p of channel c with (k + p) % 3 == c: the same choice, with -k for c and -c for k.
     const __m512i reversed[3] = {v[0], v[2], v[1]};
     for (int k = 0; k < 3; ++k) store(p + 64 * k, (u8v)gatherThird(reversed, (3 - k) % 3));
@@ -155,7 +170,7 @@ ZORCC_INLINE void interleave3(uint8_t* p, const u8v (&channel)[3])
 // [channel][vector]: shuffles that move the channel's bytes of one of three vectors to their pixels, and back.
 struct Thirds {
     alignas(16) uint8_t sort[3][3][16];
-    alignas(16) uint8_t scatter[3][3][16];
+    alignas(16) uint8_t scatter[2][3][3][16]; // [order of columns]...
 
     constexpr Thirds() : sort{}, scatter{}
     {
@@ -164,7 +179,9 @@ struct Thirds {
                 for (int i = 0; i < 16; ++i) {
                     const int n = 3 * i + c, m = 16 * k + i; // byte of pixel i; what byte i of vector k is
                     sort[c][k][i] = static_cast<uint8_t>(n / 16 == k ? n % 16 : 0x80);
-                    scatter[c][k][i] = static_cast<uint8_t>(m % 3 == c ? m / 3 : 0x80);
+                    for (int columns = 0; columns < 2; ++columns)
+                        scatter[columns][c][k][i] =
+                            static_cast<uint8_t>(m % 3 == c ? placeOf(m / 3, Columns(columns)) : 0x80);
                 }
     }
 };
@@ -184,12 +201,13 @@ ZORCC_INLINE void deinterleave3(const uint8_t* p, u8v (&channel)[3])
                      shuffleTable(v[2], thirds.sort[c][2]);
 }
 
-ZORCC_INLINE void interleave3(uint8_t* p, const u8v (&channel)[3])
+template <Columns columns> ZORCC_INLINE void interleave3(uint8_t* p, const u8v (&channel)[3])
 {
+    const auto& scatter = thirds.scatter[(int)columns];
     u8v v[3];
     for (int k = 0; k < 3; ++k)
-        v[k] = shuffleTable(channel[0], thirds.scatter[0][k]) | shuffleTable(channel[1], thirds.scatter[1][k]) |
-               shuffleTable(channel[2], thirds.scatter[2][k]);
+        v[k] = shuffleTable(channel[0], scatter[0][k]) | shuffleTable(channel[1], scatter[1][k]) |
+               shuffleTable(channel[2], scatter[2][k]);
     storeBlocks(p, v);
 }
 

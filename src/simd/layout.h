@@ -17,9 +17,18 @@ namespace {
 
 // ---- what layouts hand to formulas, and formulas to layouts ---------------------------------------------------------
 
-// The channels of vectorBytes pixels of one row or of two.
-template <int channels, int rows = 1> struct Pixels {
+// The channels of vectorBytes pixels of one row or of two. Where a formula works on even and odd columns apart, a
+// layout may take them so; the others get them in order.
+template <int channels, int rows = 1, Columns columns = Columns::inOrder> struct Pixels {
     u8v c[rows][channels];
+
+    operator Pixels<channels, rows, Columns::inOrder>() const requires(columns == Columns::evenThenOdd)
+    {
+        Pixels<channels, rows> ordered;
+        for (int row = 0; row < rows; ++row)
+            for (int i = 0; i < channels; ++i) ordered.c[row][i] = zipHalves(c[row][i]);
+        return ordered;
+    }
 };
 
 // Luma of one row or of two, and the chroma that each pair of columns shares: per block eight samples of the first
@@ -78,10 +87,10 @@ template <class Layout> struct TwoRows : Twice<typename Layout::Base>::Type {
         return both;
     }
 
-    void store(int x, const Pixels<channels, 2>& both) const
+    template <Columns columns> void store(int x, const Pixels<channels, 2, columns>& both) const
     {
         for (int r = 0; r < 2; ++r) {
-            Pixels<channels> one;
+            Pixels<channels, 1, columns> one;
             for (int c = 0; c < channels; ++c) one.c[0][c] = both.c[r][c];
             row(r).store(x, one);
         }

@@ -22,11 +22,11 @@ template <class Byte, Order order = Order::asStored> struct C3 : Rows<Byte, Unit
         return order == Order::reversed ? Pixels<3>{{{v[2], v[1], v[0]}}} : Pixels<3>{{{v[0], v[1], v[2]}}};
     }
 
-    void store(int x, const Pixels<3>& p) const
+    template <Columns columns> void store(int x, const Pixels<3, 1, columns>& p) const
     {
         const int first = order == Order::reversed ? 2 : 0;
         const u8v v[3] = {p.c[0][first], p.c[0][1], p.c[0][2 - first]};
-        interleave3(this->at(0, x), v);
+        interleave3<columns>(this->at(0, x), v);
     }
 };
 

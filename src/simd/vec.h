@@ -107,14 +107,14 @@ ZORCC_INLINE s32v mulAddPairs(s32v sum, s16v a, s16v b)
 ZORCC_INLINE s16v mulHigh(s16v a, s16v b) { return (s16v)ZORCC_MM(mulhi_epi16)(reg(a), reg(b)); }
 ZORCC_INLINE u16v mulHigh(u16v a, u16v b) { return (u16v)ZORCC_MM(mulhi_epu16)(reg(a), reg(b)); }
 
-// sum, and 1 more where low + other does not fit 16 bits.
-ZORCC_INLINE s16v addWithCarry(s16v sum, u16v low, u16v other)
+// v, and 1 more where a > b.
+ZORCC_INLINE s16v addOneWhere(s16v v, u16v a, u16v b)
 {
 #if defined(ZORCC_TIER_avx512)
-    const __mmask32 carry = _mm512_cmpgt_epu16_mask(reg(low), reg(~other));
-    return (s16v)_mm512_mask_sub_epi16(reg(sum), carry, reg(sum), _mm512_set1_epi16(-1));
+    const __mmask32 greater = _mm512_cmpgt_epu16_mask(reg(a), reg(b));
+    return (s16v)_mm512_mask_sub_epi16(reg(v), greater, reg(v), _mm512_set1_epi16(-1));
 #else
-    return sum - (s16v)((s16v)(low ^ 0x8000) > (s16v)(other ^ 0x7fff)); // true is -1
+    return v - (s16v)((s16v)(a ^ 0x8000) > (s16v)(b ^ 0x8000)); // true is -1
 #endif
 }
 
