@@ -3,6 +3,7 @@
 #include <cstdio>
 #include <cstring>
 #include <regex>
+#include <stdexcept>
 
 #include <CLI/CLI.hpp>
 
@@ -64,7 +65,7 @@ Comparison compare(const Function& function, ZorSize size, const std::vector<con
 
 void printRow(const std::string& name, double speed, const std::map<Tier, double>& ours)
 {
-    std::printf("  %-44s %8.0f", name.c_str(), speed);
+    std::printf("  %-44s %9.0f", name.c_str(), speed);
     for (const auto& [tier, our] : ours) std::printf(" %7.2fx", our / speed);
     std::printf("\n");
 }
@@ -72,17 +73,45 @@ void printRow(const std::string& name, double speed, const std::map<Tier, double
 void print(const Comparison& comparison)
 {
     const Result& result = comparison.result;
-    std::printf("%-46.*s %8s", static_cast<int>(result.function.size()), result.function.data(),
+    std::printf("%-46.*s %9s", static_cast<int>(result.function.size()), result.function.data(),
                 sizeName(result.size).c_str());
     for (const auto& [tier, our] : result.ours)
         std::printf(" %8.*s", static_cast<int>(tierName(tier).size()), tierName(tier).data());
-    std::printf("\n  %-44s %8s", "zorcc", "");
+    std::printf("\n  %-44s %9s", "zorcc", "");
     for (const auto& [tier, our] : result.ours) std::printf(" %8.0f", our);
     std::printf("\n");
     for (const PeerSpeed& peer : result.peers) printRow(peer.name, peer.speed, result.ours);
     printRow("memcpy", comparison.copy, result.ours);
     std::printf("\n");
     std::fflush(stdout);
+}
+
+// False if a target is missed.
+bool compareAll(const std::string& filter, double seconds, bool check)
+{
+    const std::regex wanted(filter);
+    const std::vector<Library> all = libraries();
+    for (const Library& library : all) std::printf("%s\n", library.version.c_str());
+    std::printf(
+        "Mpx/s of one thread, the best of many short batches in turn; under each tier our speed in multiples of "
+        "the row's.\nmemcpy reads and writes as many bytes as the conversion.\n\n");
+
+    std::vector<Result> results;
+    for (const Function& function : interface::functions()) {
+        if (!std::regex_search(function.name.begin(), function.name.end(), wanted)) continue;
+        std::vector<const Peer*> peers;
+        for (const Library& library : all)
+            for (const Peer& peer : library.peers)
+                if (peer.function == function.name) peers.push_back(&peer);
+        if (peers.empty() && !check) continue; // a target may bear on it all the same
+        for (ZorSize size : {cachedSize, frameSize}) {
+            const Comparison comparison = compare(function, size, peers, seconds);
+            print(comparison);
+            results.push_back(comparison.result);
+        }
+    }
+    if (results.empty()) throw std::runtime_error("no function with a peer matches '" + filter + "'");
+    return !check || checkTargets(results);
 }
 
 } // namespace
@@ -99,32 +128,12 @@ int main(int argc, char** argv)
         ->capture_default_str();
     app.add_flag("--check", check, "Hold the figures against the project's targets; exit 1 if one is missed");
     CLI11_PARSE(app, argc, argv);
-    const std::regex wanted(filter);
 
     zorSetNumThreads(1);
-    const std::vector<Library> all = libraries();
-    for (const Library& library : all) std::printf("%s\n", library.version.c_str());
-    std::printf(
-        "Mpx/s of one thread, the best of many short batches in turn; under each tier our speed in multiples of the"
-        " row's.\nmemcpy reads and writes as many bytes as the conversion.\n\n");
-
-    std::vector<Result> results;
-    for (const Function& function : interface::functions()) {
-        if (!std::regex_search(function.name.begin(), function.name.end(), wanted)) continue;
-        std::vector<const Peer*> peers;
-        for (const Library& library : all)
-            for (const Peer& peer : library.peers)
-                if (peer.function == function.name) peers.push_back(&peer);
-        if (peers.empty() && !check) continue; // a target may bear on it all the same
-        for (ZorSize size : {cachedSize, frameSize}) {
-            const Comparison comparison = compare(function, size, peers, seconds);
-            print(comparison);
-            results.push_back(comparison.result);
-        }
+    try {
+        return compareAll(filter, seconds, check) ? 0 : 1;
+    } catch (const std::exception& error) {
+        std::fprintf(stderr, "zorcc_peers: %s\n", error.what());
+        return 2;
     }
-    if (results.empty()) {
-        std::fprintf(stderr, "zorcc_peers: no function with a peer matches '%s'\n", filter.c_str());
-        return 1;
-    }
-    return check && !checkTargets(results) ? 1 : 0;
 }

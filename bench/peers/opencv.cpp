@@ -18,6 +18,7 @@ struct Row {
     cv::ColorConversionCodes code;
 };
 
+// To 4:2:0 it takes the chroma of one pixel in four, not the mean.
 const Row rows[] = {
     {"zoriRGBToYUV_8u_C3R", "RGB2YUV", cv::COLOR_RGB2YUV},
     {"zoriYUVToRGB_8u_C3R", "YUV2RGB", cv::COLOR_YUV2RGB},
