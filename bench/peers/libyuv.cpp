@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: MIT
+#include <memory>
+#include <variant>
+
+#include <libyuv.h>
+
+#include "bench/peers/peer.h"
+#include "bench/picture.h"
+
+namespace zorcc::bench {
+
+namespace {
+
+using interface::Image;
+
+// The signatures of its conversions: interleaved or packed (one plane) on both sides, to planes, from planes.
+using Repack = int (*)(const uint8_t*, int, uint8_t*, int, int, int);
+using Split = int (*)(const uint8_t*, int, uint8_t*, int, uint8_t*, int, uint8_t*, int, int, int);
+using Join = int (*)(const uint8_t*, int, const uint8_t*, int, const uint8_t*, int, uint8_t*, int, int, int);
+
+uint8_t* plane(const Image& image, int p) { return static_cast<uint8_t*>(image.plane[p]); }
+
+void run(Repack convert, const Image& from, const Image& to, ZorSize size)
+{
+    convert(plane(from, 0), from.step[0], plane(to, 0), to.step[0], size.width, size.height);
+}
+
+void run(Split convert, const Image& from, const Image& to, ZorSize size)
+{
+    convert(plane(from, 0), from.step[0], plane(to, 0), to.step[0], plane(to, 1), to.step[1], plane(to, 2), to.step[2],
+            size.width, size.height);
+}
+
+void run(Join convert, const Image& from, const Image& to, ZorSize size)
+{
+    convert(plane(from, 0), from.step[0], plane(from, 1), from.step[1], plane(from, 2), from.step[2], plane(to, 0),
+            to.step[0], size.width, size.height);
+}
+
+// Where it has no direct conversion: the way over its four-byte pixels.
+template <class Second> struct ViaARGB {
+    Repack first;
+    Second second;
+};
+
+template <class Convert> Work prepare(Convert convert, const Job& job)
+{
+    return [=] { run(convert, job.source, job.destination, job.size); };
+}
+
+template <class Second> Work prepare(ViaARGB<Second> steps, const Job& job)
+{
+    auto argb = std::make_shared<Picture>(interface::formats::bgra, job.size);
+    return [=] {
+        run(steps.first, job.source, argb->image, job.size);
+        run(steps.second, argb->image, job.destination, job.size);
+    };
+}
+
+struct Row {
+    std::string_view function;
+    const char* name;
+    std::variant<Repack, Split, Join, ViaARGB<Repack>, ViaARGB<Split>> convert;
+};
+
+// Its names give the channels of three- and four-byte pixels from the last byte to the first, but for RAW: R, G, B.
+const Row rows[] = {
+    {"zoriRGBToYUV420_8u_C3P3R", "RAWToI420", ::libyuv::RAWToI420},
+    {"zoriBGRToYUV420_8u_AC4P3R", "ARGBToI420", ::libyuv::ARGBToI420},
+    {"zoriYUV420ToRGB_8u_P3C3R", "I420ToRAW", ::libyuv::I420ToRAW},
+    {"zoriYUV420ToBGR_8u_P3C3R", "I420ToRGB24", ::libyuv::I420ToRGB24},
+    {"zoriYUV420ToRGB_8u_P3AC4R", "I420ToABGR", ::libyuv::I420ToABGR},
+    {"zoriYUV422ToRGB_8u_P3C3R", "I422ToRAW", ::libyuv::I422ToRAW},
+    {"zoriYUV422ToRGB_8u_P3AC4R", "I422ToABGR", ::libyuv::I422ToABGR},
+    {"zoriYUVToRGB_8u_P3C3R", "I444ToRAW", ::libyuv::I444ToRAW},
+    {"zoriRGBToYUV_8u_C3P3R", "RAWToARGB + ARGBToI444", ViaARGB<Split>{::libyuv::RAWToARGB, ::libyuv::ARGBToI444}},
+    {"zoriRGBToYUV422_8u_C3P3R", "RAWToARGB + ARGBToI422", ViaARGB<Split>{::libyuv::RAWToARGB, ::libyuv::ARGBToI422}},
+    {"zoriRGBToYUV422_8u_C3C2R", "RAWToARGB + ARGBToYUY2", ViaARGB<Repack>{::libyuv::RAWToARGB, ::libyuv::ARGBToYUY2}},
+    {"zoriYUV422ToRGB_8u_C2C3R", "YUY2ToARGB + ARGBToRAW", ViaARGB<Repack>{::libyuv::YUY2ToARGB, ::libyuv::ARGBToRAW}},
+};
+
+void useEverything() { ::libyuv::MaskCpuFlags(-1); }
+void useSSSE3Only()
+{
+    using namespace ::libyuv;
+    MaskCpuFlags(kCpuInitialized | kCpuHasX86 | kCpuHasSSE2 | kCpuHasSSSE3);
+}
+
+} // namespace
+
+Library libyuv()
+{
+    Library library{"libyuv " + std::to_string(LIBYUV_VERSION), {}};
+    for (const Row& row : rows) {
+        auto prepareRow = [&row](const Job& job) {
+            return std::visit([&](auto convert) { return prepare(convert, job); }, row.convert);
+        };
+        const std::string name = std::string("libyuv ") + row.name;
+        library.peers.push_back({row.function, name, prepareRow, useEverything, false});
+        library.peers.push_back({row.function, name + ", SSSE3 only", prepareRow, useSSSE3Only, true});
+    }
+    return library;
+}
+
+} // namespace zorcc::bench

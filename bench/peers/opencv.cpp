@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+#include <opencv2/core.hpp>
+#include <opencv2/imgproc.hpp>
+
+#include "bench/peers/peer.h"
+
+namespace zorcc::bench {
+
+namespace {
+
+using interface::Format;
+using interface::Image;
+using interface::Layout;
+
+struct Row {
+    std::string_view function;
+    const char* name;
+    cv::ColorConversionCodes code;
+};
+
+// To 4:2:0 it takes the chroma of one pixel in four, not the mean.
+const Row rows[] = {
+    {"zoriRGBToYUV_8u_C3R", "RGB2YUV", cv::COLOR_RGB2YUV},
+    {"zoriYUVToRGB_8u_C3R", "YUV2RGB", cv::COLOR_YUV2RGB},
+    {"zoriRGBToYUV420_8u_C3P3R", "RGB2YUV_I420", cv::COLOR_RGB2YUV_I420},
+    {"zoriYUV420ToRGB_8u_P3C3R", "YUV2RGB_I420", cv::COLOR_YUV2RGB_I420},
+    {"zoriYUV420ToBGR_8u_P3C3R", "YUV2BGR_I420", cv::COLOR_YUV2BGR_I420},
+    {"zoriYUV420ToRGB_8u_P3AC4R", "YUV2RGBA_I420", cv::COLOR_YUV2RGBA_I420},
+    {"zoriYUV422ToRGB_8u_C2C3R", "YUV2RGB_YUYV", cv::COLOR_YUV2RGB_YUYV},
+};
+
+// A matrix over our memory. It takes planar 4:2:0 as one matrix half as high again, the planes behind one another.
+cv::Mat matrix(const Format& format, const Image& image, ZorSize size)
+{
+    if (format.layout == Layout::planar)
+        return {size.height * 3 / 2, size.width, CV_8UC1, image.plane[0], static_cast<size_t>(image.step[0])};
+    return {size.height, size.width, CV_8UC(format.plane[0].samples), image.plane[0],
+            static_cast<size_t>(image.step[0])};
+}
+
+} // namespace
+
+Library openCV()
+{
+    cv::setNumThreads(1);
+    Library library{"OpenCV " CV_VERSION, {}};
+    for (const Row& row : rows) {
+        auto prepare = [code = row.code](const Job& job) -> Work {
+            const cv::Mat from = matrix(*job.function.source, job.source, job.size);
+            const cv::Mat to = matrix(*job.function.destination, job.destination, job.size);
+            return [=] { cv::cvtColor(from, to, code); };
+        };
+        library.peers.push_back({row.function, std::string("OpenCV ") + row.name, prepare});
+    }
+    return library;
+}
+
+} // namespace zorcc::bench

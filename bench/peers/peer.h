@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+// What the comparison knows of another library. A new operation is a row in its file, a new library one more file.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "interface/functions.h"
+
+namespace zorcc::bench {
+
+// One conversion of ours with images to run it on; the images outlive all work on them.
+struct Job {
+    const interface::Function& function;
+    const interface::Image& source;
+    const interface::Image& destination;
+    ZorSize size;
+};
+
+using Work = std::function<void()>;
+
+// One way of another library to do what a function of ours does, on one thread: the same two pixel formats, be it with
+// other coefficients or other rounding.
+struct Peer {
+    std::string_view function;               // ours
+    std::string name;                        // "library operation"
+    std::function<Work(const Job&)> prepare; // allocations and set-up, which no clock sees
+    void (*select)() = nullptr;              // puts the library into the state wanted, before each batch of calls
+    bool ssse3Only = false;                  // measured against our lowest tier
+};
+
+struct Library {
+    std::string version;
+    std::vector<Peer> peers;
+};
+
+Library libyuv();
+Library swscale();
+Library openCV();
+
+} // namespace zorcc::bench

@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: MIT
+#include <memory>
+#include <stdexcept>
+
+extern "C" {
+#include <libavutil/pixdesc.h>
+#include <libswscale/swscale.h>
+}
+
+#include "bench/peers/peer.h"
+
+namespace zorcc::bench {
+
+namespace {
+
+using interface::Format;
+using interface::Function;
+using interface::Image;
+
+AVPixelFormat pixelFormat(const Format& format)
+{
+    using namespace interface::formats;
+    static constexpr struct {
+        const Format* ours;
+        AVPixelFormat theirs;
+    } pairs[] = {
+        {&rgb24, AV_PIX_FMT_RGB24},     {&bgr24, AV_PIX_FMT_BGR24},     {&rgba, AV_PIX_FMT_RGBA},
+        {&bgra, AV_PIX_FMT_BGRA},       {&yuv444p, AV_PIX_FMT_YUV444P}, {&yuv422p, AV_PIX_FMT_YUV422P},
+        {&yuv420p, AV_PIX_FMT_YUV420P}, {&yuyv, AV_PIX_FMT_YUYV422},    {&rgb565, AV_PIX_FMT_BGR565LE},
+    };
+    for (const auto& pair : pairs)
+        if (pair.ours->name == format.name) return pair.theirs;
+    return AV_PIX_FMT_NONE;
+}
+
+Work prepare(const Job& job)
+{
+    const auto [width, height] = job.size;
+    // Bilinear: chroma samples of 4:2:0 are means of four pixels, as ours.
+    const std::shared_ptr<SwsContext> context(sws_getContext(width, height, pixelFormat(*job.function.source), width,
+                                                             height, pixelFormat(*job.function.destination),
+                                                             SWS_BILINEAR, nullptr, nullptr, nullptr),
+                                              sws_freeContext);
+    if (!context) throw std::runtime_error("libswscale refuses " + std::string(job.function.name));
+    return [=] {
+        const Image &from = job.source, &to = job.destination;
+        const uint8_t* planes[interface::maxPlanes];
+        uint8_t* results[interface::maxPlanes];
+        for (int p = 0; p < interface::maxPlanes; ++p) {
+            planes[p] = static_cast<const uint8_t*>(from.plane[p]);
+            results[p] = static_cast<uint8_t*>(to.plane[p]);
+        }
+        sws_scale(context.get(), planes, from.step, 0, job.size.height, results, to.step);
+    };
+}
+
+} // namespace
+
+// It converts between any two formats that it knows; the forms without steps would only measure the same again.
+Library swscale()
+{
+    Library library{"libswscale " AV_STRINGIFY(LIBSWSCALE_VERSION), {}};
+    for (const Function& function : interface::functions()) {
+        const AVPixelFormat from = pixelFormat(*function.source), to = pixelFormat(*function.destination);
+        if (from == AV_PIX_FMT_NONE || to == AV_PIX_FMT_NONE || !function.signature.steps) continue;
+        library.peers.push_back(
+            {function.name, std::string("libswscale ") + av_get_pix_fmt_name(from) + " > " + av_get_pix_fmt_name(to),
+             prepare});
+    }
+    return library;
+}
+
+} // namespace zorcc::bench

@@ -1,0 +1,83 @@
+// SPDX-License-Identifier: MIT
+#include "bench/peers/targets.h"
+
+#include <cstdio>
+
+#include "bench/picture.h"
+#include "bench/tiers.h"
+
+namespace zorcc::bench {
+
+namespace {
+
+// Our speed on a tier, in multiples of a peer's.
+struct Target {
+    std::string_view function;
+    ZorSize size;
+    Tier tier;
+    double ratio;
+    std::string_view peer;
+};
+
+const Target targets[] = {
+    {"zoriRGBToYUV420_8u_C3P3R", cachedSize, Tier::avx512, 1.4, "libyuv RAWToI420"},
+    {"zoriRGBToYUV420_8u_C3P3R", cachedSize, Tier::avx2, 0.75, "libyuv RAWToI420"},
+    {"zoriRGBToYUV420_8u_C3P3R", frameSize, Tier::avx512, 1.3, "libyuv RAWToI420"},
+    {"zoriYUV420ToRGB_8u_P3C3R", cachedSize, Tier::avx512, 2.6, "libyuv I420ToRAW"},
+    {"zoriYUV420ToRGB_8u_P3C3R", cachedSize, Tier::avx2, 1.1, "libyuv I420ToRAW"},
+    {"zoriRGBToYUV_8u_C3R", cachedSize, Tier::avx512, 2.6, "OpenCV RGB2YUV"},
+    {"zoriRGBToYUV_8u_C3R", frameSize, Tier::avx512, 2.6, "OpenCV RGB2YUV"},
+};
+
+// On the lowest tier: multiples of any peer that is held to the same instructions, and Mpx/s of any function.
+constexpr double ssse3Ratio = 0.5;
+constexpr double ssse3Speed = 1000;
+
+bool same(ZorSize a, ZorSize b) { return a.width == b.width && a.height == b.height; }
+
+class Judge {
+public:
+    void judge(const Result& result, Tier tier, double reached, double wanted, std::string_view unit)
+    {
+        const bool ok = reached >= wanted;
+        (ok ? met : missed)++;
+        std::printf("  %-6s  %-32.*s %-10s %-7.*s %8.2f, wanted %8.2f %.*s\n", ok ? "ok" : "MISSED",
+                    static_cast<int>(result.function.size()), result.function.data(), sizeName(result.size).c_str(),
+                    static_cast<int>(tierName(tier).size()), tierName(tier).data(), reached, wanted,
+                    static_cast<int>(unit.size()), unit.data());
+    }
+
+    bool sum() const
+    {
+        std::printf("%d ok, %d MISSED\n", met, missed);
+        return missed == 0;
+    }
+
+private:
+    int met = 0, missed = 0;
+};
+
+} // namespace
+
+bool checkTargets(const std::vector<Result>& results)
+{
+    std::printf("Targets\n");
+    Judge judge;
+    for (const Result& result : results) {
+        for (const PeerSpeed& peer : result.peers) {
+            for (const Target& target : targets)
+                if (target.function == result.function && same(target.size, result.size) && target.peer == peer.name &&
+                    result.ours.contains(target.tier))
+                    judge.judge(result, target.tier, result.ours.at(target.tier) / peer.speed, target.ratio,
+                                "x " + peer.name);
+            if (peer.ssse3Only)
+                judge.judge(result, Tier::ssse3, result.ours.at(Tier::ssse3) / peer.speed, ssse3Ratio,
+                            "x " + peer.name);
+        }
+        if (same(result.size, cachedSize))
+            judge.judge(result, Tier::ssse3, result.ours.at(Tier::ssse3), ssse3Speed, "Mpx/s");
+    }
+    return judge.sum();
+}
+
+} // namespace zorcc::bench
