@@ -7,7 +7,9 @@
 
 namespace zorcc::interface {
 
-enum class Model { rgb, yuv };
+// Colour models: R'G'B', analogue-television Y'UV, and Y'CbCr by its matrix. In channel strings U stands for Cb, V for
+// Cr.
+enum class Model { rgb, yuv, bt601, bt709, bt709full };
 
 enum class Sample { u8, u16, s16, s32, f32 };
 
@@ -97,6 +99,21 @@ inline constexpr Format yuva444p = planar("yuva444p", "YUVA", Model::yuv, Sample
 inline constexpr Format yuv422p = planar("yuv422p", "YUV", Model::yuv, Sample::u8, 1, 0);
 inline constexpr Format yuv420p = planar("yuv420p", "YUV", Model::yuv, Sample::u8, 1, 1);
 inline constexpr Format yuyv = packed422("yuyv", "YUYV", Model::yuv);
+
+inline constexpr Format yuv24Bt601 = interleaved("yuv24-bt601", "YUV", Model::bt601, Sample::u8);
+inline constexpr Format yuvaBt601 = interleaved("yuva-bt601", "YUVA", Model::bt601, Sample::u8);
+inline constexpr Format yuv444pBt601 = planar("yuv444p-bt601", "YUV", Model::bt601, Sample::u8);
+inline constexpr Format yuv422pBt601 = planar("yuv422p-bt601", "YUV", Model::bt601, Sample::u8, 1, 0);
+inline constexpr Format yuv420pBt601 = planar("yuv420p-bt601", "YUV", Model::bt601, Sample::u8, 1, 1);
+inline constexpr Format yvu420pBt601 = planar("yvu420p-bt601", "YVU", Model::bt601, Sample::u8, 1, 1);
+inline constexpr Format yuv411pBt601 = planar("yuv411p-bt601", "YUV", Model::bt601, Sample::u8, 2, 0);
+inline constexpr Format yuyvBt601 = packed422("yuyv-bt601", "YUYV", Model::bt601);
+
+inline constexpr Format yuv444pBt709 = planar("yuv444p-bt709", "YUV", Model::bt709, Sample::u8);
+inline constexpr Format yuv420pBt709 = planar("yuv420p-bt709", "YUV", Model::bt709, Sample::u8, 1, 1);
+inline constexpr Format yvu420pBt709 = planar("yvu420p-bt709", "YVU", Model::bt709, Sample::u8, 1, 1);
+inline constexpr Format yuv420pBt709full = planar("yuv420p-bt709full", "YUV", Model::bt709full, Sample::u8, 1, 1);
+inline constexpr Format uyvyBt709full = packed422("uyvy-bt709full", "UYVY", Model::bt709full);
 
 } // namespace formats
 
