@@ -77,6 +77,20 @@ const Row rows[] = {
     {"zoriRGBToYUV422_8u_C3P3R", "RAWToARGB + ARGBToI422", ViaARGB<Split>{::libyuv::RAWToARGB, ::libyuv::ARGBToI422}},
     {"zoriRGBToYUV422_8u_C3C2R", "RAWToARGB + ARGBToYUY2", ViaARGB<Repack>{::libyuv::RAWToARGB, ::libyuv::ARGBToYUY2}},
     {"zoriYUV422ToRGB_8u_C2C3R", "YUY2ToARGB + ARGBToRAW", ViaARGB<Repack>{::libyuv::YUY2ToARGB, ::libyuv::ARGBToRAW}},
+
+    {"zoriRGBToYCbCr420_8u_C3P3R", "RAWToI420", ::libyuv::RAWToI420},
+    {"zoriYCbCr420ToRGB_8u_P3C3R", "I420ToRAW", ::libyuv::I420ToRAW},
+    {"zoriYCbCr420ToBGR_8u_P3C3R", "I420ToRGB24", ::libyuv::I420ToRGB24},
+    {"zoriYCbCr420ToBGR_8u_P3C4R", "I420ToARGB", ::libyuv::I420ToARGB},
+    {"zoriYCbCr422ToRGB_8u_P3C3R", "I422ToRAW", ::libyuv::I422ToRAW},
+    {"zoriYCbCrToRGB_8u_P3C3R", "I444ToRAW", ::libyuv::I444ToRAW},
+    {"zoriRGBToYCbCr_8u_C3P3R", "RAWToARGB + ARGBToI444", ViaARGB<Split>{::libyuv::RAWToARGB, ::libyuv::ARGBToI444}},
+    {"zoriRGBToYCbCr422_8u_C3C2R", "RAWToARGB + ARGBToYUY2",
+     ViaARGB<Repack>{::libyuv::RAWToARGB, ::libyuv::ARGBToYUY2}},
+    {"zoriYCbCr422ToRGB_8u_C2C3R", "YUY2ToARGB + ARGBToRAW",
+     ViaARGB<Repack>{::libyuv::YUY2ToARGB, ::libyuv::ARGBToRAW}},
+    {"zoriYCbCr420ToBGR_709CSC_8u_P3C3R", "H420ToRGB24", ::libyuv::H420ToRGB24},
+    {"zoriCbYCr422ToBGR_709HDTV_8u_C2C4R", "UYVYToARGB", ::libyuv::UYVYToARGB},
 };
 
 void useEverything() { ::libyuv::MaskCpuFlags(-1); }

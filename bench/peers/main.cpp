@@ -31,6 +31,9 @@ std::vector<Library> libraries()
 #ifdef ZORCC_PEER_OPENCV
     all.push_back(openCV());
 #endif
+#ifdef ZORCC_PEER_ZIMG
+    all.push_back(zimg());
+#endif
     return all;
 }
 

@@ -39,5 +39,6 @@ struct Library {
 Library libyuv();
 Library swscale();
 Library openCV();
+Library zimg();
 
 } // namespace zorcc::bench

@@ -27,6 +27,23 @@ const Target targets[] = {
     {"zoriYUV420ToRGB_8u_P3C3R", cachedSize, Tier::avx2, 1.1, "libyuv I420ToRAW"},
     {"zoriRGBToYUV_8u_C3R", cachedSize, Tier::avx512, 2.6, "OpenCV RGB2YUV"},
     {"zoriRGBToYUV_8u_C3R", frameSize, Tier::avx512, 2.6, "OpenCV RGB2YUV"},
+    {"zoriRGBToYCbCr420_8u_C3P3R", cachedSize, Tier::avx512, 1.6, "libyuv RAWToI420"},
+    {"zoriRGBToYCbCr420_8u_C3P3R", cachedSize, Tier::avx2, 0.95, "libyuv RAWToI420"},
+    {"zoriRGBToYCbCr420_8u_C3P3R", frameSize, Tier::avx512, 1.3, "libyuv RAWToI420"},
+    {"zoriYCbCr420ToRGB_8u_P3C3R", cachedSize, Tier::avx512, 2.3, "libyuv I420ToRAW"},
+    {"zoriYCbCr420ToRGB_8u_P3C3R", cachedSize, Tier::avx2, 0.95, "libyuv I420ToRAW"},
+    {"zoriYCbCr420ToRGB_8u_P3C3R", frameSize, Tier::avx512, 1.3, "libyuv I420ToRAW"},
+    {"zoriYCbCr420ToBGR_8u_P3C4R", cachedSize, Tier::avx512, 1.6, "libyuv I420ToARGB"},
+    {"zoriYCbCr420ToBGR_8u_P3C4R", cachedSize, Tier::avx2, 0.75, "libyuv I420ToARGB"},
+    {"zoriYCbCr420ToBGR_8u_P3C4R", frameSize, Tier::avx512, 1.3, "libyuv I420ToARGB"},
+    {"zoriRGBToYCbCr_8u_C3P3R", cachedSize, Tier::avx512, 2.4, "libyuv RAWToARGB + ARGBToI444"},
+    {"zoriRGBToYCbCr_8u_C3P3R", frameSize, Tier::avx512, 1.3, "libyuv RAWToARGB + ARGBToI444"},
+    {"zoriRGBToYCbCr_8u_P3R", cachedSize, Tier::avx512, 3, "zimg 601"},
+    {"zoriRGBToYCbCr_8u_P3R", frameSize, Tier::avx512, 1.3, "zimg 601"},
+    {"zoriYCbCrToRGB_8u_P3R", cachedSize, Tier::avx512, 3, "zimg 601"},
+    {"zoriYCbCrToRGB_8u_P3R", frameSize, Tier::avx512, 1.3, "zimg 601"},
+    {"zoriYCbCr422ToRGB_8u_C2C3R", cachedSize, Tier::avx512, 1.5, "libyuv YUY2ToARGB + ARGBToRAW"},
+    {"zoriYCbCr422ToRGB_8u_C2C3R", frameSize, Tier::avx512, 1.3, "libyuv YUY2ToARGB + ARGBToRAW"},
 };
 
 // On the lowest tier: multiples of any peer that is held to the same instructions, and Mpx/s of any function.
