@@ -72,7 +72,7 @@ int main(int argc, char** argv)
     CLI::App app("Speed of every conversion at two image sizes.");
     app.footer("All other options go to Google Benchmark, such as --benchmark_filter=REGEX.");
     const auto tiers = tiersHere();
-    std::string tier(tierName(bestTier()));
+    std::string tier(nameOf(bestTier()));
     int threads = 1;
     app.add_option("--tier", tier, "SIMD tier to run on")->check(CLI::IsMember(tiers))->capture_default_str();
     app.add_option("--threads", threads, "Threads that one call may use")

@@ -6,8 +6,10 @@ function(zorcc_shared_library target)
     BUILD_WITH_INSTALL_RPATH ON INSTALL_RPATH "$ORIGIN" LINK_DEPENDS_NO_SHARED ON)
   target_link_libraries(${target} PRIVATE zorcc_options)
   target_compile_options(${target} PRIVATE -fno-exceptions -fno-rtti)
-  target_link_options(${target} PRIVATE -Wl,--as-needed -Wl,-z,relro,-z,now -Wl,-z,noexecstack
-    $<$<NOT:$<BOOL:${ZORCC_SANITIZE}>>:-Wl,-z,defs>)
+  target_link_options(${target} PRIVATE -Wl,--as-needed -Wl,-z,relro,-z,now -Wl,-z,noexecstack)
+  if(NOT ZORCC_SANITIZE) # whose runtime comes with the program
+    target_link_options(${target} PRIVATE -Wl,-z,defs)
+  endif()
 endfunction()
 
 # Exports exactly the named symbols.

@@ -30,12 +30,18 @@ struct Call {
     ZorSize size;
     const Extra& extra;
     const Image* image = nullptr; // the image whose pointer argument came last
-    int plane = -1;               // the plane of it that a single pointer argument named
+    bool inDestination = false;   // which of the two that is; they may be one object
+    int plane = 0;                // the plane of it that a single pointer argument named
     bool nullArrays[2] = {};      // pass a null array of planes for the source, the destination
 
-    int next(const Image& of)
+    int nextSource() { return next(source, false); }
+    int nextDestination() { return next(destination, true); }
+
+private:
+    int next(const Image& of, bool isDestination)
     {
-        plane = image == &of ? plane + 1 : 0;
+        plane = image && inDestination == isDestination ? plane + 1 : 0;
+        inDestination = isDestination;
         image = &of;
         return plane;
     }
@@ -46,13 +52,13 @@ template <class T> struct Argument;
 
 template <class T> struct Argument<const T*> { // pointer of a source image
     const T* value;
-    explicit Argument(Call& call) : value(static_cast<const T*>(call.source.plane[call.next(call.source)])) {}
+    explicit Argument(Call& call) : value(static_cast<const T*>(call.source.plane[call.nextSource()])) {}
     operator const T*() const { return value; }
 };
 
 template <class T> struct Argument<T*> { // pointer of a destination image
     T* value;
-    explicit Argument(Call& call) : value(static_cast<T*>(call.destination.plane[call.next(call.destination)])) {}
+    explicit Argument(Call& call) : value(static_cast<T*>(call.destination.plane[call.nextDestination()])) {}
     operator T*() const { return value; }
 };
 
@@ -61,7 +67,7 @@ template <class T> struct Argument<const T* const*> { // plane pointers of a sou
     bool null;
     explicit Argument(Call& call) : null(call.nullArrays[0])
     {
-        call.next(call.source);
+        call.nextSource();
         for (int p = 0; p < maxPlanes; ++p) value[p] = static_cast<const T*>(call.source.plane[p]);
     }
     operator const T* const*() const { return null ? nullptr : value; }
@@ -72,7 +78,7 @@ template <class T> struct Argument<T* const*> { // plane pointers of a destinati
     bool null;
     explicit Argument(Call& call) : null(call.nullArrays[1])
     {
-        call.next(call.destination);
+        call.nextDestination();
         for (int p = 0; p < maxPlanes; ++p) value[p] = static_cast<T*>(call.destination.plane[p]);
     }
     operator T* const*() const { return null ? nullptr : value; }

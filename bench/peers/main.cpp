@@ -78,8 +78,7 @@ void print(const Comparison& comparison)
     const Result& result = comparison.result;
     std::printf("%-46.*s %9s", static_cast<int>(result.function.size()), result.function.data(),
                 sizeName(result.size).c_str());
-    for (const auto& [tier, our] : result.ours)
-        std::printf(" %8.*s", static_cast<int>(tierName(tier).size()), tierName(tier).data());
+    for (const auto& [tier, our] : result.ours) std::printf(" %8s", nameOf(tier));
     std::printf("\n  %-44s %9s", "zorcc", "");
     for (const auto& [tier, our] : result.ours) std::printf(" %8.0f", our);
     std::printf("\n");

@@ -58,10 +58,9 @@ public:
     {
         const bool ok = reached >= wanted;
         (ok ? met : missed)++;
-        std::printf("  %-6s  %-32.*s %-10s %-7.*s %8.2f, wanted %8.2f %.*s\n", ok ? "ok" : "MISSED",
+        std::printf("  %-6s  %-32.*s %-10s %-7s %8.2f, wanted %8.2f %.*s\n", ok ? "ok" : "MISSED",
                     static_cast<int>(result.function.size()), result.function.data(), sizeName(result.size).c_str(),
-                    static_cast<int>(tierName(tier).size()), tierName(tier).data(), reached, wanted,
-                    static_cast<int>(unit.size()), unit.data());
+                    nameOf(tier), reached, wanted, static_cast<int>(unit.size()), unit.data());
     }
 
     bool sum() const

@@ -10,6 +10,16 @@ namespace {
 // Whether formulas see the channels as they are stored or, of a BGR image, as RGB.
 enum class Order { asStored, reversed };
 
+// Between the order in memory and that of formulas.
+template <Order order, int channels> ZORCC_INLINE void arrange(u8v (&c)[channels])
+{
+    if constexpr (order == Order::reversed) {
+        const u8v first = c[0];
+        c[0] = c[2];
+        c[2] = first;
+    }
+}
+
 // Three interleaved channels.
 template <class Byte, Order order = Order::asStored> struct C3 : Rows<Byte, Unit{3, 0}> {
     using Base = Rows<Byte, Unit{3, 0}>;
@@ -17,36 +27,16 @@ template <class Byte, Order order = Order::asStored> struct C3 : Rows<Byte, Unit
 
     Pixels<3> load(int x) const
     {
-        u8v v[3];
-        deinterleave3(this->at(0, x), v);
-        return order == Order::reversed ? Pixels<3>{{{v[2], v[1], v[0]}}} : Pixels<3>{{{v[0], v[1], v[2]}}};
+        Pixels<3> p;
+        deinterleave3(this->at(0, x), p.c[0]);
+        arrange<order>(p.c[0]);
+        return p;
     }
 
-    template <Columns columns> void store(int x, const Pixels<3, 1, columns>& p) const
+    template <Columns columns> void store(int x, Pixels<3, 1, columns> p) const
     {
-        const int first = order == Order::reversed ? 2 : 0;
-        const u8v v[3] = {p.c[0][first], p.c[0][1], p.c[0][2 - first]};
-        interleave3<columns>(this->at(0, x), v);
-    }
-};
-
-// Four interleaved channels of which formulas see the first three. The fourth stays as it is in a destination.
-template <class Byte, Order order = Order::asStored> struct AC4 : Rows<Byte, Unit{4, 0}> {
-    using Base = Rows<Byte, Unit{4, 0}>;
-    static constexpr int channels = 3;
-
-    Pixels<3> load(int x) const
-    {
-        u8v v[4];
-        deinterleave4(this->at(0, x), v);
-        return order == Order::reversed ? Pixels<3>{{{v[2], v[1], v[0]}}} : Pixels<3>{{{v[0], v[1], v[2]}}};
-    }
-
-    void store(int x, const Pixels<3>& p) const
-    {
-        const int first = order == Order::reversed ? 2 : 0;
-        const u8v v[4] = {p.c[0][first], p.c[0][1], p.c[0][2 - first], u8v{}};
-        interleave4<true>(this->at(0, x), v);
+        arrange<order>(p.c[0]);
+        interleave3<columns>(this->at(0, x), p.c[0]);
     }
 };
 
@@ -57,16 +47,35 @@ template <class Byte, Order order = Order::asStored> struct C4 : Rows<Byte, Unit
 
     Pixels<4> load(int x) const
     {
-        u8v v[4];
-        deinterleave4(this->at(0, x), v);
-        return order == Order::reversed ? Pixels<4>{{{v[2], v[1], v[0], v[3]}}} : Pixels<4>{{{v[0], v[1], v[2], v[3]}}};
+        Pixels<4> p;
+        deinterleave4(this->at(0, x), p.c[0]);
+        arrange<order>(p.c[0]);
+        return p;
     }
 
-    void store(int x, const Pixels<4>& p) const
+    void store(int x, Pixels<4> p) const
     {
-        const int first = order == Order::reversed ? 2 : 0;
-        const u8v v[4] = {p.c[0][first], p.c[0][1], p.c[0][2 - first], p.c[0][3]};
-        interleave4<false>(this->at(0, x), v);
+        arrange<order>(p.c[0]);
+        interleave4<false>(this->at(0, x), p.c[0]);
+    }
+};
+
+// Four interleaved channels of which formulas see the first three. The fourth stays as it is in a destination.
+template <class Byte, Order order = Order::asStored> struct AC4 : Rows<Byte, Unit{4, 0}> {
+    using Base = Rows<Byte, Unit{4, 0}>;
+    static constexpr int channels = 3;
+
+    Pixels<3> load(int x) const
+    {
+        const Pixels<4> p = C4<Byte, order>{*this}.load(x);
+        return {{{p.c[0][0], p.c[0][1], p.c[0][2]}}};
+    }
+
+    void store(int x, Pixels<3> p) const
+    {
+        arrange<order>(p.c[0]);
+        const u8v v[4] = {p.c[0][0], p.c[0][1], p.c[0][2], u8v{}};
+        interleave4<true>(this->at(0, x), v);
     }
 };
 

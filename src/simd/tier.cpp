@@ -3,6 +3,8 @@
 
 namespace zorcc {
 
+const char* nameOf(Tier tier) { return tier == Tier::avx512 ? "avx512" : tier == Tier::avx2 ? "avx2" : "ssse3"; }
+
 Tier bestTier()
 {
     // These queries cover the operating system's side, too: whether it saves the wide registers.

@@ -11,6 +11,8 @@ enum class Tier {
     avx512 // 512 bits: F, BW, DQ, VL, VBMI, VNNI
 };
 
+const char* nameOf(Tier tier);
+
 // The best tier of this processor.
 Tier bestTier();
 

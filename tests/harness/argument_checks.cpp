@@ -1,0 +1,109 @@
+// SPDX-License-Identifier: MIT
+#include "tests/harness/argument_checks.h"
+
+#include <climits>
+#include <vector>
+
+#include "tests/harness/contents.h"
+
+namespace zorcc::test {
+
+using interface::Function;
+
+namespace {
+
+constexpr ZorSize goodSize{40, 4};
+
+// One faulty argument. The faults of a function stand in the order of its checks.
+struct Fault {
+    enum Kind { nullImage, badSize, nullPlane } kind;
+    bool ofDestination = false;
+    int plane = 0;
+
+    ZorStatus status() const { return kind == badSize ? zorStatusBadSize : zorStatusNullPointer; }
+};
+
+std::vector<Fault> faultsOf(const Function& function)
+{
+    std::vector<Fault> faults = {{Fault::nullImage, false}, {Fault::nullImage, true}, {Fault::badSize}};
+    if (function.signature.sourceArray)
+        for (int p = 0; p < function.source->planes; ++p) faults.push_back({Fault::nullPlane, false, p});
+    if (function.signature.destinationArray)
+        for (int p = 0; p < function.destination->planes; ++p) faults.push_back({Fault::nullPlane, true, p});
+    return faults;
+}
+
+struct Images {
+    TestImage source, destination;
+
+    explicit Images(const Function& function)
+    {
+        source.arrange(*function.source, goodSize, goodSize, {}, sourceSteps(function.signature));
+        fill(source, Contents::random, 1);
+        source.copyToShadow();
+        destination.arrange(*function.destination, goodSize, goodSize, {}, destinationSteps(function.signature));
+        destination.fillPattern(2);
+        destination.copyToShadow();
+    }
+};
+
+// Calls with the faults whose bits are set.
+ZorStatus call(const Function& function, const Images& images, const std::vector<Fault>& faults, unsigned chosen,
+               ZorSize badSize)
+{
+    interface::Image from = images.source.image(), to = images.destination.image();
+    const interface::Extra extra;
+    interface::Call arguments {
+        from, to, goodSize, extra
+    };
+    for (std::size_t i = 0; i < faults.size(); ++i) {
+        if ((chosen >> i & 1) == 0) continue;
+        const Fault& fault = faults[i];
+        const bool array = fault.ofDestination ? function.signature.destinationArray : function.signature.sourceArray;
+        if (fault.kind == Fault::badSize)
+            arguments.size = badSize;
+        else if (fault.kind == Fault::nullImage && array)
+            arguments.nullArrays[fault.ofDestination] = true;
+        else
+            (fault.ofDestination ? to : from).plane[fault.plane] = nullptr;
+    }
+    return function.bound(arguments);
+}
+
+} // namespace
+
+testing::AssertionResult checkFaultyArguments(const Function& function)
+{
+    const Images images(function);
+    const std::vector<Fault> faults = faultsOf(function);
+    constexpr ZorSize badSizes[] = {{0, 4}, {40, 0}, {-1, 4}, {40, -1}, {0, 0}, {INT_MIN, 4}, {40, INT_MIN}};
+    for (unsigned chosen = 1; chosen < 1u << faults.size(); ++chosen)
+        for (const ZorSize badSize : badSizes) {
+            const Fault& first = faults[static_cast<std::size_t>(__builtin_ctz(chosen))];
+            const ZorStatus status = call(function, images, faults, chosen, badSize);
+            auto failure = testing::AssertionFailure()
+                           << function.name << ", faults (bits, in the order of checks) " << chosen << ", bad size "
+                           << badSize.width << "x" << badSize.height << ": ";
+            if (status != first.status()) return failure << "status " << status << ", not " << first.status();
+            if (const auto d = images.destination.difference())
+                return failure << "written in spite of the error: " << describe(*d);
+            if (const auto d = images.source.difference()) return failure << "source changed: " << describe(*d);
+        }
+    return testing::AssertionSuccess();
+}
+
+testing::AssertionResult checkOddSizes(const reference::Case& c, const Function& function)
+{
+    const Images images(function);
+    for (const ZorSize size : {ZorSize{40, 4}, {39, 4}, {40, 3}, {39, 3}, {1, 1}, {1, 2}, {2, 1}, {2, 2}}) {
+        const bool odd = size.width % 2 != 0 || size.height % 2 != 0;
+        const bool warns = odd && c.oddSize == reference::OddSize::warning;
+        const ZorStatus status = function(images.source.image(), images.destination.image(), size);
+        if (status != (warns ? zorStatusOddSize : zorStatusOk))
+            return testing::AssertionFailure()
+                   << function.name << ", " << size.width << "x" << size.height << ": status " << status;
+    }
+    return testing::AssertionSuccess();
+}
+
+} // namespace zorcc::test

@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: MIT
+#include "tests/harness/contents.h"
+
+#include <cstring>
+#include <limits>
+#include <stdexcept>
+
+namespace zorcc::test {
+
+namespace {
+
+// A generator that is quick to seed: the images are small and many.
+class Random {
+public:
+    explicit Random(std::uint32_t seed) : state(seed * 0x9e3779b97f4a7c15u + 1) {}
+    std::uint32_t next()
+    {
+        state ^= state << 13;
+        state ^= state >> 7;
+        state ^= state << 17;
+        return static_cast<std::uint32_t>((state * 0x2545f4914f6cdd1du) >> 32);
+    }
+    int below(int count) { return static_cast<int>(next() % static_cast<std::uint32_t>(count)); }
+
+private:
+    std::uint64_t state;
+};
+
+template <class T> class Source {
+public:
+    Source(Contents contents, std::uint32_t seed) : kind(contents), random(seed), level(random.below(greatest + 1)) {}
+
+    void startRow() { position = 0; }
+
+    T next()
+    {
+        const int x = position++;
+        switch (kind) {
+        case Contents::random:
+            return static_cast<T>(random.next());
+        case Contents::zeros:
+            return 0;
+        case Contents::maximum:
+            return greatest;
+        case Contents::extremes:
+            return random.next() & 0x8000 ? greatest : 0;
+        case Contents::alternating:
+            return x & 1 ? 0 : greatest;
+        case Contents::ramp:
+            return static_cast<T>(level + x);
+        case Contents::runs:
+            if (run-- == 0) {
+                run = random.below(40);
+                level = random.below(greatest + 1);
+            }
+            return static_cast<T>(level);
+        case Contents::nearGrey:
+            return static_cast<T>(level + random.below(3) - 1);
+        }
+        throw std::logic_error("unknown contents");
+    }
+
+private:
+    static constexpr T greatest = std::numeric_limits<T>::max();
+    Contents kind;
+    Random random;
+    int level;
+    int run = 0;
+    int position = 0;
+};
+
+template <class T> void fillAs(TestImage& image, Contents contents, std::uint32_t seed)
+{
+    Source<T> source(contents, seed);
+    image.eachRow([&](std::uint8_t* row, int samples, int, int) {
+        source.startRow();
+        for (int i = 0; i < samples; ++i) {
+            const T value = source.next();
+            std::memcpy(row + i * sizeof(T), &value, sizeof(T));
+        }
+    });
+}
+
+} // namespace
+
+const char* describe(Contents contents)
+{
+    constexpr const char* names[] = {"random",      "zeros", "maximum", "extremes",
+                                     "alternating", "ramp",  "runs",    "near grey"};
+    return names[static_cast<int>(contents)];
+}
+
+void fill(TestImage& image, Contents contents, std::uint32_t seed)
+{
+    switch (image.format().sample) {
+    case interface::Sample::u8:
+        return fillAs<std::uint8_t>(image, contents, seed);
+    case interface::Sample::u16:
+        return fillAs<std::uint16_t>(image, contents, seed);
+    default:
+        throw std::logic_error("no contents for this sample type");
+    }
+}
+
+} // namespace zorcc::test

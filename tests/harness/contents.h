@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+// What source images hold.
+#pragma once
+
+#include <cstdint>
+
+#include "tests/harness/test_image.h"
+
+namespace zorcc::test {
+
+enum class Contents {
+    random,      // every sample on its own
+    zeros,       //
+    maximum,     //
+    extremes,    // every sample the least or the greatest, at random
+    alternating, // greatest, least, greatest, ...
+    ramp,        // neighbours differ by one step
+    runs,        // equal samples, from 1 to 40 of them
+    nearGrey     // a level for all planes of a row, give or take one: differences of channels about zero
+};
+
+inline constexpr Contents allContents[] = {Contents::random,   Contents::zeros,       Contents::maximum,
+                                           Contents::extremes, Contents::alternating, Contents::ramp,
+                                           Contents::runs,     Contents::nearGrey};
+
+const char* describe(Contents contents);
+
+// Fills the used rows; the same seed gives the same samples.
+void fill(TestImage& image, Contents contents, std::uint32_t seed);
+
+} // namespace zorcc::test

@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: MIT
+// Every function against its reference, over sizes, arrangements and contents.
+#include <gtest/gtest.h>
+
+#include "tests/harness/arrangements.h"
+#include "tests/harness/cases.h"
+
+namespace zorcc::test {
+namespace {
+
+using reference::Case;
+
+class Differential : public testing::TestWithParam<Case> {
+protected:
+    Checker checker{GetParam(), functionOf(GetParam())};
+    Arrangements arrangements;
+    const testing::ScopedTrace seed{__FILE__, __LINE__, "ZORCC_TEST_SEED=" + std::to_string(baseSeed())};
+};
+
+TEST_P(Differential, EveryWidth)
+{
+    for (int width = 1; width <= 200; ++width)
+        for (int height = 1; height <= 5; ++height) ASSERT_TRUE(arrangements.check(checker, {width, height}));
+}
+
+TEST_P(Differential, LongRows)
+{
+    for (const int width : {255, 256, 257, 511, 512, 513, 640, 641})
+        ASSERT_TRUE(arrangements.check(checker, {width, 3}));
+    for (const Contents contents : allContents) ASSERT_TRUE(checker.check({{641, 3}, {}, {}, contents}));
+}
+
+TEST_P(Differential, Picture)
+{
+    for (const ZorSize size : {ZorSize{1921, 65}, ZorSize{333, 302}}) {
+        ASSERT_TRUE(checker.check({size, {Steps::wide}, {Steps::sample, true}, Contents::random, baseSeed()}));
+        ASSERT_TRUE(checker.check({size, {Steps::sample, true}, {Steps::tight}, Contents::runs, baseSeed()}));
+    }
+}
+
+TEST_P(Differential, TallColumn)
+{
+    for (int width = 1; width <= 3; ++width)
+        ASSERT_TRUE(checker.check({{width, 5001}, {Steps::sample}, {Steps::tight}, Contents::random, baseSeed()}));
+}
+
+// Row times step passes what an int can hold.
+TEST_P(Differential, HugeSteps)
+{
+    if (!functionOf(GetParam()).signature.steps) return; // takes no steps
+    for (const int width : {1, 33, 200})
+        for (const bool upwards : {false, true}) {
+            const Arrangement near{Steps::sample}, far{Steps::huge, upwards};
+            ASSERT_TRUE(checker.check({{width, 5}, far, near, Contents::random, baseSeed()}));
+            ASSERT_TRUE(checker.check({{width, 5}, near, far, Contents::random, baseSeed()}));
+        }
+}
+
+// Where both images have one shape they may be the same image.
+TEST_P(Differential, InPlace)
+{
+    const interface::Function& function = functionOf(GetParam());
+    const interface::Format &from = *function.source, &to = *function.destination;
+    bool sameShape = from.sample == to.sample && from.layout == to.layout && from.planes == to.planes;
+    for (int p = 0; p < from.planes; ++p)
+        sameShape = sameShape && from.plane[p].samples == to.plane[p].samples &&
+                    from.plane[p].log2X == to.plane[p].log2X && from.plane[p].log2Y == to.plane[p].log2Y;
+    if (!sameShape) return;
+    for (int width = 1; width <= 200; ++width)
+        for (const Steps steps : {Steps::tight, Steps::wide, Steps::isolated})
+            for (const Edge edge : edges) {
+                const Arrangement image = arrangements.any(steps, edge);
+                ASSERT_TRUE(checker.checkInPlace({{width, 3}, image, image, Contents::random, arrangements.anySeed()}));
+            }
+}
+
+INSTANTIATE_TEST_SUITE_P(Functions, Differential, testing::ValuesIn(familyCases().begin(), familyCases().end()),
+                         caseName<testing::TestParamInfo<Case>>);
+
+} // namespace
+} // namespace zorcc::test

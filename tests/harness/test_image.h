@@ -1,0 +1,100 @@
+// SPDX-License-Identifier: MIT
+// An image in guarded memory, as a function's signature wants it laid out, and a shadow: a second image of the same
+// arrangement that holds what the first must hold, every byte of rows, gaps and margins.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <utility>
+
+#include "interface/functions.h"
+#include "tests/harness/plane_memory.h"
+
+namespace zorcc::test {
+
+enum class Steps {
+    tight,    // rows without gaps
+    sample,   // a gap of one sample
+    wide,     // a gap of many samples, a different one in every plane where the signature allows it
+    isolated, // inaccessible memory around every row
+    huge      // as isolated, more than a GiB apart
+};
+
+struct Arrangement {
+    Steps steps = Steps::tight;
+    bool upwards = false; // negative steps
+    Edge edge = Edge::end;
+    int moved = 0;       // bytes by which a plane lies off the edge, in whole samples ...
+    int movedPlane = -1; // ... namely this plane; -1: every plane
+};
+
+std::string describe(const Arrangement& arrangement);
+
+// How a signature passes steps.
+enum class StepArguments { none, one, perPlane };
+StepArguments sourceSteps(const interface::Signature& signature);
+StepArguments destinationSteps(const interface::Signature& signature);
+
+// A byte that is not what it should be. In a gap or a margin `x` is the byte's distance from the start of row y.
+struct Difference {
+    int plane;
+    int y;
+    std::ptrdiff_t x; // in samples of the plane, or in bytes
+    bool inRow;
+    int expected, actual; // whole samples, or bytes
+};
+
+std::string describe(const Difference& difference);
+
+class TestImage {
+public:
+    // `used` is the part of the image that the function may touch; no memory stands behind the rest.
+    void arrange(const interface::Format& imageFormat, ZorSize imageSize, ZorSize used, const Arrangement& arrangement,
+                 StepArguments stepArguments);
+
+    const interface::Format& format() const { return *form; }
+    int planes() const { return form ? form->planes : 0; }
+    ZorSize size() const { return wholeSize; }
+    ZorSize usedSize() const { return usedPart; }
+    const interface::Image& image() const { return actualImage; }
+    const interface::Image& shadow() const { return shadowImage; }
+
+    // Fills everything, gaps and margins included, with bytes that depend on the seed alone.
+    void fillPattern(std::uint32_t seed);
+
+    void copyToShadow();
+
+    // The first byte in which image and shadow differ.
+    [[nodiscard]] std::optional<Difference> difference() const;
+
+    // How many bytes an address lies from the nearest row, and that place in words.
+    std::pair<std::ptrdiff_t, std::string> nearest(const void* address) const;
+
+    // The used rows: calls visit(row, samples, plane, y) with the first byte of each row of the image.
+    template <class Visit> void eachRow(Visit visit) const
+    {
+        for (int p = 0; p < form->planes; ++p)
+            for (int y = 0; y < rows[p]; ++y)
+                visit(static_cast<std::uint8_t*>(actualImage.plane[p]) + std::ptrdiff_t{actualImage.step[p]} * y,
+                      static_cast<int>(rowBytes[p]) / interface::sampleBytes(form->sample), p, y);
+    }
+
+private:
+    const interface::Format* form = nullptr;
+    ZorSize wholeSize{}, usedPart{};
+    PlaneMemory actual[interface::maxPlanes], expected[interface::maxPlanes];
+    interface::Image actualImage, shadowImage;
+    int rows[interface::maxPlanes] = {};
+    std::size_t rowBytes[interface::maxPlanes] = {};
+
+    struct Place {
+        std::ptrdiff_t distance; // from the row; 0 inside it
+        int plane, y;
+        std::ptrdiff_t x; // bytes from the start of row y
+    };
+    Place placeOf(int plane, const std::uint8_t* address) const;
+    Difference locate(int plane, std::size_t piece, std::size_t offset) const;
+};
+
+} // namespace zorcc::test

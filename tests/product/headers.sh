@@ -1,0 +1,18 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
+# Each public header compiles alone, and twice in one file: headers.sh INCLUDE-FOLDER LANGUAGE STANDARD COMPILER
+set -euo pipefail
+include=$1 language=$2 standard=$3 compiler=$4
+command -v "$compiler" >/dev/null || { echo "skipped: no $compiler"; exit 77; }
+
+flags=(-Wall -Wextra -pedantic -Werror -Wconversion -Wundef)
+[ "$language" = c ] && flags+=(-Wstrict-prototypes -Wc++-compat) || flags+=(-Wold-style-cast)
+count=0
+for header in "$include"/*.h; do
+  name=$(basename "$header")
+  echo "$compiler -x $language -std=$standard: $name"
+  printf '#include "%s"\n#include "%s"\nint nothing(void);\nint nothing(void) { return 0; }\n' "$name" "$name" |
+    "$compiler" -x "$language" -std="$standard" "${flags[@]}" -I"$include" -fsyntax-only -
+  count=$((count + 1))
+done
+[ "$count" -ge 3 ]

@@ -1,0 +1,34 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
+# The installed tree, moved elsewhere, serves a C project by find_package and a C++ program by pkg-config:
+# install.sh BUILD-FOLDER SOURCE-FOLDER CC CXX
+set -euo pipefail
+build=$1 source=$2 cc=$3 cxx=$4
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+
+cmake --install "$build" --prefix "$work/first" >/dev/null
+mv "$work/first" "$work/moved"
+lib=$(dirname "$(find "$work/moved" -name libzorccn8.so.6.1)")
+for file in "$work/moved/include/"{zorcc,zorcore,zortypes}.h "$lib/"lib{zorccn8,zorcore}.so{,.6.1}; do
+  [ -e "$file" ] || { echo "not installed: ${file#"$work/moved/"}"; exit 1; }
+done
+if grep -rlF -e "$source" -e "$build" -e "$work/first" "$work/moved"; then
+  echo "paths of this machine stand in the files above"
+  exit 1
+fi
+
+echo "-- C project, find_package"
+cmake -S "$source/tests/product/consumer" -B "$work/consumer" -DCMAKE_PREFIX_PATH="$work/moved" \
+  -DCMAKE_C_COMPILER="$cc" --log-level=WARNING
+cmake --build "$work/consumer"
+"$work/consumer/consumer"
+if ldd "$work/consumer/consumer" | grep -E 'libzor.*(not found|=> /usr)'; then exit 1; fi
+
+echo "-- C++ program, pkg-config"
+export PKG_CONFIG_PATH=$lib/pkgconfig
+[ "$(pkg-config --modversion zorcc)" = 6.1 ]
+# shellcheck disable=SC2046
+"$cxx" -std=c++17 -Wall -Wextra -pedantic -Werror -x c++ "$source/tests/product/consumer/consumer.c" -x none \
+  $(pkg-config --cflags --libs zorcc) -o "$work/program"
+LD_LIBRARY_PATH=$lib "$work/program"

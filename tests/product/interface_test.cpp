@@ -1,0 +1,122 @@
+// SPDX-License-Identifier: MIT
+// The table of functions says what their names say.
+#include <gtest/gtest.h>
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "interface/functions.h"
+
+namespace zorcc::test {
+namespace {
+
+using namespace interface;
+using std::string_view;
+
+// The first of the words that opens the text, which loses it; empty when none does.
+string_view take(string_view& text, const std::vector<string_view>& words)
+{
+    for (const string_view word : words)
+        if (text.starts_with(word)) {
+            text.remove_prefix(word.size());
+            return word;
+        }
+    return {};
+}
+
+const std::vector<string_view> models = {"RGB", "BGR", "YUV"};
+const std::vector<string_view> packings = {"422", "420", "565"};
+const std::vector<string_view> types = {"8u", "16u", "16s", "32s", "32f"};
+const std::vector<string_view> layouts = {"AC4", "AP4", "C1", "C2", "C3", "C4", "P2", "P3", "P4"};
+
+// zori <model> [packing] To <model> [packing] _ <type> [type] _ <layout> [layout] [R]
+struct Name {
+    string_view model[2], packing[2], type[2], layout[2]; // source, destination
+    bool steps = false, whole = false;
+
+    explicit Name(string_view text)
+    {
+        bool known = !take(text, {"zori"}).empty();
+        for (const int i : {0, 1}) {
+            model[i] = take(text, models);
+            packing[i] = take(text, packings);
+            known = known && !model[i].empty() && !take(text, {i == 0 ? "To" : "_"}).empty();
+        }
+        takePair(text, types, type);
+        known = known && !take(text, {"_"}).empty();
+        takePair(text, layouts, layout);
+        steps = !take(text, {"R"}).empty();
+        whole = known && !type[0].empty() && !layout[0].empty() && text.empty();
+    }
+
+private:
+    static void takePair(string_view& text, const std::vector<string_view>& words, string_view (&pair)[2])
+    {
+        pair[0] = take(text, words);
+        pair[1] = take(text, words);
+        if (pair[1].empty()) pair[1] = pair[0];
+    }
+};
+
+Sample sampleOf(string_view type)
+{
+    if (type == "8u") return Sample::u8;
+    if (type == "16u") return Sample::u16;
+    if (type == "16s") return Sample::s16;
+    return type == "32s" ? Sample::s32 : Sample::f32;
+}
+
+void expectImage(const Name& name, int i, const Format& format, bool array, bool stepOfEachPlane)
+{
+    const bool yuv = name.model[i] == "YUV";
+    EXPECT_EQ(format.model, yuv ? Model::yuv : Model::rgb);
+    if (!yuv) {
+        EXPECT_EQ(format.channels.substr(0, 3), name.model[i]);
+    }
+    EXPECT_EQ(format.layout == Layout::packedBits, name.packing[i] == "565");
+    const bool blocks = name.packing[i] == "420", pairs = blocks || name.packing[i] == "422";
+    EXPECT_EQ(format.subsampled(), pairs);
+    EXPECT_EQ(format.log2X(), pairs ? 1 : 0);
+    EXPECT_EQ(format.log2Y(), blocks ? 1 : 0);
+
+    EXPECT_EQ(format.sample, sampleOf(name.type[i]));
+
+    const string_view layout = name.layout[i];
+    const int count = layout.back() - '0';
+    const bool planar = layout[0] == 'P' || layout == "AP4";
+    EXPECT_EQ(format.planes, planar ? count : 1);
+    if (!planar) {
+        const bool packed = format.layout == Layout::packed422;
+        EXPECT_EQ(packed ? format.plane[0].samples : static_cast<int>(format.channels.size()), count);
+    }
+    if (layout[0] == 'A') {
+        EXPECT_NE(format.channels.find('A'), string_view::npos);
+    }
+    EXPECT_EQ(array, planar && layout != "P2");
+    EXPECT_EQ(stepOfEachPlane, array && pairs && name.steps);
+}
+
+TEST(Interface, TableSaysWhatNamesSay)
+{
+    ASSERT_FALSE(functions().empty());
+    for (const Function& function : functions()) {
+        SCOPED_TRACE(function.name);
+        const Name name(function.name);
+        ASSERT_TRUE(name.whole) << "a name that this test cannot read";
+        const Signature& signature = function.signature;
+        EXPECT_EQ(signature.steps, name.steps);
+        expectImage(name, 0, *function.source, signature.sourceArray, signature.sourceSteps);
+        expectImage(name, 1, *function.destination, signature.destinationArray, signature.destinationSteps);
+        const bool hasAlpha = function.destination->channels.find('A') != string_view::npos;
+        EXPECT_EQ(function.alpha != Alpha::none, hasAlpha);
+        if (function.alpha == Alpha::copy) {
+            EXPECT_NE(function.source->channels.find('A'), string_view::npos);
+        }
+        EXPECT_FALSE(function.family.empty());
+        EXPECT_EQ(findFunction(function.name), &function);
+    }
+}
+
+} // namespace
+} // namespace zorcc::test

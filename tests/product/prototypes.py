@@ -1,0 +1,50 @@
+# SPDX-License-Identifier: MIT
+"""The prototypes of zorcc.h are those that the names of the table's functions ask for: prototypes.py HEADER TABLE"""
+import re
+import sys
+
+from tools import Findings, prototypes, table_rows
+
+TYPES = {"8u": "uint8_t", "16u": "uint16_t", "16s": "int16_t", "32s": "int32_t", "32f": "float"}
+TYPE = r"\d+[usf]"
+LAYOUT = r"AC4|AP4|C[1-4]|P[2-4]"
+
+
+def image(role, sample, layout, subsampled, steps):
+    """Parameters of one image."""
+    const = "const " if role == "Src" else ""
+    planes = {"P": layout[-1], "A": "4" if layout == "AP4" else ""}.get(layout[0], "")
+    parameters = [f"{const}{sample}* const p{role}[{planes}]" if planes else f"{const}{sample}* p{role}"]
+    if steps:
+        step = role.lower() + "Step"
+        parameters.append(f"const int {step}[{planes}]" if planes and subsampled else f"int {step}")
+    return parameters
+
+
+def expected(name):
+    """Parameters of a function up to the size."""
+    found = re.fullmatch(rf"zori(\w+?)To(\w+?)_({TYPE})({TYPE})?_({LAYOUT})({LAYOUT})?(R?)", name)
+    if not found:
+        return None
+    source, destination, from_type, to_type, from_layout, to_layout, steps = found.groups()
+    half = re.compile(r"4(22|20|11)")
+    return (image("Src", TYPES[from_type], from_layout, half.search(source), steps)
+            + image("Dst", TYPES[to_type or from_type], to_layout or from_layout, half.search(destination), steps)
+            + ["ZorSize roiSize"])
+
+
+header, table = sys.argv[1:]
+declared = prototypes(header)
+rows = table_rows(table)
+findings = Findings()
+for name in {name for name in rows if rows.count(name) > 1}:
+    findings.add(f"{name}: twice in the table")
+findings.same(rows, set(declared) - {"zorccGetLibVersion"}, "the table", "the header")
+for name in set(rows) & set(declared):
+    result, parameters = declared[name]
+    wanted = expected(name)
+    if wanted is None:
+        findings.add(f"{name}: a name that this check cannot read")
+    elif result != "ZorStatus" or parameters[:len(wanted)] != wanted:
+        findings.add(f"{name}: declared {result} ({', '.join(parameters)}), not ({', '.join(wanted)})")
+findings.leave()

@@ -1,0 +1,54 @@
+# SPDX-License-Identifier: MIT
+"""What the checks of the built libraries share."""
+import re
+import subprocess
+import sys
+
+
+def output_of(*command):
+    """Standard output of a command that must succeed and say something."""
+    text = subprocess.run(command, check=True, capture_output=True, text=True).stdout
+    if not text.strip():
+        sys.exit(f"{' '.join(command)}: no output")
+    return text
+
+
+def prototypes(header):
+    """{name: (return type, [parameters])} of the functions that a header exports, white space normalised."""
+    with open(header, encoding="ascii") as file:
+        text = re.sub(r"/\*.*?\*/", " ", file.read(), flags=re.S)
+    found = {}
+    for result, name, parameters in re.findall(r"ZOR_API\s+([^;{(]*?)(\w+)\s*\(([^;{]*)\)\s*;", text):
+        found[name] = (" ".join(result.split()), [" ".join(p.split()) for p in parameters.split(",")])
+    if not found:
+        sys.exit(f"{header}: no exported functions found")
+    return found
+
+
+def table_rows(table):
+    """Names of the functions of the interface table."""
+    with open(table, encoding="ascii") as file:
+        rows = re.findall(r"^ZOR_FUNCTION\((\w+),", file.read(), flags=re.M)
+    if not rows:
+        sys.exit(f"{table}: no functions found")
+    return rows
+
+
+class Findings:
+    """Collects faults, prints them, and gives the exit status."""
+
+    def __init__(self):
+        self.count = 0
+
+    def add(self, text):
+        self.count += 1
+        print(text)
+
+    def same(self, one, other, what_one, what_other):
+        for name in sorted(set(one) - set(other)):
+            self.add(f"{name}: in {what_one}, not in {what_other}")
+        for name in sorted(set(other) - set(one)):
+            self.add(f"{name}: in {what_other}, not in {what_one}")
+
+    def leave(self):
+        sys.exit(1 if self.count else 0)

@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: MIT
+#include <iostream>
+
+#include "commands.h"
+#include "conversion.h"
+#include "error.h"
+#include "io/file_kind.h"
+#include "io/writer.h"
+#include "progress.h"
+
+namespace zorcc::tool {
+
+namespace {
+
+// What a file is to hold if the user does not say: what it can hold, without a conversion where possible.
+const Format& usualFormat(const std::string& out, const Format& from)
+{
+    switch (fileKindToWrite(out)) {
+    case FileKind::raw:
+        throw UsageError(out + ": a .raw file needs --to FORMAT");
+    case FileKind::y4m:
+        return isRgb(from) ? interface::formats::yuv420p : planarYuv(from);
+    case FileKind::yuv:
+        return isRgb(from) ? interface::formats::yuv420p : from;
+    default:
+        return isRgb(from) ? from : interface::formats::rgb24;
+    }
+}
+
+} // namespace
+
+void convert(const ConvertOptions& options)
+{
+    fileKindToWrite(options.out); // a bad name is told before any work
+    const Format* const asked = options.to.empty() ? nullptr : &formatNamed(options.to);
+    const auto reader = openInput(options.in, nullptr, OddSizes::roundUp);
+    const auto writer = openWriter(options.out, reader->tags());
+    Progress progress(*reader);
+    Stats stats;
+    ZorSize size{};
+    std::optional<Conversion> conversion;
+    const Format* from = nullptr;
+    while (auto picture = reader->next()) {
+        size = picture->visible();
+        writer->write(naming(reader->path(), [&] {
+            if (!conversion || from != &picture->format()) {
+                from = &picture->format();
+                conversion = findConversion(*from, asked ? *asked : usualFormat(options.out, *from));
+            }
+            return (*conversion)(std::move(*picture), options.timing.repeat, stats);
+        }));
+        progress.update();
+    }
+    writer->commit();
+    if (options.timing.stats)
+        std::cout << (conversion->function
+                          ? stats.line(std::string(conversion->function->name), size, options.timing.repeat)
+                          : "rearranged without a function of the library\n");
+}
+
+} // namespace zorcc::tool

@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+#include <algorithm>
+#include <climits>
+
+#include "commands.h"
+#include "conversion.h"
+#include "error.h"
+#include "io/writer.h"
+
+namespace zorcc::tool {
+
+void sheet(const std::string& out, const std::vector<std::string>& in)
+{
+    constexpr int gap = 8;
+    constexpr std::uint8_t ground = 32;
+
+    const Format& rgb = interface::formats::rgb24;
+    std::vector<Picture> pictures;
+    std::int64_t width = 0;
+    int height = 0;
+    for (const std::string& path : in) { // of a file of many pictures the first
+        Picture picture = *openReader(path)->next();
+        pictures.push_back(naming(path, [&] {
+            Stats stats;
+            const ZorSize visible = picture.visible();
+            return rearranged(findConversion(picture.format(), rgb)(std::move(picture), 1, stats), rgb, visible);
+        }));
+        width += pictures.back().size().width + (pictures.size() > 1 ? gap : 0);
+        height = std::max(height, pictures.back().size().height);
+    }
+
+    const auto writer = openWriter(out);
+    writer->write(naming(out, [&] {
+        if (width > INT_MAX) throw Cause("the pictures are too wide together");
+        Picture all(rgb, {static_cast<int>(width), height});
+        std::fill_n(all.row(0, 0), all.visibleRowBytes(0) * height, ground);
+        std::size_t x = 0;
+        for (const Picture& picture : pictures) {
+            const std::size_t rowBytes = picture.visibleRowBytes(0);
+            for (int y = 0; y < picture.size().height; ++y) std::copy_n(picture.row(0, y), rowBytes, all.row(0, y) + x);
+            x += rowBytes + 3 * gap;
+        }
+        return all;
+    }));
+    writer->commit();
+}
+
+} // namespace zorcc::tool

@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+// The commands of zorcc and their options. Each writes its answer to stdout and throws what went wrong.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "io/reader.h"
+
+namespace zorcc::tool {
+
+struct Input {
+    std::string path;
+    std::optional<ZorSize> size; // given: the file is headerless
+    std::string format;
+};
+
+struct Timing {
+    int repeat = 1;
+    bool stats = false;
+};
+
+struct CallOptions {
+    std::string function;
+    Input in;
+    std::vector<std::string> out;
+    Timing timing;
+};
+
+struct ConvertOptions {
+    Input in;
+    std::string out, to;
+    Timing timing;
+};
+
+void list(const std::string& pattern);
+void call(const CallOptions& options);
+void convert(const ConvertOptions& options);
+void chart(const std::string& out, ZorSize size);
+void compare(const std::string& a, const std::string& b);
+void sheet(const std::string& out, const std::vector<std::string>& in);
+
+// The input of call and convert; a headerless one is of the format `usual` if the user names none.
+std::unique_ptr<Reader> openInput(const Input& input, const Format* usual, OddSizes oddSizes);
+
+} // namespace zorcc::tool

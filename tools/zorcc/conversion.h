@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+// Choosing and running functions of the library.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "formats.h"
+#include "picture.h"
+
+namespace zorcc::tool {
+
+using interface::Function;
+
+// Time of the library's work alone.
+struct Stats {
+    int pictures = 0;
+    double megapixels = 0, seconds = 0;
+
+    // One line: "zoriRGBToYUV_8u_C3R: 1 picture of 1920x1080, 5012.3 megapixels/s (best of 3)".
+    std::string line(const std::string& what, ZorSize size, int repeat) const;
+};
+
+// Runs a function on a picture of its source format; the result has the same size and shows the same part. Samples that
+// the function leaves alone are 0, alpha 255. Of `repeat` runs the fastest counts. Throws Cause for an error; a warning
+// comes back in `status`.
+Picture run(const Function& function, const Picture& source, int repeat, Stats& stats, ZorStatus& status);
+
+// The way from one format to another: rearrangement, a function, rearrangement; or, without a function, just that.
+struct Conversion {
+    const Function* function;
+    const Format* target;
+
+    // Nothing of an odd size is lost: the picture is first filled up to whole blocks by repeating its last column and
+    // row, which the result has, too, but does not show.
+    Picture operator()(Picture picture, int repeat, Stats& stats) const;
+};
+
+// The cheapest conversion, preferring functions with steps; throws Cause if there is none.
+Conversion findConversion(const Format& from, const Format& to);
+
+} // namespace zorcc::tool

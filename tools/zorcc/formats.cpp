@@ -1,0 +1,185 @@
+// SPDX-License-Identifier: MIT
+#include "formats.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstring>
+
+#include "error.h"
+
+namespace zorcc::tool {
+
+using interface::Layout;
+
+namespace {
+
+template <class T> constexpr double fullScale = 1;
+template <> constexpr double fullScale<std::uint8_t> = 255;
+template <> constexpr double fullScale<std::uint16_t> = 65535;
+
+// No value of an integer type lies halfway between two of another (255 and 65535 / 255 are odd): no tie to break.
+template <class To, class From> To converted(From value)
+{
+    if constexpr (std::is_same_v<To, From>) return value;
+    const double unit = std::clamp(value / fullScale<From>, 0.0, 1.0);
+    if constexpr (std::is_floating_point_v<To>) return static_cast<To>(unit);
+    return static_cast<To>(std::isnan(unit) ? 0 : std::lround(unit * fullScale<To>));
+}
+
+template <class T> T load(const std::uint8_t* from)
+{
+    T value;
+    std::memcpy(&value, from, sizeof value);
+    return value;
+}
+
+template <class T> void fill(const Channel& to, T value)
+{
+    for (int y = 0; y < to.height; ++y)
+        for (int x = 0; x < to.width; ++x) std::memcpy(to.first + to.step * y + to.stride * x, &value, sizeof value);
+}
+
+// A sample beyond the source repeats its last one.
+template <class From, class To> void copy(const Channel& from, const Channel& to)
+{
+    for (int y = 0; y < to.height; ++y) {
+        const std::uint8_t* const source = from.first + from.step * std::min(y, from.height - 1);
+        std::uint8_t* const destination = to.first + to.step * y;
+        for (int x = 0; x < to.width; ++x) {
+            const To value = converted<To>(load<From>(source + from.stride * std::min(x, from.width - 1)));
+            std::memcpy(destination + to.stride * x, &value, sizeof value);
+        }
+    }
+}
+
+bool isScalable(Sample sample) { return sample == Sample::u8 || sample == Sample::u16 || sample == Sample::f32; }
+
+// Calls visit(T{}) with the C++ type of a sample; the signed types are never rearranged into others.
+template <class Visit> void withType(Sample sample, Visit visit)
+{
+    if (sample == Sample::u8)
+        visit(std::uint8_t{});
+    else if (sample == Sample::f32)
+        visit(float{});
+    else
+        visit(std::uint16_t{});
+}
+
+void copyChannel(const Picture& from, const Channel& source, const Picture& to, const Channel& destination)
+{
+    withType(from.format().sample, [&]<class From>(From) {
+        withType(to.format().sample, [&]<class To>(To) {
+            // Chroma of a picture that is too small to have any is neutral.
+            if (source.width == 0 || source.height == 0)
+                fill(destination, converted<To>(std::uint8_t{128}));
+            else
+                copy<From, To>(source, destination);
+        });
+    });
+}
+
+void setOpaque(const Picture& picture, const Channel& channel)
+{
+    withType(picture.format().sample, [&]<class T>(T) { fill(channel, converted<T>(std::uint8_t{255})); });
+}
+
+// 5-6-5: the top bits of every channel, the first channel lowest.
+void packBits(const Picture& rgb, const Picture& to)
+{
+    const ZorSize size = to.size();
+    for (int y = 0; y < size.height; ++y) {
+        const std::uint8_t* const source = rgb.row(0, y);
+        std::uint8_t* const destination = to.row(0, y);
+        for (int x = 0; x < size.width; ++x) {
+            const std::uint8_t* const p = source + 3 * static_cast<std::ptrdiff_t>(x);
+            const auto bits = static_cast<std::uint16_t>(p[0] >> 3 | p[1] >> 2 << 5 | p[2] >> 3 << 11);
+            std::memcpy(destination + 2 * static_cast<std::ptrdiff_t>(x), &bits, sizeof bits);
+        }
+    }
+}
+
+} // namespace
+
+const Format& formatNamed(const std::string& name)
+{
+    std::string known;
+    for (const interface::Function& function : interface::functions())
+        for (const Format* format : {function.source, function.destination}) {
+            if (format->name == name) return *format;
+            const std::string word = " " + std::string(format->name) + ",";
+            if (known.find(word) == std::string::npos) known += word;
+        }
+    known.pop_back();
+    throw UsageError("unknown format " + name + "; known:" + known);
+}
+
+const Format& pictureFormat(bool grey, bool alpha, Sample sample)
+{
+    using namespace interface::formats;
+    if (sample == Sample::f32) return grey ? greyf : rgbf;
+    if (sample == Sample::u16) return grey ? grey16 : alpha ? rgba64 : rgb48;
+    return grey ? grey8 : alpha ? rgba : rgb24;
+}
+
+const Format& planarYuv(const Format& format)
+{
+    using namespace interface::formats;
+    return format.log2Y() > 0 ? yuv420p : format.log2X() > 0 ? yuv422p : yuv444p;
+}
+
+std::optional<int> rearrangementCost(const Format& from, const Format& to)
+{
+    if (&from == &to) return 0;
+    if (from.model != to.model || from.log2X() != to.log2X() || from.log2Y() != to.log2Y()) return {};
+    if (from.layout == Layout::packedBits || (to.layout == Layout::packedBits && to.channels != "RGB")) return {};
+    int cost = 1;
+    for (char letter : to.channels)
+        if (from.channels.find(letter) == std::string_view::npos) {
+            if (letter != 'A' && !isGrey(from)) return {};
+            cost += 2;
+        }
+    for (char letter : from.channels) cost += 2 * (to.channels.find(letter) == std::string_view::npos);
+    cost += 2 * (from.layout != to.layout);
+    if (to.layout == Layout::packedBits) return cost + 32; // loses most of all
+    if (from.sample != to.sample) {
+        if (!isScalable(from.sample) || !isScalable(to.sample)) return {};
+        cost += interface::sampleBytes(from.sample) > interface::sampleBytes(to.sample) ? 16 : 8;
+    }
+    return cost;
+}
+
+Picture rearranged(Picture picture, const Format& to, ZorSize size)
+{
+    if (&picture.format() == &to && picture.size() == size) return picture;
+    const ZorSize visible = {std::min(picture.visible().width, size.width),
+                             std::min(picture.visible().height, size.height)};
+    Picture result(to, size, visible);
+    if (to.layout == Layout::packedBits && picture.format().layout != Layout::packedBits) {
+        packBits(rearranged(std::move(picture), interface::formats::rgb24, size), result);
+        return result;
+    }
+    if (to.layout == Layout::packedBits) { // one sample a pixel, whatever it means
+        copy<std::uint16_t, std::uint16_t>(
+            {picture.row(0, 0), picture.image().step[0], 2, picture.visible().width, picture.visible().height},
+            {result.row(0, 0), result.image().step[0], 2, size.width, size.height});
+        return result;
+    }
+    const std::string_view letters = picture.format().channels;
+    for (char letter : to.channels) {
+        const Channel destination = channelOf(result, letter, size);
+        const bool exists = letters.find(letter) != std::string_view::npos;
+        if (!exists && letter == 'A')
+            setOpaque(result, destination);
+        else
+            copyChannel(picture, channelOf(picture, exists ? letter : letters[0], picture.visible()), result,
+                        destination);
+    }
+    return result;
+}
+
+void setOpaque(const Picture& picture)
+{
+    if (hasAlpha(picture.format())) setOpaque(picture, channelOf(picture, 'A', picture.size()));
+}
+
+} // namespace zorcc::tool

@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+// Pixel formats by name, those of picture files, and what one can be made of another without arithmetic on colours.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "picture.h"
+
+namespace zorcc::tool {
+
+// Formats that picture files hold besides those of the library; L is grey.
+inline constexpr Format grey8 = interface::formats::interleaved("grey8", "L", interface::Model::rgb, Sample::u8);
+inline constexpr Format grey16 = interface::formats::interleaved("grey16", "L", interface::Model::rgb, Sample::u16);
+inline constexpr Format greyf = interface::formats::interleaved("greyf", "L", interface::Model::rgb, Sample::f32);
+inline constexpr Format rgb48 = interface::formats::interleaved("rgb48", "RGB", interface::Model::rgb, Sample::u16);
+inline constexpr Format rgba64 = interface::formats::interleaved("rgba64", "RGBA", interface::Model::rgb, Sample::u16);
+inline constexpr Format rgbf = interface::formats::interleaved("rgbf", "RGB", interface::Model::rgb, Sample::f32);
+
+// A format that some function takes or gives; throws UsageError for other names.
+const Format& formatNamed(const std::string& name);
+
+inline bool isGrey(const Format& format) { return format.channels == "L"; }
+inline bool hasAlpha(const Format& format) { return format.channels.find('A') != std::string_view::npos; }
+inline bool isDeep(const Format& format) { return format.sample != Sample::u8; }
+inline bool isRgb(const Format& format) { return format.model == interface::Model::rgb; }
+
+// How a picture file that holds red, green and blue, or grey, of the given sample type says it.
+const Format& pictureFormat(bool grey, bool alpha, Sample sample);
+
+// The planar format, without alpha, of a luma-chroma format's own chroma sampling.
+const Format& planarYuv(const Format& format);
+
+// What it costs to rearrange pictures of one format into another: 0 for the same, more the more is moved, added or
+// lost; nothing where plain rearrangement does not lead. It may change the order and layout of channels, repeat grey,
+// add opaque alpha or drop alpha, scale between 8 bits, 16 bits and 0..1 floats, and cut channels down to packed bits.
+std::optional<int> rearrangementCost(const Format& from, const Format& to);
+
+// The picture in another format and size, which rearrangementCost must allow: pixels beyond the visible part repeat the
+// last visible column and row. Comes back untouched where nothing is to be done.
+Picture rearranged(Picture picture, const Format& to, ZorSize size);
+
+// Sets alpha, where there is any, to opaque.
+void setOpaque(const Picture& picture);
+
+} // namespace zorcc::tool

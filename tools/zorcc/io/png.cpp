@@ -1,0 +1,146 @@
+// SPDX-License-Identifier: MIT
+#include <csetjmp>
+#include <vector>
+
+#include <png.h>
+
+#include "../error.h"
+#include "../formats.h"
+#include "codecs.h"
+
+namespace zorcc::tool {
+
+namespace {
+
+// libpng leaves by longjmp. `body` must therefore hold nothing with a destructor; its owner lives in the caller.
+struct Png {
+    std::string message;
+    png_structp png = nullptr;
+    png_infop info = nullptr;
+
+    template <class Body> void guarded(Body body)
+    {
+        if (setjmp(png_jmpbuf(png))) throw Cause(message);
+        body();
+    }
+
+    static void onError(png_structp png, png_const_charp text)
+    {
+        static_cast<Png*>(png_get_error_ptr(png))->message = text;
+        png_longjmp(png, 1);
+    }
+    static void onWarning(png_structp, png_const_charp) {}
+
+    void created()
+    {
+        if (png) info = png_create_info_struct(png);
+        if (!info) throw Cause("not enough memory");
+    }
+};
+
+struct Decoder : Png {
+    explicit Decoder(InputFile& file)
+    {
+        png = png_create_read_struct(PNG_LIBPNG_VER_STRING, static_cast<Png*>(this), onError, onWarning);
+        created();
+        png_set_read_fn(png, file.stream(), [](png_structp from, png_bytep data, std::size_t count) {
+            const auto stream = static_cast<std::FILE*>(png_get_io_ptr(from));
+            if (std::fread(data, 1, count, stream) != count) png_error(from, "the file ends early");
+        });
+        png_set_user_limits(png, PNG_UINT_31_MAX, PNG_UINT_31_MAX); // memory is the limit
+    }
+    ~Decoder() { png_destroy_read_struct(&png, &info, nullptr); }
+    Decoder(const Decoder&) = delete;
+    Decoder& operator=(const Decoder&) = delete;
+};
+
+struct Encoder : Png {
+    explicit Encoder(AtomicFile& file)
+    {
+        png = png_create_write_struct(PNG_LIBPNG_VER_STRING, static_cast<Png*>(this), onError, onWarning);
+        created();
+        png_set_write_fn(
+            png, file.stream(),
+            [](png_structp to, png_bytep data, std::size_t count) {
+                const auto stream = static_cast<std::FILE*>(png_get_io_ptr(to));
+                if (std::fwrite(data, 1, count, stream) != count) png_error(to, "cannot write: no space left?");
+            },
+            [](png_structp) {});
+    }
+    ~Encoder() { png_destroy_write_struct(&png, &info); }
+    Encoder(const Encoder&) = delete;
+    Encoder& operator=(const Encoder&) = delete;
+};
+
+std::vector<png_bytep> rowPointers(const Picture& picture)
+{
+    std::vector<png_bytep> rows;
+    for (int y = 0; y < picture.size().height; ++y) rows.push_back(picture.row(0, y));
+    return rows;
+}
+
+} // namespace
+
+Picture decodePng(InputFile& file)
+{
+    Decoder decoder(file);
+    const png_structp png = decoder.png;
+    const png_infop info = decoder.info;
+    decoder.guarded([=] { png_read_info(png, info); });
+
+    const ZorSize size = {static_cast<int>(png_get_image_width(png, info)),
+                          static_cast<int>(png_get_image_height(png, info))};
+    // Deflate makes at most 1032 bytes of one, so a short file is known to lack rows before memory is taken for them.
+    constexpr std::uint64_t maxExpansion = 1032;
+    file.expect(static_cast<std::uint64_t>(png_get_rowbytes(png, info)) * size.height / maxExpansion);
+
+    const int colour = png_get_color_type(png, info);
+    const bool alpha = (colour & PNG_COLOR_MASK_ALPHA) != 0 || png_get_valid(png, info, PNG_INFO_tRNS) != 0;
+    const bool grey = (colour & PNG_COLOR_MASK_COLOR) == 0 && !alpha;
+    const bool deep = png_get_bit_depth(png, info) == 16;
+    decoder.guarded([=] {
+        png_set_expand(png); // palettes to RGB, 1, 2 and 4 bits to 8, a transparent colour to alpha
+        if (!grey) png_set_gray_to_rgb(png);
+        if (deep) png_set_swap(png); // least significant byte first, as in memory
+        png_set_interlace_handling(png);
+        png_read_update_info(png, info);
+    });
+    Picture picture(pictureFormat(grey, alpha, deep ? Sample::u16 : Sample::u8), size);
+    if (png_get_rowbytes(png, info) != picture.visibleRowBytes(0)) throw Cause("unknown kind of PNG");
+    std::vector<png_bytep> rows = rowPointers(picture);
+    const png_bytepp first = rows.data();
+    decoder.guarded([=] {
+        png_read_image(png, first);
+        png_read_end(png, nullptr);
+    });
+    return picture;
+}
+
+void encodePng(AtomicFile& file, Picture given)
+{
+    const Format& from = given.format();
+    const bool grey = isGrey(from), deep = isDeep(from);
+    const ZorSize size = given.visible();
+    const Picture picture =
+        rearranged(std::move(given), pictureFormat(grey, hasAlpha(from), deep ? Sample::u16 : Sample::u8), size);
+
+    Encoder encoder(file);
+    const png_structp png = encoder.png;
+    const png_infop info = encoder.info;
+    const int colour = grey                         ? PNG_COLOR_TYPE_GRAY
+                       : hasAlpha(picture.format()) ? PNG_COLOR_TYPE_RGB_ALPHA
+                                                    : PNG_COLOR_TYPE_RGB;
+    std::vector<png_bytep> rows = rowPointers(picture);
+    const png_bytepp first = rows.data();
+    encoder.guarded([=] {
+        png_set_user_limits(png, PNG_UINT_31_MAX, PNG_UINT_31_MAX);
+        png_set_IHDR(png, info, static_cast<png_uint_32>(size.width), static_cast<png_uint_32>(size.height),
+                     deep ? 16 : 8, colour, PNG_INTERLACE_NONE, PNG_COMPRESSION_TYPE_DEFAULT, PNG_FILTER_TYPE_DEFAULT);
+        png_write_info(png, info);
+        if (deep) png_set_swap(png);
+        png_write_image(png, first);
+        png_write_end(png, nullptr);
+    });
+}
+
+} // namespace zorcc::tool

@@ -1,0 +1,178 @@
+// SPDX-License-Identifier: MIT
+// zorcc: the library's functions on files.
+#include <charconv>
+#include <cstring>
+#include <iostream>
+
+#include <CLI/CLI.hpp>
+
+#include "commands.h"
+#include "error.h"
+#include "io/atomic_file.h"
+
+namespace {
+
+using namespace zorcc::tool;
+
+constexpr int failed = 1, badUsage = 2;
+
+std::string versionText()
+{
+    const ZorVersion& version = *zorccGetLibVersion();
+    const std::string code(version.cpuCode, strnlen(version.cpuCode, sizeof version.cpuCode));
+    return std::string("zorcc ") + version.versionText + " (" + version.libraryName + ", " + code + ", " +
+           version.buildDate + ")";
+}
+
+ZorSize parseSize(const std::string& text)
+{
+    ZorSize size{};
+    const char* const end = text.data() + text.size();
+    const auto width = std::from_chars(text.data(), end, size.width);
+    if (width.ec == std::errc() && width.ptr != end && *width.ptr == 'x') {
+        const auto height = std::from_chars(width.ptr + 1, end, size.height);
+        if (height.ec == std::errc() && height.ptr == end && size.width > 0 && size.height > 0) return size;
+    }
+    throw CLI::ValidationError("--size", "'" + text + "' is no size such as 640x480");
+}
+
+template <class Size> void addSize(CLI::App* command, Size& size, const std::string& help)
+{
+    command
+        ->add_option_function<std::string>(
+            "--size", [&size](const std::string& text) { size = parseSize(text); }, help)
+        ->type_name("WxH");
+}
+
+void addInput(CLI::App* command, Input& input, const std::string& usualFormat)
+{
+    command->add_option("IN", input.path, "PNG, JPEG, PPM, PGM, PFM, Y4M or headerless file")->required();
+    addSize(command, input.size, "IN is headerless, with pictures of this size");
+    command->add_option("--format", input.format, "pixel format of a headerless IN" + usualFormat)->type_name("NAME");
+}
+
+void addTiming(CLI::App* command, Timing& timing)
+{
+    command->add_option("--repeat", timing.repeat, "run the library N times on each picture and take the best time")
+        ->type_name("N")
+        ->check(CLI::PositiveNumber);
+    command->add_flag("-v,--verbose,--stats", timing.stats, "tell the function, and megapixels/s of the library alone");
+}
+
+struct Options {
+    std::string pattern;
+    CallOptions call;
+    ConvertOptions convert;
+    std::string chartOut, sheetOut, compareA, compareB;
+    ZorSize chartSize = {1280, 720};
+    std::vector<std::string> sheetIn;
+};
+
+void addCommands(CLI::App& app, Options& o)
+{
+    CLI::App* command = app.add_subcommand("list", "List functions: name, source format, destination format, family");
+    command->add_option("PATTERN", o.pattern, "part of a function or family name, or a pattern with * ? []");
+    command->footer("Examples:\n  zorcc list\n  zorcc list YUV420\n  zorcc list 'zori*_P3R'");
+    command->callback([&o] { list(o.pattern); });
+
+    command = app.add_subcommand("call", "Run one function of the library on a file");
+    command->add_option("FUNCTION", o.call.function, "name of an exported function")->required();
+    addInput(command, o.call.in, " (otherwise what FUNCTION takes)");
+    command->add_option("OUT", o.call.out, "result: one file, or one for each plane")->required();
+    addTiming(command, o.call.timing);
+    command->footer("IN is rearranged (order of channels, planes, alpha, depth) into what FUNCTION takes, never "
+                    "converted. Sizes are\n"
+                    "given to FUNCTION as they are; what it leaves alone is 0, and alpha 255. RGB results go to .png "
+                    ".jpg .ppm .pfm,\n"
+                    "YUV results to .y4m, planes to .pgm, anything to headerless .yuv .rgb .raw (native byte order; "
+                    "half of an odd\n"
+                    "size is rounded down).\n"
+                    "Examples:\n"
+                    "  zorcc call zoriRGBToYUV420_8u_C3P3R photo.png photo.y4m\n"
+                    "  zorcc call zoriRGBToYUV_8u_C3P3R photo.png y.pgm u.pgm v.pgm\n"
+                    "  zorcc call zoriYUV422ToRGB_8u_C2C3R --size 640x480 frame.yuv frame.png");
+    command->callback([&o] { call(o.call); });
+
+    command = app.add_subcommand("convert", "Convert a file, with the function that suits the two formats");
+    addInput(command, o.convert.in, "");
+    command->add_option("OUT", o.convert.out, "result; for several pictures .y4m, .yuv, or frame_%03d.png")->required();
+    command->add_option("--to", o.convert.to, "pixel format of OUT, such as yuv420p, yuv422p, yuv444p, yuyv, rgb24")
+        ->type_name("NAME");
+    addTiming(command, o.convert.timing);
+    command->footer(
+        "Without --to, RGB into .y4m or .yuv becomes yuv420p and YUV into a picture file rgb24. All pictures of IN "
+        "are\n"
+        "converted. An odd size in a format of shared chroma loses nothing: the last column and row are repeated to\n"
+        "complete the last blocks, and cut off on the way back; half of an odd size is rounded up in files. A .y4m "
+        "file\n"
+        "keeps the frame rate and colour range of a .y4m IN; otherwise it says 25 pictures a second and full range.\n"
+        "Examples:\n"
+        "  zorcc convert photo.png photo.y4m\n"
+        "  zorcc convert clip.y4m frame_%03d.png\n"
+        "  zorcc convert photo.jpg photo.yuv --to yuyv --repeat 20 --stats\n"
+        "  zorcc convert --size 640x480 --format yuyv frame.yuv frame.png");
+    command->callback([&o] { convert(o.convert); });
+
+    command = app.add_subcommand("chart", "Draw the test picture");
+    command->add_option("OUT", o.chartOut, "PNG, JPEG, PPM or PFM file")->required();
+    addSize(command, o.chartSize, "its size; 1280x720 if not given");
+    command->footer("Examples:\n  zorcc chart chart.png\n  zorcc chart small.ppm --size 641x481");
+    command->callback([&o] { chart(o.chartOut, o.chartSize); });
+
+    command = app.add_subcommand("compare", "PSNR and largest difference of two files, by channel");
+    command->add_option("A", o.compareA, "PNG, JPEG, PPM, PGM, PFM or Y4M file")->required();
+    command->add_option("B", o.compareB, "the file to compare with, of the same size and colour model")->required();
+    command->footer("Y4M files are compared over all pictures. Samples of more than 8 bits are compared as 0..1.\n"
+                    "Example:\n  zorcc compare photo.png back.png");
+    command->callback([&o] { compare(o.compareA, o.compareB); });
+
+    command = app.add_subcommand("sheet", "Put pictures side by side");
+    command->add_option("OUT", o.sheetOut, "PNG, JPEG or PPM file")->required();
+    command->add_option("IN", o.sheetIn, "pictures; of a file of many the first")->required();
+    command->footer("Example:\n  zorcc sheet sheet.png photo.png back.png");
+    command->callback([&o] { sheet(o.sheetOut, o.sheetIn); });
+}
+
+// One line, whatever the cause.
+int complain(std::string message, int code)
+{
+    if (const std::size_t end = message.find('\n'); end != message.npos) message.resize(end);
+    std::cerr << "zorcc: " << message << '\n';
+    return code;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    removeUnfinishedFilesOnSignals();
+    Options options;
+    CLI::App app("Colour conversion of picture and video files with libzorccn8");
+    app.name("zorcc");
+    app.set_version_flag("--version", versionText());
+    app.add_option_function<int>(
+           "--threads", [](int count) { zorSetNumThreads(count); }, "threads that one call may use")
+        ->type_name("N")
+        ->check(CLI::PositiveNumber)
+        ->trigger_on_parse();
+    app.require_subcommand(0, 1); // none is told apart from a wrong one below
+    app.fallthrough();
+    app.footer(
+        "zorcc COMMAND --help tells more.\n"
+        "Example:\n  zorcc chart chart.png && zorcc convert chart.png chart.y4m && zorcc convert chart.y4m back.png\n"
+        "  zorcc compare chart.png back.png");
+    addCommands(app, options);
+    try {
+        app.parse(argc, argv);
+        if (app.get_subcommands().empty()) throw UsageError("which command? zorcc --help shows them");
+        if (!std::cout.flush()) return complain("standard output: cannot write", failed);
+        return 0;
+    } catch (const CLI::ParseError& error) {
+        if (error.get_exit_code() == 0) return app.exit(error); // --help, --version
+        return complain(error.what(), badUsage);
+    } catch (const UsageError& error) {
+        return complain(error.what(), badUsage);
+    } catch (const std::exception& error) {
+        return complain(error.what(), failed);
+    }
+}

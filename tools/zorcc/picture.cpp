@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: MIT
+#include "picture.h"
+
+#include <algorithm>
+#include <climits>
+
+#include "error.h"
+
+namespace zorcc::tool {
+
+using interface::Layout;
+
+namespace {
+
+constexpr std::size_t alignment = 64;
+
+constexpr std::size_t aligned(std::size_t bytes) { return (bytes + alignment - 1) / alignment * alignment; }
+
+int roundUp(int value, int log2)
+{
+    const std::int64_t rounded = (static_cast<std::int64_t>(value) + (1 << log2) - 1) >> log2 << log2;
+    if (rounded > INT_MAX) throw Cause("a side of " + std::to_string(value) + " pixels is too long");
+    return static_cast<int>(rounded);
+}
+
+// Samples of a channel that `pixels` pixels share by 1 << log2, of which `stored` exist.
+int sharedSamples(int pixels, int log2, int stored) { return std::min((pixels + (1 << log2) - 1) >> log2, stored); }
+
+} // namespace
+
+std::string sizeName(ZorSize size) { return std::to_string(size.width) + "x" + std::to_string(size.height); }
+
+ZorSize wholeBlocks(ZorSize size, int log2X, int log2Y)
+{
+    return {roundUp(size.width, log2X), roundUp(size.height, log2Y)};
+}
+
+void checkRowBytes(const Format& format, ZorSize size)
+{
+    for (int p = 0; p < format.planes; ++p)
+        if (interface::rowBytes(format, p, size.width) > INT_MAX)
+            throw Cause(sizeName(size) + " pixels: rows are longer than 2 GiB");
+}
+
+Picture::Picture(const Format& format, ZorSize size, ZorSize visible)
+    : pixelFormat(&format), whole(size), shown(visible)
+{
+    checkRowBytes(format, size); // and so no product below reaches 2^62
+    interface::setContiguousSteps(format, size.width, planes);
+    std::size_t offset[interface::maxPlanes] = {}, bytes = 0;
+    for (int p = 0; p < format.planes; ++p) {
+        offset[p] = bytes;
+        bytes += aligned(interface::rowBytes(format, p, size.width) * interface::rows(format, p, size.height));
+    }
+    // calloc, because its zeros cost nothing before they are touched: a damaged file may promise any size.
+    std::size_t room = bytes + alignment;
+    if (bytes <= PTRDIFF_MAX - alignment) memory.reset(std::calloc(room, 1));
+    if (!memory) throw Cause(sizeName(size) + " pixels: not enough memory");
+    void* first = memory.get();
+    std::align(alignment, bytes, first, room);
+    for (int p = 0; p < format.planes; ++p) planes.plane[p] = static_cast<std::uint8_t*>(first) + offset[p];
+}
+
+std::size_t Picture::visibleRowBytes(int plane) const
+{
+    const bool shared = pixelFormat->plane[plane].log2X > 0 || pixelFormat->layout == Layout::packed422;
+    return interface::rowBytes(*pixelFormat, plane, shared ? whole.width : shown.width);
+}
+
+int Picture::visibleRows(int plane) const
+{
+    const bool shared = pixelFormat->plane[plane].log2Y > 0;
+    return interface::rows(*pixelFormat, plane, shared ? whole.height : shown.height);
+}
+
+Channel channelOf(const Picture& picture, char letter, ZorSize extent)
+{
+    const Format& format = picture.format();
+    const std::size_t index = format.channels.find(letter);
+    const int bytes = interface::sampleBytes(format.sample);
+    int plane = 0;
+    std::size_t position = index; // of the first sample in a row, in samples
+    if (format.layout == Layout::planar) plane = static_cast<int>(index), position = 0;
+    if (format.layout == Layout::semiPlanar && index > 0) plane = 1, position = index - 1;
+
+    const interface::PlaneShape& shape = format.plane[plane];
+    int stride = shape.samples * bytes, width = extent.width;
+    if (format.layout == Layout::packed422) {
+        const std::size_t second = format.channels.find(letter, index + 1);
+        const int distance = second == std::string_view::npos ? 4 : static_cast<int>(second - index);
+        stride = distance * bytes;
+        if (distance == 4) { // an odd last pixel has the samples of its own two bytes
+            const std::int64_t stored = (2ll * picture.size().width - static_cast<int>(position) + 3) / 4;
+            width = sharedSamples(extent.width, 1, static_cast<int>(stored));
+        }
+    } else if (shape.log2X > 0) {
+        width = sharedSamples(extent.width, shape.log2X, picture.size().width >> shape.log2X);
+    }
+    const int height = shape.log2Y > 0 ? sharedSamples(extent.height, shape.log2Y, picture.size().height >> shape.log2Y)
+                                       : extent.height;
+    return {picture.row(plane, 0) + position * bytes, picture.image().step[plane], stride, width, height};
+}
+
+} // namespace zorcc::tool

@@ -1,0 +1,83 @@
+// SPDX-License-Identifier: MIT
+// An image in memory, in any pixel format.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <memory>
+#include <string>
+
+#include "interface/functions.h"
+
+namespace zorcc::tool {
+
+using interface::Format;
+using interface::Sample;
+
+std::string sizeName(ZorSize size);
+
+inline bool operator==(ZorSize a, ZorSize b) { return a.width == b.width && a.height == b.height; }
+
+// The size rounded up to whole blocks of pixels that share chroma.
+ZorSize wholeBlocks(ZorSize size, int log2X, int log2Y);
+inline ZorSize wholeBlocks(ZorSize size, const Format& format)
+{
+    return wholeBlocks(size, format.log2X(), format.log2Y());
+}
+
+// Throws Cause if a row of the image has more bytes than a step can say.
+void checkRowBytes(const Format& format, ZorSize size);
+
+// Starts as zeros. Every plane starts on a 64-byte boundary; its rows follow each other without gaps, as the functions
+// without steps want them. `visible` is the part that shows: the other pixels only complete the last blocks.
+class Picture {
+public:
+    Picture(const Format& format, ZorSize size, ZorSize visible);
+    Picture(const Format& format, ZorSize size) : Picture(format, size, size) {}
+
+    const Format& format() const { return *pixelFormat; }
+    ZorSize size() const { return whole; }
+    ZorSize visible() const { return shown; }
+    const interface::Image& image() const { return planes; }
+
+    std::uint8_t* row(int plane, int y) const
+    {
+        return static_cast<std::uint8_t*>(planes.plane[plane]) + static_cast<std::ptrdiff_t>(planes.step[plane]) * y;
+    }
+
+    // Bytes and number of rows of a plane that show, as files hold them: of a plane with shared chroma everything.
+    std::size_t visibleRowBytes(int plane) const;
+    int visibleRows(int plane) const;
+
+private:
+    struct Free {
+        void operator()(void* block) const { std::free(block); }
+    };
+
+    const Format* pixelFormat;
+    ZorSize whole, shown;
+    interface::Image planes;
+    std::unique_ptr<void, Free> memory;
+};
+
+// What a video file says beside its pictures, in the words of Y4M. Pictures that no video file held are 25 a second, of
+// full range.
+struct VideoTags {
+    std::string frameRate = "25:1";
+    std::string range = "FULL";          // empty: not said
+    std::string sampling420 = "420jpeg"; // where the chroma samples of 4:2:0 lie
+};
+
+// One channel of a picture wherever its samples lie.
+struct Channel {
+    std::uint8_t* first;
+    std::ptrdiff_t step, stride; // bytes from row to row, from sample to sample
+    int width, height;           // samples; a shared channel of a very small picture can have none
+};
+
+// The channel with the given letter, which must exist, over the part of the picture within `extent`. Not for packed
+// bits.
+Channel channelOf(const Picture& picture, char letter, ZorSize extent);
+
+} // namespace zorcc::tool

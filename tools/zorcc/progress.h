@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <chrono>
+
+#include "io/reader.h"
+
+namespace zorcc::tool {
+
+// A line on a terminal's stderr that tells how far a file of many pictures is; it goes away at the end.
+class Progress {
+public:
+    explicit Progress(const Reader& reader);
+    ~Progress();
+    Progress(const Progress&) = delete;
+    Progress& operator=(const Progress&) = delete;
+
+    void update(); // after each picture
+
+private:
+    const Reader& from;
+    bool terminal, shown = false;
+    std::chrono::steady_clock::time_point last;
+};
+
+} // namespace zorcc::tool
