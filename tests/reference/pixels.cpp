@@ -17,6 +17,9 @@ std::string_view channelNames(Model model)
     case Model::rgb:
         return "RGBA";
     case Model::yuv:
+    case Model::bt601:
+    case Model::bt709:
+    case Model::bt709full:
         return "YUVA";
     }
     throw std::logic_error("unknown colour model");
