@@ -100,20 +100,20 @@ inline constexpr Format yuv422p = planar("yuv422p", "YUV", Model::yuv, Sample::u
 inline constexpr Format yuv420p = planar("yuv420p", "YUV", Model::yuv, Sample::u8, 1, 1);
 inline constexpr Format yuyv = packed422("yuyv", "YUYV", Model::yuv);
 
-inline constexpr Format yuv24Bt601 = interleaved("yuv24-bt601", "YUV", Model::bt601, Sample::u8);
-inline constexpr Format yuvaBt601 = interleaved("yuva-bt601", "YUVA", Model::bt601, Sample::u8);
-inline constexpr Format yuv444pBt601 = planar("yuv444p-bt601", "YUV", Model::bt601, Sample::u8);
-inline constexpr Format yuv422pBt601 = planar("yuv422p-bt601", "YUV", Model::bt601, Sample::u8, 1, 0);
-inline constexpr Format yuv420pBt601 = planar("yuv420p-bt601", "YUV", Model::bt601, Sample::u8, 1, 1);
-inline constexpr Format yvu420pBt601 = planar("yvu420p-bt601", "YVU", Model::bt601, Sample::u8, 1, 1);
-inline constexpr Format yuv411pBt601 = planar("yuv411p-bt601", "YUV", Model::bt601, Sample::u8, 2, 0);
-inline constexpr Format yuyvBt601 = packed422("yuyv-bt601", "YUYV", Model::bt601);
+inline constexpr Format yuv24_bt601 = interleaved("yuv24_bt601", "YUV", Model::bt601, Sample::u8);
+inline constexpr Format yuva_bt601 = interleaved("yuva_bt601", "YUVA", Model::bt601, Sample::u8);
+inline constexpr Format yuv444p_bt601 = planar("yuv444p_bt601", "YUV", Model::bt601, Sample::u8);
+inline constexpr Format yuv422p_bt601 = planar("yuv422p_bt601", "YUV", Model::bt601, Sample::u8, 1, 0);
+inline constexpr Format yuv420p_bt601 = planar("yuv420p_bt601", "YUV", Model::bt601, Sample::u8, 1, 1);
+inline constexpr Format yvu420p_bt601 = planar("yvu420p_bt601", "YVU", Model::bt601, Sample::u8, 1, 1);
+inline constexpr Format yuv411p_bt601 = planar("yuv411p_bt601", "YUV", Model::bt601, Sample::u8, 2, 0);
+inline constexpr Format yuyv_bt601 = packed422("yuyv_bt601", "YUYV", Model::bt601);
 
-inline constexpr Format yuv444pBt709 = planar("yuv444p-bt709", "YUV", Model::bt709, Sample::u8);
-inline constexpr Format yuv420pBt709 = planar("yuv420p-bt709", "YUV", Model::bt709, Sample::u8, 1, 1);
-inline constexpr Format yvu420pBt709 = planar("yvu420p-bt709", "YVU", Model::bt709, Sample::u8, 1, 1);
-inline constexpr Format yuv420pBt709full = planar("yuv420p-bt709full", "YUV", Model::bt709full, Sample::u8, 1, 1);
-inline constexpr Format uyvyBt709full = packed422("uyvy-bt709full", "UYVY", Model::bt709full);
+inline constexpr Format yuv444p_bt709 = planar("yuv444p_bt709", "YUV", Model::bt709, Sample::u8);
+inline constexpr Format yuv420p_bt709 = planar("yuv420p_bt709", "YUV", Model::bt709, Sample::u8, 1, 1);
+inline constexpr Format yvu420p_bt709 = planar("yvu420p_bt709", "YVU", Model::bt709, Sample::u8, 1, 1);
+inline constexpr Format yuv420p_bt709full = planar("yuv420p_bt709full", "YUV", Model::bt709full, Sample::u8, 1, 1);
+inline constexpr Format uyvy_bt709full = packed422("uyvy_bt709full", "UYVY", Model::bt709full);
 
 } // namespace formats
 

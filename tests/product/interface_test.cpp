@@ -25,14 +25,16 @@ string_view take(string_view& text, const std::vector<string_view>& words)
     return {};
 }
 
-const std::vector<string_view> models = {"RGB", "BGR", "YUV"};
-const std::vector<string_view> packings = {"422", "420", "565"};
+const std::vector<string_view> models = {"RGB", "BGR", "YUV", "YCbCr", "YCrCb", "CbYCr"};
+const std::vector<string_view> packings = {"422", "420", "411", "565"};
+const std::vector<string_view> variants = {"709CSC_", "709HDTV_", "Filter_"};
 const std::vector<string_view> types = {"8u", "16u", "16s", "32s", "32f"};
 const std::vector<string_view> layouts = {"AC4", "AP4", "C1", "C2", "C3", "C4", "P2", "P3", "P4"};
 
-// zori <model> [packing] To <model> [packing] _ <type> [type] _ <layout> [layout] [R]
+// zori <model> [packing] To <model> [packing] _ [variant _] <type> [type] _ <layout> [layout] [R]
 struct Name {
     string_view model[2], packing[2], type[2], layout[2]; // source, destination
+    string_view variant;
     bool steps = false, whole = false;
 
     explicit Name(string_view text)
@@ -43,6 +45,7 @@ struct Name {
             packing[i] = take(text, packings);
             known = known && !model[i].empty() && !take(text, {i == 0 ? "To" : "_"}).empty();
         }
+        variant = take(text, variants);
         takePair(text, types, type);
         known = known && !take(text, {"_"}).empty();
         takePair(text, layouts, layout);
@@ -69,15 +72,23 @@ Sample sampleOf(string_view type)
 
 void expectImage(const Name& name, int i, const Format& format, bool array, bool stepOfEachPlane)
 {
-    const bool yuv = name.model[i] == "YUV";
-    EXPECT_EQ(format.model, yuv ? Model::yuv : Model::rgb);
-    if (!yuv) {
+    const bool rgb = name.model[i] == "RGB" || name.model[i] == "BGR";
+    const Model model = rgb                          ? Model::rgb
+                        : name.model[i] == "YUV"     ? Model::yuv
+                        : name.variant == "709CSC_"  ? Model::bt709
+                        : name.variant == "709HDTV_" ? Model::bt709full
+                                                     : Model::bt601;
+    EXPECT_EQ(format.model, model);
+    if (rgb) {
         EXPECT_EQ(format.channels.substr(0, 3), name.model[i]);
     }
+    EXPECT_EQ(format.channels[0] == 'U', name.model[i] == "CbYCr");
+    EXPECT_EQ(format.channels[1] == 'V', name.model[i] == "YCrCb");
     EXPECT_EQ(format.layout == Layout::packedBits, name.packing[i] == "565");
-    const bool blocks = name.packing[i] == "420", pairs = blocks || name.packing[i] == "422";
-    EXPECT_EQ(format.subsampled(), pairs);
-    EXPECT_EQ(format.log2X(), pairs ? 1 : 0);
+    const bool blocks = name.packing[i] == "420", quads = name.packing[i] == "411";
+    const bool shared = blocks || quads || name.packing[i] == "422";
+    EXPECT_EQ(format.subsampled(), shared);
+    EXPECT_EQ(format.log2X(), quads ? 2 : shared ? 1 : 0);
     EXPECT_EQ(format.log2Y(), blocks ? 1 : 0);
 
     EXPECT_EQ(format.sample, sampleOf(name.type[i]));
@@ -94,7 +105,7 @@ void expectImage(const Name& name, int i, const Format& format, bool array, bool
         EXPECT_NE(format.channels.find('A'), string_view::npos);
     }
     EXPECT_EQ(array, planar && layout != "P2");
-    EXPECT_EQ(stepOfEachPlane, array && pairs && name.steps);
+    EXPECT_EQ(stepOfEachPlane, array && shared && name.steps);
 }
 
 TEST(Interface, TableSaysWhatNamesSay)

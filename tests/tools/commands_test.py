@@ -44,9 +44,19 @@ class Call(unittest.TestCase):
     def test_every_function_there_and_back(self):
         """Each function's result, converted back or compared as it is, is the picture it came from."""
         write_ppm("smooth.ppm", 64, 48, smooth(64, 48))
+        made = {destination for name, source, destination in functions()}
         for name, source, destination in functions():
             with self.subTest(name):
                 to_rgb = name.split("_")[0].endswith(("ToRGB", "ToBGR"))
+                if to_rgb and source not in made:
+                    # No function makes the format: what is grey must come out grey.
+                    samples = 3 if "444" in source else 2 if "422" in source else 1.5
+                    write("source.yuv", bytes([128]) * int(64 * 48 * samples))
+                    zorcc("call", name, "--size", "64x48", "source.yuv", "result.ppm")
+                    pixels = read_pnm("result.ppm")[3]
+                    self.assertEqual(len(set(pixels)), 1)
+                    self.assertAlmostEqual(pixels[0], 128, delta=3)
+                    continue
                 if to_rgb:
                     zorcc("convert", "smooth.ppm", "source.yuv", "--to", source)
                     zorcc("call", name, "--size", "64x48", "source.yuv", "result.png")

@@ -12,6 +12,8 @@ namespace zorcc::tool {
 
 namespace {
 
+constexpr std::uint8_t opaque = 255;
+
 std::string statusText(ZorStatus status)
 {
     switch (status) {
@@ -53,7 +55,7 @@ Picture run(const Function& function, const Picture& source, int repeat, Stats& 
     Clock::duration best = Clock::duration::max();
     for (int i = 0; i < repeat; ++i) {
         const Clock::time_point start = Clock::now();
-        status = function(source.image(), destination.image(), source.size());
+        status = function(source.image(), destination.image(), source.size(), {.alpha = opaque});
         best = std::min(best, Clock::now() - start);
         if (status < 0) throw Cause(std::string(function.name) + ": " + statusText(status));
     }
