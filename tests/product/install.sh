@@ -19,7 +19,7 @@ if grep -rlF -e "$source" -e "$build" -e "$work/first" "$work/moved"; then
 fi
 
 echo "-- C project, find_package"
-cmake -S "$source/tests/product/consumer" -B "$work/consumer" -DCMAKE_PREFIX_PATH="$work/moved" \
+cmake -G Ninja -S "$source/tests/product/consumer" -B "$work/consumer" -DCMAKE_PREFIX_PATH="$work/moved" \
   -DCMAKE_C_COMPILER="$cc" --log-level=WARNING
 cmake --build "$work/consumer"
 "$work/consumer/consumer"
