@@ -46,7 +46,6 @@ using s16v = Vec<int16_t>;
 using u32v = Vec<uint32_t>;
 using s32v = Vec<int32_t>;
 using u64v = Vec<uint64_t>;
-using f32v = Vec<float>;
 
 ZORCC_INLINE Register reg(auto v) { return (Register)v; }
 
