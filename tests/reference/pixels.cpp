@@ -14,6 +14,8 @@ namespace {
 std::string_view channelNames(Model model)
 {
     switch (model) {
+    case Model::grey:
+        return "G";
     case Model::rgb:
         return "RGBA";
     case Model::yuv:
