@@ -116,7 +116,7 @@ const Format& formatNamed(const std::string& name)
 const Format& pictureFormat(bool grey, bool alpha, Sample sample)
 {
     using namespace interface::formats;
-    if (sample == Sample::f32) return grey ? greyf : rgbf;
+    if (sample == Sample::f32) return grey ? greyf32 : rgbf32;
     if (sample == Sample::u16) return grey ? grey16 : alpha ? rgba64 : rgb48;
     return grey ? grey8 : alpha ? rgba : rgb24;
 }
@@ -130,7 +130,8 @@ const Format& planarYuv(const Format& format)
 std::optional<int> rearrangementCost(const Format& from, const Format& to)
 {
     if (&from == &to) return 0;
-    if (from.model != to.model || from.log2X() != to.log2X() || from.log2Y() != to.log2Y()) return {};
+    const bool sameColours = from.model == to.model || (isRgb(from) && isRgb(to));
+    if (!sameColours || from.log2X() != to.log2X() || from.log2Y() != to.log2Y()) return {};
     if (from.layout == Layout::packedBits || (to.layout == Layout::packedBits && to.channels != "RGB")) return {};
     int cost = 1;
     for (char letter : to.channels)
