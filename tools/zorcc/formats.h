@@ -23,7 +23,16 @@ inline bool isRgb(const Format& format)
 // How a picture file that holds red, green and blue, or grey, of the given sample type says it.
 const Format& pictureFormat(bool grey, bool alpha, Sample sample);
 
-// The planar format, without alpha, of a luma-chroma format's own chroma sampling.
+// A luma-chroma format's twin by another matrix; throws Cause if there is none.
+const Format& withModel(const Format& format, interface::Model model);
+
+// What a plain name such as yuv420p means by the given matrix; formats whose names tell their matrix stay as they are.
+inline const Format& byMatrix(const Format& format, interface::Model matrix)
+{
+    return format.model == interface::Model::yuv ? withModel(format, matrix) : format;
+}
+
+// The planar format, without alpha, of a luma-chroma format's own matrix and chroma sampling.
 const Format& planarYuv(const Format& format);
 
 // What it costs to rearrange pictures of one format into another: 0 for the same, more the more is moved, added or
