@@ -11,29 +11,26 @@ namespace zorcc::ZORCC_TIER {
 namespace {
 
 // w.r R + w.g G + w.b B + bias, of pairs (R, B) and (G, G). The weight of G may pass 16 bits: it is shared out.
-template <Weights w, int bias, Order order> ZORCC_INLINE s32v dotProduct(s16v rb, s16v gg)
+template <Weights w, int bias, Order order> ZORCC_INLINE s32v dotProduct(const ChannelPairs& p)
 {
-    constexpr int half = w.g / 2, first = order == Order::asStored ? w.r : w.b, third = w.r + w.b - first;
+    constexpr int half = w.g / 2, first = order == Order::asStored ? w.r : w.b, second = w.r + w.b - first;
     static_assert(w.r < 32768 && w.b < 32768 && half < 32767);
-    return mulAddPairs(mulAddPairs(fill32(bias), rb, fillPair16(first, third)), gg, fillPair16(half, w.g - half));
+    return mulAddPairs(mulAddPairs(fill32(bias), p.outer, fillPair16(first, second)), p.inner,
+                       fillPair16(half, w.g - half));
 }
 
-// One channel of 64 pixels: (weighted sum + bias) >> 16, which has to be within 0..255.
-template <Weights w, int bias, Order order, int rows>
-ZORCC_INLINE u8v channelOf(const PixelPairs<rows>& rgb, int row, const GatherColumns& gather)
-{
-    s32v sum[4];
-    for (int group = 0; group < 4; ++group)
-        sum[group] = dotProduct<w, bias, order>(rgb.outer[row][group], rgb.inner[row][group]);
-    return gather(sum);
-}
-
-// 4:4:4, by a matrix that needs no clamp.
+// 4:4:4, by a matrix that needs no clamp: (weighted sum + bias) >> 16.
 template <Weights y, int yBias, Weights u, Weights v, int bias, Order order> struct DotProductsToYcc {
-    Pixels<3> operator()(const PixelPairs<1>& rgb) const
+    Pixels<3> operator()(const PixelQuads<1>& rgb) const
     {
-        return {{{channelOf<y, yBias, order>(rgb, 0, gather), channelOf<u, bias, order>(rgb, 0, gather),
-                  channelOf<v, bias, order>(rgb, 0, gather)}}};
+        s32v sum[3][4];
+        for (int group = 0; group < 4; ++group) {
+            const ChannelPairs pairs = pairsOf(rgb.group[0][group]);
+            sum[0][group] = dotProduct<y, yBias, order>(pairs);
+            sum[1][group] = dotProduct<u, bias, order>(pairs);
+            sum[2][group] = dotProduct<v, bias, order>(pairs);
+        }
+        return {{{gather(sum[0]), gather(sum[1]), gather(sum[2])}}};
     }
 
     GatherColumns gather;
@@ -41,18 +38,24 @@ template <Weights y, int yBias, Weights u, Weights v, int bias, Order order> str
 
 // 4:2:0: chroma of the sums over four pixels, (weighted sum + bias) >> 18.
 template <Weights y, int yBias, Weights u, Weights v, int bias, Order order> struct DotProductsTo420 {
-    Subsampled<2> operator()(const PixelPairs<2>& rgb) const
+    Subsampled<2> operator()(const PixelQuads<2>& rgb) const
     {
-        const PairSums sums = sumsOf2x2(rgb);
-        s32v chroma[4];
-        for (int half = 0; half < 2; ++half) {
-            chroma[half] = dotProduct<u, bias, order>(sums.outer[half], sums.inner[half]) >> 18;
-            chroma[2 + half] = dotProduct<v, bias, order>(sums.outer[half], sums.inner[half]) >> 18;
+        s32v luma[2][4], first[2], second[2];
+        ChannelPairs columns[2];
+        for (int group = 0; group < 4; ++group) {
+            const ChannelPairs upper = pairsOf(rgb.group[0][group]), lower = pairsOf(rgb.group[1][group]);
+            luma[0][group] = dotProduct<y, yBias, order>(upper);
+            luma[1][group] = dotProduct<y, yBias, order>(lower);
+            columns[group % 2] = upper + lower;
+            if (group % 2 == 0) continue;
+            const ChannelPairs sums = sumsOfColumns(columns[0], columns[1]);
+            first[group / 2] = dotProduct<u, bias, order>(sums);
+            second[group / 2] = dotProduct<v, bias, order>(sums);
         }
-        return {{channelOf<y, yBias, order>(rgb, 0, gather), channelOf<y, yBias, order>(rgb, 1, gather)},
-                gatherChroma(chroma)};
+        return {{gather(luma[0]), gather(luma[1])}, gatherChroma(first, second)};
     }
 
+    SumsOfColumns sumsOfColumns;
     GatherColumns gather;
     GatherChroma gatherChroma;
 };

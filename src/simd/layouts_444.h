@@ -105,7 +105,7 @@ template <class Byte> using BGRA = C4<Byte, Order::reversed>;
 template <class Layout> struct Paired : Layout::Base {
     using Base = typename Layout::Base;
 
-    PixelPairs<1> load(int x) const { return loadPairs<Layout::unit[0].bytes>(this->at(0, x)); }
+    PixelQuads<1> load(int x) const { return loadQuads<Layout::unit[0].bytes>(this->at(0, x)); }
 };
 #else
 template <class Layout> using Paired = Layout;
