@@ -69,9 +69,20 @@ template <PackedOrder order> ZORCC_INLINE DotColumns<1, LumaOrder::byHalf> dotCo
 }
 
 template <ToRgb k> class DotProductsToRgb {
+    // Weights beyond 16 bits are those of R and B. They are products of a coefficient and a small factor, by which the
+    // sample is multiplied first.
+    static constexpr int factorOf(int weight)
+    {
+        int factor = 1;
+        while (weight / factor > 32767 || weight % factor != 0) ++factor;
+        return factor;
+    }
+    static constexpr int factorR = factorOf(k.r), factorB = factorOf(k.b);
+
 public:
     // A quarter of the weight of luma has to fit an element; luma of weight 1 has a quicker way.
-    static constexpr bool use = k.y % 4 == 0 && k.y / 4 < 32768 && k.y != 65536;
+    static constexpr bool use =
+        k.y % 4 == 0 && k.y / 4 < 32768 && k.y != 65536 && 255 * factorR < 32768 && 255 * factorB < 32768;
 
     template <int rows> Unsaturated<rows> operator()(const Subsampled<rows>& ycc) const
     {
@@ -93,9 +104,11 @@ private:
         const s16v lower = fillPair16(k.y / 4, 0), upper = fillPair16(0, k.y / 4);
         Unsaturated<rows> rgb;
         for (int half = 0; half < 2; ++half) {
-            const s16v uv = ycc.chroma[half];
-            const s32v chroma[3] = {weigh<0, k.r, k.constantR>(uv), weigh<-k.g1, -k.g2, k.constantG>(uv),
-                                    weigh<k.b, 0, k.constantB>(uv)};
+            const s16v uv = ycc.chroma[half], multiples = uv * fillPair16(factorB, factorR);
+            const s32v g = mulAddPairs(fill32(k.constantG), uv, fillPair16(-k.g1, -k.g2 % factorR));
+            const s32v chroma[3] = {mulAddPairs(fill32(k.constantR), multiples, fillPair16(0, k.r / factorR)),
+                                    mulAddPairs(g, multiples, fillPair16(0, -k.g2 / factorR)),
+                                    mulAddPairs(fill32(k.constantB), multiples, fillPair16(k.b / factorB, 0))};
             for (int row = 0; row < rows; ++row)
                 for (int c = 0; c < 3; ++c) {
                     const s16v* luma = ycc.luma[row];
@@ -110,16 +123,6 @@ private:
                 }
         }
         return rgb;
-    }
-
-    // Weights beyond 16 bits are applied to four times the sample first, then the rest of them to the sample.
-    static constexpr int quarter(int weight) { return weight / 4 > 32767 ? 32767 : weight / 4; }
-
-    template <int first, int second, int constant> ZORCC_INLINE s32v weigh(s16v uv)
-    {
-        constexpr int rest1 = first - 4 * quarter(first), rest2 = second - 4 * quarter(second);
-        return mulAddPairs(mulAddPairs(fill32(constant), uv << 2, fillPair16(quarter(first), quarter(second))), uv,
-                           fillPair16(rest1, rest2));
     }
 };
 
