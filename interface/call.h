@@ -125,8 +125,8 @@ template <class T> inline constexpr bool isDestinationArray<T* const*> = !std::i
 template <class T> inline constexpr bool isDestination = isDestinationArray<T>;
 template <class T> inline constexpr bool isDestination<T*> = !std::is_const_v<T> || isDestinationArray<T*>;
 template <class T>
-inline constexpr bool isPlane = std::is_pointer_v<T> && !std::is_pointer_v<std::remove_pointer_t<T>> &&
-                                !std::is_same_v<T, const int*>;
+inline constexpr bool isPlane =
+    std::is_pointer_v<T> && !std::is_pointer_v<std::remove_pointer_t<T>> && !std::is_same_v<T, const int*>;
 
 template <auto function> struct Bound;
 

@@ -7,9 +7,9 @@
 
 namespace zorcc::interface {
 
-// Colour models: R'G'B', analogue-television Y'UV, and Y'CbCr by its matrix, which is anyYcc where samples only change
-// places. In channel strings U stands for Cb, V for Cr.
-enum class Model { rgb, yuv, bt601, bt709, bt709full, anyYcc };
+// Colour models: grey, R'G'B', analogue-television Y'UV, and Y'CbCr by its matrix, which is anyYcc where samples only
+// change places. In channel strings U stands for Cb, V for Cr.
+enum class Model { grey, rgb, yuv, bt601, bt709, bt709full, anyYcc };
 
 enum class Sample { u8, u16, s16, s32, f32 };
 
@@ -97,6 +97,18 @@ inline constexpr Format rgba = interleaved("rgba", "RGBA", Model::rgb, Sample::u
 inline constexpr Format bgra = interleaved("bgra", "BGRA", Model::rgb, Sample::u8);
 inline constexpr Format rgb444p = planar("rgb444p", "RGB", Model::rgb, Sample::u8);
 inline constexpr Format rgb565 = packedBits("rgb565", "RGB", Model::rgb); // R in the lowest bits
+
+inline constexpr Format rgb48 = interleaved("rgb48", "RGB", Model::rgb, Sample::u16);
+inline constexpr Format rgba64 = interleaved("rgba64", "RGBA", Model::rgb, Sample::u16);
+inline constexpr Format rgb48s = interleaved("rgb48s", "RGB", Model::rgb, Sample::s16);
+inline constexpr Format rgba64s = interleaved("rgba64s", "RGBA", Model::rgb, Sample::s16);
+inline constexpr Format rgbf32 = interleaved("rgbf32", "RGB", Model::rgb, Sample::f32);
+inline constexpr Format rgbaf32 = interleaved("rgbaf32", "RGBA", Model::rgb, Sample::f32);
+
+inline constexpr Format grey8 = interleaved("grey8", "G", Model::grey, Sample::u8);
+inline constexpr Format grey16 = interleaved("grey16", "G", Model::grey, Sample::u16);
+inline constexpr Format grey16s = interleaved("grey16s", "G", Model::grey, Sample::s16);
+inline constexpr Format greyf32 = interleaved("greyf32", "G", Model::grey, Sample::f32);
 
 inline constexpr Format yuv24 = interleaved("yuv24", "YUV", Model::yuv, Sample::u8);
 inline constexpr Format yuva = interleaved("yuva", "YUVA", Model::yuv, Sample::u8);

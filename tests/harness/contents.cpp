@@ -4,6 +4,7 @@
 #include <cstring>
 #include <limits>
 #include <stdexcept>
+#include <type_traits>
 
 namespace zorcc::test {
 
@@ -69,13 +70,19 @@ private:
     int position = 0;
 };
 
+// Samples made of unsigned integers, which span the same range: least to greatest, or 0 to 1.
+std::uint8_t sampleOf(std::uint8_t value, std::uint8_t) { return value; }
+std::uint16_t sampleOf(std::uint16_t value, std::uint16_t) { return value; }
+std::int16_t sampleOf(std::uint16_t value, std::int16_t) { return static_cast<std::int16_t>(value - 32768); }
+float sampleOf(std::uint16_t value, float) { return static_cast<float>(value) / 65535.0f; }
+
 template <class T> void fillAs(TestImage& image, Contents contents, std::uint32_t seed)
 {
-    Source<T> source(contents, seed);
+    Source<std::conditional_t<sizeof(T) == 1, std::uint8_t, std::uint16_t>> source(contents, seed);
     image.eachRow([&](std::uint8_t* row, int samples, int, int) {
         source.startRow();
         for (int i = 0; i < samples; ++i) {
-            const T value = source.next();
+            const T value = sampleOf(source.next(), T{});
             std::memcpy(row + i * sizeof(T), &value, sizeof(T));
         }
     });
@@ -97,7 +104,11 @@ void fill(TestImage& image, Contents contents, std::uint32_t seed)
         return fillAs<std::uint8_t>(image, contents, seed);
     case interface::Sample::u16:
         return fillAs<std::uint16_t>(image, contents, seed);
-    default:
+    case interface::Sample::s16:
+        return fillAs<std::int16_t>(image, contents, seed);
+    case interface::Sample::f32:
+        return fillAs<float>(image, contents, seed);
+    case interface::Sample::s32:
         throw std::logic_error("no contents for this sample type");
     }
 }
