@@ -15,22 +15,18 @@ constexpr PackedOrder YUY2 = PackedOrder::lumaFirst;
 
 // The middle one of three rows.
 template <class Rounding> struct LowPass {
-    template <int n> Vectors<n / 3> operator()(const Vectors<n>& s) const
+    template <int n> [[gnu::always_inline]] Vectors<n / 3> operator()(const Vectors<n>& s) const
     {
         constexpr int row = n / 3;
-        Vectors<row> filtered;
-        for (int k = 0; k < row; ++k) filtered.v[k] = Rounding::lowPass(s.v[k], s.v[row + k], s.v[2 * row + k]);
-        return filtered;
+        return collect<row>([&](auto k) { return Rounding::lowPass(s.v[k], s.v[row + k], s.v[2 * row + k]); });
     }
 };
 
 // The row halfway between two.
 template <class Rounding> struct Between {
-    template <int n> Vectors<n / 2> operator()(const Vectors<n>& s) const
+    template <int n> [[gnu::always_inline]] Vectors<n / 2> operator()(const Vectors<n>& s) const
     {
-        Vectors<n / 2> average;
-        for (int k = 0; k < n / 2; ++k) average.v[k] = Rounding::average(s.v[k], s.v[n / 2 + k]);
-        return average;
+        return collect<n / 2>([&](auto k) { return Rounding::average(s.v[k], s.v[n / 2 + k]); });
     }
 };
 
@@ -38,7 +34,7 @@ template <class Rounding> using PlanesBetween = Then<Between<Rounding>, Unzip>;
 
 // Three rows of luma and two of chroma pairs.
 template <class Rounding> struct PackedRow {
-    Vectors<4> operator()(const Vectors<10>& s) const
+    [[gnu::always_inline]] Vectors<4> operator()(const Vectors<10>& s) const
     {
         return weave<YUY2>(LowPass<Rounding>{}(part<0, 6>(s)), Between<Rounding>{}(part<6, 4>(s)));
     }
@@ -46,16 +42,16 @@ template <class Rounding> struct PackedRow {
 
 // The packed row as it is, and three rows of luma, or two of chroma, for its own.
 template <class Rounding> struct PackedLuma {
-    Vectors<4> operator()(const Vectors<10>& s) const
+    [[gnu::always_inline]] Vectors<4> operator()(const Vectors<10>& s) const
     {
-        return weave<YUY2>(LowPass<Rounding>{}(part<4, 6>(s)), unweave<YUY2>(part<0, 4>(s)).pairs);
+        return weave<YUY2>(LowPass<Rounding>{}(part<4, 6>(s)), pairsOf<YUY2>(part<0, 4>(s)));
     }
 };
 
 template <class Rounding> struct PackedChroma {
-    Vectors<4> operator()(const Vectors<8>& s) const
+    [[gnu::always_inline]] Vectors<4> operator()(const Vectors<8>& s) const
     {
-        return weave<YUY2>(unweave<YUY2>(part<0, 4>(s)).luma, Between<Rounding>{}(part<4, 4>(s)));
+        return weave<YUY2>(lumaOf<YUY2>(part<0, 4>(s)), Between<Rounding>{}(part<4, 4>(s)));
     }
 };
 

@@ -23,11 +23,9 @@ template <int a, int b, int shift> struct Mix {
         return packUnsigned(weigh(zipLow(upper, lower)), weigh(zipHigh(upper, lower)));
     }
 
-    template <int n> Vectors<n / 2> operator()(const Vectors<n>& rows) const
+    template <int n> [[gnu::always_inline]] Vectors<n / 2> operator()(const Vectors<n>& rows) const
     {
-        Vectors<n / 2> mixed;
-        for (int k = 0; k < n / 2; ++k) mixed.v[k] = mix(rows.v[k], rows.v[n / 2 + k]);
-        return mixed;
+        return collect<n / 2>([&](auto k) { return mix(rows.v[k], rows.v[n / 2 + k]); });
     }
 };
 
@@ -47,10 +45,11 @@ template <class Mixed> void eachRowOf420(const GroupBand& band, Mixed mixed)
 
 // Two packed rows to two rows of luma and one of chroma.
 template <class Formula> struct UnpackMixed {
-    Vectors<6> operator()(const Vectors<8>& s) const
+    [[gnu::always_inline]] Vectors<6> operator()(const Vectors<8>& s) const
     {
-        const auto upper = unweave<UYVY>(part<0, 4>(s)), lower = unweave<UYVY>(part<4, 4>(s));
-        return together(upper.luma, lower.luma, Unzip{}(Formula{}(together(upper.pairs, lower.pairs))));
+        const Vectors<4> upper = part<0, 4>(s), lower = part<4, 4>(s);
+        return together(lumaOf<UYVY>(upper), lumaOf<UYVY>(lower),
+                        Unzip{}(Formula{}(together(pairsOf<UYVY>(upper), pairsOf<UYVY>(lower)))));
     }
 };
 
@@ -82,7 +81,7 @@ template <class Mixed> void eachRowOf422(const GroupBand& band, int height, Mixe
 
 // Luma and two rows of each chroma plane to a packed row.
 template <class Formula> struct PackMixed {
-    Vectors<4> operator()(const Vectors<6>& s) const
+    [[gnu::always_inline]] Vectors<4> operator()(const Vectors<6>& s) const
     {
         return Pack<UYVY, Chroma::planes>{}(
             together(part<0, 2>(s), Formula{}(part<2, 2>(s)), Formula{}(part<4, 2>(s))));

@@ -20,15 +20,12 @@ struct FilterOddRow {
                             weigh(zipHigh(upper, lower), zipHigh(above, below)));
     }
 
-    template <int n> Vectors<n / 2> operator()(const Vectors<n>& s) const
+    template <int n> [[gnu::always_inline]] Vectors<n / 2> operator()(const Vectors<n>& s) const
     {
         constexpr int row = n / 4;
-        Vectors<n / 2> rows;
-        for (int k = 0; k < row; ++k) {
-            rows.v[k] = s.v[row + k];
-            rows.v[row + k] = between(s.v[k], s.v[row + k], s.v[2 * row + k], s.v[3 * row + k]);
-        }
-        return rows;
+        return together(part<row, row>(s), collect<row>([&](auto k) {
+                            return between(s.v[k], s.v[row + k], s.v[2 * row + k], s.v[3 * row + k]);
+                        }));
     }
 };
 

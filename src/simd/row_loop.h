@@ -56,11 +56,12 @@ ZORCC_INLINE void convertRow(const Source from, const Formula formula, const Des
 {
     constexpr int step = Source::pixelsAtOnce;
     static_assert(step == Destination::pixelsAtOnce);
-    if (width >= step) {
+    if (width >= step && width % step == 0) {
+        for (int x = 0; x < width; x += step) to.store(x, formula(from.load(x)));
+    } else if (width >= step) {
         const auto last = from.load(width - step);
-        int x = 0;
-        for (; x <= width - step; x += step) to.store(x, formula(from.load(x)));
-        if (x < width) to.store(width - step, formula(last));
+        for (int x = 0; x <= width - step; x += step) to.store(x, formula(from.load(x)));
+        to.store(width - step, formula(last));
     } else if (width > 0) {
         convertShortRow(from, formula, to, width);
     }

@@ -3,6 +3,8 @@
 // two. All in memory order.
 #pragma once
 
+#include <utility>
+
 #include "simd/layout.h"
 
 namespace zorcc::ZORCC_TIER {
@@ -13,23 +15,39 @@ template <int count> struct Vectors {
     u8v v[count];
 };
 
+// The vectors get(0) .. get(count - 1), get taking constants. Everything here is unrolled by its types, not left to the
+// optimiser's idea of loops: vectors that live in an array instead of registers are many times slower.
+template <int count, class Get> ZORCC_INLINE Vectors<count> collect(Get get)
+{
+    return [&]<size_t... k>(std::index_sequence<k...>) __attribute__((always_inline))
+    {
+        return Vectors<count>{{get(std::integral_constant<int, k>{})...}};
+    }
+    (std::make_index_sequence<count>{});
+}
+
 template <int first, int count, int all> ZORCC_INLINE Vectors<count> part(const Vectors<all>& sequence)
 {
     static_assert(first + count <= all);
-    Vectors<count> some;
-    for (int k = 0; k < count; ++k) some.v[k] = sequence.v[first + k];
-    return some;
+    return collect<count>([&](auto k) __attribute__((always_inline)) { return sequence.v[first + k]; });
 }
 
-template <int... counts> ZORCC_INLINE Vectors<(counts + ...)> together(const Vectors<counts>&... sequence)
+template <int first, int second>
+ZORCC_INLINE Vectors<first + second> together(const Vectors<first>& a, const Vectors<second>& b)
 {
-    Vectors<(counts + ...)> all;
-    int next = 0;
-    const auto append = [&](const auto& some) {
-        for (const u8v& vector : some.v) all.v[next++] = vector;
-    };
-    (append(sequence), ...);
-    return all;
+    return collect<first + second>([&](auto k) __attribute__((always_inline)) {
+        if constexpr (k < first)
+            return a.v[k];
+        else
+            return b.v[k - first];
+    });
+}
+
+template <int first, int second, int third>
+ZORCC_INLINE Vectors<first + second + third> together(const Vectors<first>& a, const Vectors<second>& b,
+                                                      const Vectors<third>& c)
+{
+    return together(together(a, b), c);
 }
 
 // ---- two sequences and one ------------------------------------------------------------------------------------------
@@ -59,70 +77,80 @@ template <int bytes> struct EvenThenOdd {
 template <int bytes> constexpr EvenThenOdd<bytes> evenThenOdd;
 #endif
 
-// a0 b0 a1 b1 ..., elements of `bytes` bytes.
+// Half `half` of a0 b0 a1 b1 ..., elements of `bytes` bytes.
+template <int bytes, int half> ZORCC_INLINE u8v zipHalf(u8v a, u8v b)
+{
+    using Element = typename ElementOf<bytes>::Vector;
+    const Register low = reg(zipLow((Element)a, (Element)b)), high = reg(zipHigh((Element)a, (Element)b));
+#if defined(ZORCC_TIER_avx512)
+    const __m512i quads =
+        half == 0 ? _mm512_setr_epi64(0, 1, 8, 9, 2, 3, 10, 11) : _mm512_setr_epi64(4, 5, 12, 13, 6, 7, 14, 15);
+    return (u8v)_mm512_permutex2var_epi64(low, quads, high);
+#elif defined(ZORCC_TIER_avx2)
+    return (u8v)_mm256_permute2x128_si256(low, high, half == 0 ? 0x20 : 0x31);
+#else
+    return (u8v)(half == 0 ? low : high);
+#endif
+}
+
 template <int bytes = 1, int count>
 ZORCC_INLINE Vectors<2 * count> zip(const Vectors<count>& a, const Vectors<count>& b)
 {
-    using Element = typename ElementOf<bytes>::Vector;
-    Vectors<2 * count> zipped;
-    for (int k = 0; k < count; ++k) {
-        const Register low = reg(zipLow((Element)a.v[k], (Element)b.v[k])),
-                       high = reg(zipHigh((Element)a.v[k], (Element)b.v[k]));
-#if defined(ZORCC_TIER_avx512)
-        zipped.v[2 * k] = (u8v)_mm512_permutex2var_epi64(low, _mm512_setr_epi64(0, 1, 8, 9, 2, 3, 10, 11), high);
-        zipped.v[2 * k + 1] = (u8v)_mm512_permutex2var_epi64(low, _mm512_setr_epi64(4, 5, 12, 13, 6, 7, 14, 15), high);
-#elif defined(ZORCC_TIER_avx2)
-        zipped.v[2 * k] = (u8v)_mm256_permute2x128_si256(low, high, 0x20);
-        zipped.v[2 * k + 1] = (u8v)_mm256_permute2x128_si256(low, high, 0x31);
-#else
-        zipped.v[2 * k] = (u8v)low;
-        zipped.v[2 * k + 1] = (u8v)high;
-#endif
-    }
-    return zipped;
+    return collect<2 * count>([&](auto k) __attribute__((always_inline)) {
+        return zipHalf<bytes, k % 2>(a.v[k / 2], b.v[k / 2]);
+    });
 }
 
-// The elements of `bytes` bytes with even numbers and those with odd numbers.
-template <int count> struct Parted {
-    Vectors<count> even, odd;
-};
+// Of a and b together the elements with even numbers, or those with odd numbers.
+template <int bytes, int odd> ZORCC_INLINE u8v everySecond(u8v a, u8v b)
+{
+#if defined(ZORCC_TIER_avx512)
+    // One choice from both vectors, with one moved to the places that the other leaves free, and a permutation to sort
+    // it.
+    const __m512i order = reg(load(evenThenOdd<bytes>.place));
+    if constexpr (bytes == 1) {
+        if constexpr (odd) a = (u8v)((u16v)a >> 8);
+        if constexpr (!odd) b = (u8v)((u16v)b << 8);
+        return (u8v)_mm512_permutexvar_epi8(order, _mm512_mask_mov_epi8(reg(a), 0xaaaaaaaaaaaaaaaa, reg(b)));
+    } else {
+        if constexpr (odd) a = (u8v)((u32v)a >> 16);
+        if constexpr (!odd) b = (u8v)((u32v)b << 16);
+        return (u8v)_mm512_permutexvar_epi8(order, _mm512_mask_mov_epi16(reg(a), 0xaaaaaaaa, reg(b)));
+    }
+#else
+    u8v chosen;
+    if constexpr (bytes == 1) {
+        chosen = odd ? packUnsigned((s16v)((u16v)a >> 8), (s16v)((u16v)b >> 8))
+                     : packUnsigned((s16v)a & 0xff, (s16v)b & 0xff);
+    } else {
+        const u8v sort = fillBlock(_mm_setr_epi8(0, 1, 4, 5, 8, 9, 12, 13, 2, 3, 6, 7, 10, 11, 14, 15));
+        const u64v first = (u64v)shuffle(a, sort), second = (u64v)shuffle(b, sort);
+        chosen = (u8v)(odd ? zipHigh(first, second) : zipLow(first, second));
+    }
+    #if defined(ZORCC_TIER_avx2)
+    chosen = (u8v)_mm256_permute4x64_epi64(reg(chosen), 0xd8);
+    #endif
+    return chosen;
+#endif
+}
 
-template <int bytes = 1, int both> ZORCC_INLINE Parted<both / 2> unzip(const Vectors<both>& zipped)
+// The elements of `bytes` bytes with even numbers, or with odd ones.
+template <int odd, int bytes = 1, int both> ZORCC_INLINE Vectors<both / 2> half(const Vectors<both>& zipped)
 {
     static_assert(both % 2 == 0);
-    Parted<both / 2> parted;
-    for (int k = 0; k < both / 2; ++k) {
-        const u8v a = zipped.v[2 * k], b = zipped.v[2 * k + 1];
-        u8v &even = parted.even.v[k], &odd = parted.odd.v[k];
-#if defined(ZORCC_TIER_avx512)
-        // One choice from both vectors, with b moved to the places that a leaves free, and one permutation to sort it.
-        const __m512i order = reg(load(evenThenOdd<bytes>.place));
-        if constexpr (bytes == 1) {
-            constexpr __mmask64 odds = 0xaaaaaaaaaaaaaaaa;
-            even = (u8v)_mm512_permutexvar_epi8(order, _mm512_mask_mov_epi8(reg(a), odds, reg((u16v)b << 8)));
-            odd = (u8v)_mm512_permutexvar_epi8(order, _mm512_mask_mov_epi8(reg((u16v)a >> 8), odds, reg(b)));
-        } else {
-            constexpr __mmask32 odds = 0xaaaaaaaa;
-            even = (u8v)_mm512_permutexvar_epi8(order, _mm512_mask_mov_epi16(reg(a), odds, reg((u32v)b << 16)));
-            odd = (u8v)_mm512_permutexvar_epi8(order, _mm512_mask_mov_epi16(reg((u32v)a >> 16), odds, reg(b)));
-        }
-#else
-        if constexpr (bytes == 1) {
-            even = packUnsigned((s16v)a & 0xff, (s16v)b & 0xff);
-            odd = packUnsigned((s16v)((u16v)a >> 8), (s16v)((u16v)b >> 8));
-        } else {
-            const u8v sort = fillBlock(_mm_setr_epi8(0, 1, 4, 5, 8, 9, 12, 13, 2, 3, 6, 7, 10, 11, 14, 15));
-            const u64v first = (u64v)shuffle(a, sort), second = (u64v)shuffle(b, sort);
-            even = (u8v)zipLow(first, second);
-            odd = (u8v)zipHigh(first, second);
-        }
-    #if defined(ZORCC_TIER_avx2)
-        even = (u8v)_mm256_permute4x64_epi64(reg(even), 0xd8);
-        odd = (u8v)_mm256_permute4x64_epi64(reg(odd), 0xd8);
-    #endif
-#endif
-    }
-    return parted;
+    return collect<both / 2>([&](auto k) __attribute__((always_inline)) {
+        return everySecond<bytes, odd>(zipped.v[2 * k], zipped.v[2 * k + 1]);
+    });
+}
+
+template <int bytes = 1, int both> ZORCC_INLINE Vectors<both / 2> evens(const Vectors<both>& zipped)
+{
+    return half<0, bytes>(zipped);
+}
+
+template <int bytes = 1, int both> ZORCC_INLINE Vectors<both / 2> odds(const Vectors<both>& zipped)
+{
+    return half<1, bytes>(zipped);
 }
 
 // ---- layout ---------------------------------------------------------------------------------------------------------
@@ -133,27 +161,41 @@ template <class Byte, int pixels, Unit... units> struct Streams : Rows<Byte, uni
     static constexpr int vectors = ((units.offset(pixels) / vectorBytes) + ...);
     static_assert(((units.offset(pixels) % vectorBytes == 0) && ...));
 
-    Vectors<vectors> load(int x) const
+    [[gnu::always_inline]] Vectors<vectors> load(int x) const
     {
-        Vectors<vectors> all;
-        eachVector(
-            [&](int k, int p, ptrdiff_t offset) { all.v[k] = zorcc::ZORCC_TIER::load(this->at(p, x) + offset); });
-        return all;
+        return collect<vectors>([&](auto k)
+                                    __attribute__((always_inline)) { return zorcc::ZORCC_TIER::load(placeOf<k>(x)); });
     }
 
-    void store(int x, const Vectors<vectors>& all) const
+    [[gnu::always_inline]] void store(int x, const Vectors<vectors>& all) const
     {
-        eachVector(
-            [&](int k, int p, ptrdiff_t offset) { zorcc::ZORCC_TIER::store(this->at(p, x) + offset, all.v[k]); });
+        [&]<size_t... k>(std::index_sequence<k...>) __attribute__((always_inline))
+        {
+            (zorcc::ZORCC_TIER::store(placeOf<k>(x), all.v[k]), ...);
+        }
+        (std::make_index_sequence<vectors>{});
     }
 
 private:
-    template <class Visit> ZORCC_INLINE void eachVector(Visit visit)
+    // How many vectors the planes before p have.
+    static constexpr int vectorsBefore(int p)
     {
-        int k = 0;
-        for (int p = 0; p < Streams::planes; ++p)
-            for (ptrdiff_t offset = 0; offset < Streams::unit[p].offset(pixels); offset += vectorBytes)
-                visit(k++, p, offset);
+        int before = 0;
+        for (int q = 0; q < p; ++q) before += static_cast<int>(Streams::unit[q].offset(pixels) / vectorBytes);
+        return before;
+    }
+
+    static constexpr int planeOf(int vector)
+    {
+        int p = 0;
+        while (vectorsBefore(p + 1) <= vector) ++p;
+        return p;
+    }
+
+    template <int vector> [[gnu::always_inline]] Byte* placeOf(int x) const
+    {
+        constexpr int p = planeOf(vector);
+        return this->at(p, x) + (vector - vectorsBefore(p)) * vectorBytes;
     }
 };
 
