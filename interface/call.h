@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <tuple>
 #include <type_traits>
 
@@ -135,6 +136,14 @@ template <class... Parameters, ZorStatus (*function)(Parameters...)> struct Boun
     {
         std::tuple<Argument<Parameters>...> arguments{Argument<Parameters>(call)...}; // braces: left to right
         return std::apply([](const auto&... argument) { return function(argument...); }, arguments);
+    }
+
+    // The call as it stands, to be made as often as wanted without converting arguments again.
+    static std::function<ZorStatus()> prepare(Call& call)
+    {
+        return [arguments = std::tuple<Argument<Parameters>...>{Argument<Parameters>(call)...}] {
+            return std::apply([](const auto&... argument) { return function(argument...); }, arguments);
+        };
     }
 
     static constexpr Signature signature()

@@ -50,10 +50,14 @@ Comparison compare(const Function& function, ZorSize size, const std::vector<con
     const Buffer copySource(copyBytes), copyDestination(copyBytes);
     const Job job{function, source.image, destination.image, size};
 
+    const interface::Extra extra;
     std::vector<Runner> runners;
-    for (const auto& [name, tier] : tiersHere())
-        runners.push_back(
-            {name, [t = tier] { setActiveTier(t); }, [&] { function(job.source, job.destination, size); }});
+    for (const auto& [name, tier] : tiersHere()) {
+        interface::Call call {
+            source.image, destination.image, size, extra
+        };
+        runners.push_back({name, [t = tier] { setActiveTier(t); }, function.prepare(call)});
+    }
     runners.push_back({"memcpy", {}, [&] { std::memcpy(copyDestination.data(), copySource.data(), copyBytes); }});
     for (const Peer* peer : peers) runners.push_back({peer->name, peer->select, peer->prepare(job)});
     race(runners, seconds);

@@ -44,7 +44,7 @@ template <class Rounding> struct PackedRow {
 template <class Rounding> struct PackedLuma {
     [[gnu::always_inline]] Vectors<4> operator()(const Vectors<10>& s) const
     {
-        return weave<YUY2>(LowPass<Rounding>{}(part<4, 6>(s)), pairsOf<YUY2>(part<0, 4>(s)));
+        return weave<YUY2>(LowPass<Rounding>{}(part<4, 6>(s)), part<2, 2>(unweave<YUY2>(part<0, 4>(s))));
     }
 };
 

@@ -47,9 +47,9 @@ template <class Mixed> void eachRowOf420(const GroupBand& band, Mixed mixed)
 template <class Formula> struct UnpackMixed {
     [[gnu::always_inline]] Vectors<6> operator()(const Vectors<8>& s) const
     {
-        const Vectors<4> upper = part<0, 4>(s), lower = part<4, 4>(s);
-        return together(lumaOf<UYVY>(upper), lumaOf<UYVY>(lower),
-                        Unzip{}(Formula{}(together(pairsOf<UYVY>(upper), pairsOf<UYVY>(lower)))));
+        const Vectors<4> upper = unweave<UYVY>(part<0, 4>(s)), lower = unweave<UYVY>(part<4, 4>(s));
+        return together(part<0, 2>(upper), part<0, 2>(lower),
+                        Unzip{}(Formula{}(together(part<2, 2>(upper), part<2, 2>(lower)))));
     }
 };
 

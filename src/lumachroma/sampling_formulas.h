@@ -35,14 +35,14 @@ struct Zip {
 };
 
 struct Unzip {
-    template <int n> [[gnu::always_inline]] Vectors<n> operator()(const Vectors<n>& s) const
-    {
-        return together(evens(s), odds(s));
-    }
+    template <int n> [[gnu::always_inline]] Vectors<n> operator()(const Vectors<n>& s) const { return unzip(s); }
 };
 
 struct EvenColumns {
-    template <int n> [[gnu::always_inline]] Vectors<n / 2> operator()(const Vectors<n>& s) const { return evens(s); }
+    template <int n> [[gnu::always_inline]] Vectors<n / 2> operator()(const Vectors<n>& s) const
+    {
+        return everySecond<0>(s);
+    }
 };
 
 struct EachColumnTwice {
@@ -63,10 +63,7 @@ template <class Formula> struct OnBoth {
 
 // The same for neighbouring pairs of bytes.
 struct UnzipPairs {
-    template <int n> [[gnu::always_inline]] Vectors<n> operator()(const Vectors<n>& s) const
-    {
-        return together(evens<2>(s), odds<2>(s));
-    }
+    template <int n> [[gnu::always_inline]] Vectors<n> operator()(const Vectors<n>& s) const { return unzip<2>(s); }
 };
 
 // ---- packed 4:2:2 ---------------------------------------------------------------------------------------------------
@@ -77,14 +74,18 @@ template <PackedOrder order, int n> ZORCC_INLINE Vectors<2 * n> weave(const Vect
     if constexpr (order == PackedOrder::chromaFirst) return zip(pairs, luma);
 }
 
-template <PackedOrder order, int both> ZORCC_INLINE Vectors<both / 2> lumaOf(const Vectors<both>& packed)
+// Luma, then pairs.
+template <PackedOrder order, int both> ZORCC_INLINE Vectors<both> unweave(const Vectors<both>& packed)
 {
-    return half<order == PackedOrder::chromaFirst>(packed);
+    const Vectors<both> parted = unzip(packed);
+    if constexpr (order == PackedOrder::lumaFirst) return parted;
+    if constexpr (order == PackedOrder::chromaFirst)
+        return together(part<both / 2, both / 2>(parted), part<0, both / 2>(parted));
 }
 
-template <PackedOrder order, int both> ZORCC_INLINE Vectors<both / 2> pairsOf(const Vectors<both>& packed)
+template <PackedOrder order, int both> ZORCC_INLINE Vectors<both / 2> lumaOf(const Vectors<both>& packed)
 {
-    return half<order == PackedOrder::lumaFirst>(packed);
+    return everySecond<order == PackedOrder::chromaFirst>(packed);
 }
 
 // Chroma as stored in the given form, as pairs, and back.
@@ -126,17 +127,18 @@ template <PackedOrder order, Chroma form, int rows = 1, int columns = 1> struct 
 
     [[gnu::always_inline]] Vectors<rows * n + 2> operator()(const Vectors<rows * 2 * n>& s) const
     {
-        const auto packed = part<0, 2 * n>(s);
-        const Vectors<2> chroma = storedFrom<form>(kept(pairsOf<order>(packed)));
-        if constexpr (rows == 1) return together(lumaOf<order>(packed), chroma);
-        if constexpr (rows == 2) return together(lumaOf<order>(packed), lumaOf<order>(part<2 * n, 2 * n>(s)), chroma);
+        const auto parted = unweave<order>(part<0, 2 * n>(s));
+        const Vectors<n> luma = part<0, n>(parted);
+        const Vectors<2> chroma = storedFrom<form>(kept(part<n, n>(parted)));
+        if constexpr (rows == 1) return together(luma, chroma);
+        if constexpr (rows == 2) return together(luma, lumaOf<order>(part<2 * n, 2 * n>(s)), chroma);
     }
 
 private:
     [[gnu::always_inline]] static Vectors<2> kept(const Vectors<n>& pairs)
     {
         if constexpr (columns == 1) return pairs;
-        if constexpr (columns == 2) return evens<2>(pairs);
+        if constexpr (columns == 2) return everySecond<0, 2>(pairs);
     }
 };
 

@@ -60,23 +60,6 @@ template <> struct ElementOf<2> {
     using Vector = u16v;
 };
 
-#if defined(ZORCC_TIER_avx512)
-// Positions of the even elements of `bytes` bytes each, then of the odd ones.
-template <int bytes> struct EvenThenOdd {
-    alignas(64) uint8_t place[64];
-
-    constexpr EvenThenOdd() : place{}
-    {
-        for (int i = 0; i < 64; ++i) {
-            const int element = i / bytes, half = 32 / bytes;
-            const int from = element < half ? 2 * element : 2 * (element - half) + 1;
-            place[i] = static_cast<uint8_t>(from * bytes + i % bytes);
-        }
-    }
-};
-template <int bytes> constexpr EvenThenOdd<bytes> evenThenOdd;
-#endif
-
 // Half `half` of a0 b0 a1 b1 ..., elements of `bytes` bytes.
 template <int bytes, int half> ZORCC_INLINE u8v zipHalf(u8v a, u8v b)
 {
@@ -101,13 +84,35 @@ ZORCC_INLINE Vectors<2 * count> zip(const Vectors<count>& a, const Vectors<count
     });
 }
 
+#if defined(ZORCC_TIER_avx512)
+template <int bytes> struct SortedElements {
+    alignas(64) uint8_t inVector[64]; // position of the even elements, then of the odd ones
+    alignas(64) uint8_t inQuad[64];   // the same within eight bytes, in bits
+
+    constexpr SortedElements() : inVector{}, inQuad{}
+    {
+        for (int i = 0; i < 64; ++i) {
+            inVector[i] = static_cast<uint8_t>(sorted(i, 64));
+            inQuad[i] = static_cast<uint8_t>(8 * sorted(i % 8, 8));
+        }
+    }
+
+private:
+    static constexpr int sorted(int i, int all)
+    {
+        const int element = i / bytes, half = all / bytes / 2;
+        return (element < half ? 2 * element : 2 * (element - half) + 1) * bytes + i % bytes;
+    }
+};
+template <int bytes> constexpr SortedElements<bytes> sortedElements;
+#endif
+
 // Of a and b together the elements with even numbers, or those with odd numbers.
-template <int bytes, int odd> ZORCC_INLINE u8v everySecond(u8v a, u8v b)
+template <int bytes, int odd> ZORCC_INLINE u8v everySecondOf(u8v a, u8v b)
 {
 #if defined(ZORCC_TIER_avx512)
-    // One choice from both vectors, with one moved to the places that the other leaves free, and a permutation to sort
-    // it.
-    const __m512i order = reg(load(evenThenOdd<bytes>.place));
+    // One choice from both vectors, with one moved to the places that the other leaves free, and a permutation.
+    const __m512i order = reg(load(sortedElements<bytes>.inVector));
     if constexpr (bytes == 1) {
         if constexpr (odd) a = (u8v)((u16v)a >> 8);
         if constexpr (!odd) b = (u8v)((u16v)b << 8);
@@ -134,23 +139,39 @@ template <int bytes, int odd> ZORCC_INLINE u8v everySecond(u8v a, u8v b)
 #endif
 }
 
-// The elements of `bytes` bytes with even numbers, or with odd ones.
-template <int odd, int bytes = 1, int both> ZORCC_INLINE Vectors<both / 2> half(const Vectors<both>& zipped)
+// The elements of `bytes` bytes with even numbers, or those with odd numbers.
+template <int odd, int bytes = 1, int both> ZORCC_INLINE Vectors<both / 2> everySecond(const Vectors<both>& zipped)
 {
     static_assert(both % 2 == 0);
     return collect<both / 2>([&](auto k) __attribute__((always_inline)) {
-        return everySecond<bytes, odd>(zipped.v[2 * k], zipped.v[2 * k + 1]);
+        return everySecondOf<bytes, odd>(zipped.v[2 * k], zipped.v[2 * k + 1]);
     });
 }
 
-template <int bytes = 1, int both> ZORCC_INLINE Vectors<both / 2> evens(const Vectors<both>& zipped)
+// Those with even numbers, then those with odd numbers.
+template <int bytes = 1, int both> ZORCC_INLINE Vectors<both> unzip(const Vectors<both>& zipped)
 {
-    return half<0, bytes>(zipped);
-}
-
-template <int bytes = 1, int both> ZORCC_INLINE Vectors<both / 2> odds(const Vectors<both>& zipped)
-{
-    return half<1, bytes>(zipped);
+    static_assert(both % 2 == 0);
+    constexpr int half = both / 2;
+#if defined(ZORCC_TIER_avx512)
+    // For both together it is cheaper to sort each eight bytes first.
+    const __m512i inQuad = reg(load(sortedElements<bytes>.inQuad));
+    const Vectors<both> sorted = collect<both>([&](auto k) __attribute__((always_inline)) {
+        return (u8v)_mm512_multishift_epi64_epi8(inQuad, reg(zipped.v[k]));
+    });
+    return collect<both>([&](auto k) __attribute__((always_inline)) {
+        constexpr int from = 2 * (k % half), odd = k / half;
+        const __m512i doubles =
+            _mm512_setr_epi32(odd, 2 + odd, 4 + odd, 6 + odd, 8 + odd, 10 + odd, 12 + odd, 14 + odd, 16 + odd, 18 + odd,
+                              20 + odd, 22 + odd, 24 + odd, 26 + odd, 28 + odd, 30 + odd);
+        return (u8v)_mm512_permutex2var_epi32(reg(sorted.v[from]), doubles, reg(sorted.v[from + 1]));
+    });
+#else
+    return collect<both>([&](auto k) __attribute__((always_inline)) {
+        constexpr int from = 2 * (k % half);
+        return everySecondOf<bytes, k / half>(zipped.v[from], zipped.v[from + 1]);
+    });
+#endif
 }
 
 // ---- layout ---------------------------------------------------------------------------------------------------------
