@@ -113,9 +113,14 @@ void unpack(const SampledSource& from, const SampledDestination& to, ZorSize siz
                  apartRows<form, rows, columns>(to), size.width, size.height / rows);
 }
 
+// One vector at a time: more of them do not help a formula of one instruction.
+template <class Byte> using PackedVector = Streams<Byte, 32, Unit{4, 1}>;
+
 template <class Formula> void repack(const SampledSource& from, const SampledDestination& to, ZorSize size)
 {
-    convertImage(packedRows<1, 1>(from), Formula{}, packedRows<1, 1>(to), size.width, size.height);
+    const Image<PackedVector<In>> source = {{from.plane[0]}, {from.step[0]}};
+    const Image<PackedVector<Out>> destination = {{to.plane[0]}, {to.step[0]}};
+    convertImage(source, Formula{}, destination, size.width, size.height);
 }
 
 inline void copyLuma(const SampledSource& from, const SampledDestination& to, ZorSize size)

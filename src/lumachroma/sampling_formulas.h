@@ -142,22 +142,18 @@ private:
     }
 };
 
-// Y0 Cb Y1 Cr to Cb Y0 Cr Y1, or back.
-struct SwapLumaAndChroma {
+// Another order of the four bytes of every pair of pixels.
+template <int first, int second, int third, int fourth> struct Reorder {
     template <int n> [[gnu::always_inline]] Vectors<n> operator()(const Vectors<n>& s) const
     {
-        return collect<n>([&](auto k) { return (u8v)((u16v)s.v[k] << 8 | (u16v)s.v[k] >> 8); });
-    }
-};
-
-// Y0 Cb Y1 Cr to Y0 Cr Y1 Cb.
-struct SwapChroma {
-    template <int n> [[gnu::always_inline]] Vectors<n> operator()(const Vectors<n>& s) const
-    {
-        const u8v order = fillBlock(_mm_setr_epi8(0, 3, 2, 1, 4, 7, 6, 5, 8, 11, 10, 9, 12, 15, 14, 13));
+        constexpr int quad = first | second << 8 | third << 16 | fourth << 24;
+        const u8v order = fillBlock(_mm_setr_epi32(quad, quad + 0x04040404, quad + 0x08080808, quad + 0x0c0c0c0c));
         return collect<n>([&](auto k) { return shuffle(s.v[k], order); });
     }
 };
+
+using SwapLumaAndChroma = Reorder<1, 0, 3, 2>; // Y0 Cb Y1 Cr to Cb Y0 Cr Y1, or back
+using SwapChroma = Reorder<0, 3, 2, 1>;        // Y0 Cb Y1 Cr to Y0 Cr Y1 Cb
 
 } // namespace
 } // namespace zorcc::ZORCC_TIER
