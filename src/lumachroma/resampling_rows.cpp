@@ -62,7 +62,7 @@ void doubleRow(const uint8_t* const (&row)[rows], uint8_t* to, int n)
     }
     const Planes<Out, 2> doubled = {{{to}}};
     convertRow(inside, Formula<Up>{}, doubled, whole);
-    convertRow(end, Formula<Down>{}, from(doubled, whole), rest);
+    convertShortRow(end, Formula<Down>{}, from(doubled, whole), rest);
 }
 
 } // namespace
