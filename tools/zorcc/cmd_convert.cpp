@@ -36,22 +36,28 @@ void convert(const ConvertOptions& options)
     const auto reader = openInput(options.in, nullptr, OddSizes::roundUp);
     const auto writer = openWriter(options.out, reader->tags());
     Progress progress(*reader);
-    Stats stats;
+    Stats stats, deinterlacingStats;
     ZorSize size{};
-    std::optional<Conversion> conversion;
+    std::optional<Conversion> conversion, deinterlacing;
     const Format* from = nullptr;
     while (auto picture = reader->next()) {
         size = picture->visible();
         writer->write(naming(reader->path(), [&] {
             if (!conversion || from != &picture->format()) {
                 from = &picture->format();
-                conversion = findConversion(*from, asked ? *asked : usualFormat(options.out, *from));
+                const Format& to = asked ? *asked : usualFormat(options.out, *from);
+                if (options.deinterlace) deinterlacing = findDeinterlacing(*from, to);
+                conversion = findConversion(deinterlacing ? *deinterlacing->target : *from, to);
             }
+            if (deinterlacing)
+                picture = (*deinterlacing)(std::move(*picture), options.timing.repeat, deinterlacingStats);
             return (*conversion)(std::move(*picture), options.timing.repeat, stats);
         }));
         progress.update();
     }
     writer->commit();
+    if (options.timing.stats && deinterlacing)
+        std::cout << deinterlacingStats.line(std::string(deinterlacing->function->name), size, options.timing.repeat);
     if (options.timing.stats)
         std::cout << (conversion->function
                           ? stats.line(std::string(conversion->function->name), size, options.timing.repeat)

@@ -39,4 +39,7 @@ struct Conversion {
 // The cheapest conversion, preferring functions with steps; throws Cause if there is none.
 Conversion findConversion(const Format& from, const Format& to);
 
+// From 4:2:0 to 4:2:2 or 4:2:0, whichever leads to the format better; throws Cause for other pictures.
+Conversion findDeinterlacing(const Format& from, const Format& to);
+
 } // namespace zorcc::tool

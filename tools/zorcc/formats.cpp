@@ -121,16 +121,24 @@ const Format& pictureFormat(bool grey, bool alpha, Sample sample)
     return grey ? grey8 : alpha ? rgba : rgb24;
 }
 
+bool isSameModel(interface::Model a, interface::Model b)
+{
+    using interface::Model;
+    const auto isYcc = [](Model model) { return model != Model::rgb && model != Model::grey; };
+    return a == b || ((a == Model::anyYcc || b == Model::anyYcc) && isYcc(a) && isYcc(b));
+}
+
 const Format& planarYuv(const Format& format)
 {
     using namespace interface::formats;
+    if (format.log2X() > 1 && format.log2Y() == 0) return i411;
     return format.log2Y() > 0 ? yuv420p : format.log2X() > 0 ? yuv422p : yuv444p;
 }
 
 std::optional<int> rearrangementCost(const Format& from, const Format& to)
 {
     if (&from == &to) return 0;
-    if (from.model != to.model || from.log2X() != to.log2X() || from.log2Y() != to.log2Y()) return {};
+    if (!isSameModel(from.model, to.model) || from.log2X() != to.log2X() || from.log2Y() != to.log2Y()) return {};
     if (from.layout == Layout::packedBits || (to.layout == Layout::packedBits && to.channels != "RGB")) return {};
     int cost = 1;
     for (char letter : to.channels)

@@ -28,7 +28,11 @@ inline bool isRgb(const Format& format) { return format.model == interface::Mode
 // How a picture file that holds red, green and blue, or grey, of the given sample type says it.
 const Format& pictureFormat(bool grey, bool alpha, Sample sample);
 
-// The planar format, without alpha, of a luma-chroma format's own chroma sampling.
+// Whether values of one model are values of the other: formats whose samples only change places go with any matrix.
+bool isSameModel(interface::Model a, interface::Model b);
+
+// The planar format, without alpha, of a luma-chroma format's own chroma sampling: 4:4:4, 4:2:2, 4:1:1, otherwise
+// 4:2:0.
 const Format& planarYuv(const Format& format);
 
 // What it costs to rearrange pictures of one format into another: 0 for the same, more the more is moved, added or
