@@ -112,10 +112,26 @@ template <class Second> Work prepare(ViaARGB<Second> steps, const Job& job)
     };
 }
 
+// Or over its planar 4:2:0.
+struct ViaI420 {
+    SplitPairs first;
+    Join second;
+};
+
+Work prepare(ViaI420 steps, const Job& job)
+{
+    auto planes = std::make_shared<Picture>(interface::formats::i420, job.size);
+    return [=] {
+        run(steps.first, job.source, planes->image, job.size);
+        run(steps.second, planes->image, job.destination, job.size);
+    };
+}
+
 struct Row {
     std::string_view function;
     const char* name;
-    std::variant<Repack, Split, Join, SplitPairs, JoinPairs, Planes, Pairs, JoinTwo, ViaARGB<Repack>, ViaARGB<Split>>
+    std::variant<Repack, Split, Join, SplitPairs, JoinPairs, Planes, Pairs, JoinTwo, ViaARGB<Repack>, ViaARGB<Split>,
+                 ViaI420>
         convert;
 };
 
@@ -155,6 +171,7 @@ const Row rows[] = {
     {"zoriYCrCb420ToYCbCr420_8u_P3P2R", "I420ToNV12", ::libyuv::I420ToNV12},
     {"zoriYCbCr422ToYCbCr420_8u_P3R", "I422ToI420", ::libyuv::I422ToI420},
     {"zoriYCbCr420ToYCbCr422_8u_P3R", "I420ToI422", ::libyuv::I420ToI422},
+    {"zoriYCbCr420ToYCbCr422_8u_P2C2R", "NV12ToI420 + I420ToYUY2", ViaI420{::libyuv::NV12ToI420, ::libyuv::I420ToYUY2}},
     {"zoriYCbCr420ToYCbCr422_8u_P2C2R", "MergeUVPlane", packNV12},
     {"zoriYCrCb420ToYCbCr422_8u_P3C2R", "I420ToYUY2", ::libyuv::I420ToYUY2},
     {"zoriYCrCb420ToCbYCr422_8u_P3C2R", "I420ToUYVY", ::libyuv::I420ToUYVY},

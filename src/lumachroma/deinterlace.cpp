@@ -29,7 +29,7 @@ ZorStatus deinterlace(int slice, ZorSize roiSize, const SampledArgument<const ui
                       const SampledArgument<uint8_t>& to, Driver driver)
 {
     if (from.missing() || to.missing()) return zorStatusNullPointer;
-    if (auto s = checkSize(roiSize, squares.minimum.width, squares.minimum.height); s != zorStatusOk) return s;
+    if (auto s = checkSize(roiSize, squares.block.width, squares.block.height); s != zorStatusOk) return s;
     const ZorSize size = squares.within(roiSize);
     if ((slice & whole) == whole)
         driver(from.image, to.image, size, {true, true});

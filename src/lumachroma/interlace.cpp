@@ -11,7 +11,7 @@ using namespace zorcc;
 namespace {
 
 // Two rows of each field.
-constexpr Blocks fieldRows = {{2, 4}, {2, 4}};
+constexpr Blocks fieldRows = {{2, 4}};
 
 ZorStatus convertFields(ZorSize roiSize, const SampledArgument<const uint8_t>& from, const SampledArgument<uint8_t>& to,
                         SampledDriver driver)

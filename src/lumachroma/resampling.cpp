@@ -9,7 +9,7 @@
 using namespace zorcc;
 
 // Sizes of broken blocks are refused.
-constexpr Blocks wholeFours = {{4, 4}, {4, 4}, true}, wholeQuadPairs = {{4, 2}, {4, 2}, true};
+constexpr Blocks wholeFours = {{4, 4}, true}, wholeQuadPairs = {{4, 2}, true};
 
 ZorStatus zoriYCbCr420To1620_8u_P3R(const uint8_t* const pSrc[3], const int srcStep[3], uint8_t* const pDst[3],
                                     const int dstStep[3], ZorSize roiSize)

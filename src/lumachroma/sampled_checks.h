@@ -42,17 +42,17 @@ template <class Byte> SampledArgument<Byte> crFirst(Byte* const* plane, const in
     return {{{plane[0], plane[2], plane[1]}, {step[0], step[2], step[1]}}, 3};
 }
 
-// What a conversion asks of sizes. Both sides are multiples of a power of two.
+// The blocks of pixels that a conversion works on: at least one; the sides are powers of two.
 struct Blocks {
-    ZorSize minimum, multiple;
-    bool whole = false; // any other size is refused, not cut down
+    ZorSize block;
+    bool wholeOnly = false; // other sizes are refused, not cut down
 
-    ZorSize within(ZorSize size) const { return {size.width & -multiple.width, size.height & -multiple.height}; }
+    ZorSize within(ZorSize size) const { return {size.width & -block.width, size.height & -block.height}; }
 };
 
-// By the pixels that share a chroma sample, columns before rows.
-inline constexpr Blocks pairs = {{2, 1}, {2, 1}}, squares = {{2, 2}, {2, 2}}, quads = {{4, 1}, {4, 1}};
-inline constexpr Blocks quadPairs = {{4, 2}, {4, 2}}; // both quads and squares
+// By the pixels that share a chroma sample.
+inline constexpr Blocks pairs = {{2, 1}}, squares = {{2, 2}}, quads = {{4, 1}};
+inline constexpr Blocks quadPairs = {{4, 2}}; // both quads and squares
 
 using SampledDriver = void(const SampledSource& from, const SampledDestination& to, ZorSize size);
 
@@ -63,9 +63,9 @@ inline ZorStatus convertBlocks(const Blocks& blocks, ZorSize roiSize, const Samp
                                const SampledArgument<uint8_t>& to, SampledDriver driver)
 {
     if (from.missing() || to.missing()) return zorStatusNullPointer;
-    if (auto s = checkSize(roiSize, blocks.minimum.width, blocks.minimum.height); s != zorStatusOk) return s;
+    if (auto s = checkSize(roiSize, blocks.block.width, blocks.block.height); s != zorStatusOk) return s;
     const ZorSize size = blocks.within(roiSize);
-    if (blocks.whole && !isSame(size, roiSize)) return zorStatusBadSize;
+    if (blocks.wholeOnly && !isSame(size, roiSize)) return zorStatusBadSize;
     driver(from.image, to.image, size);
     return zorStatusOk;
 }

@@ -9,7 +9,7 @@
 using namespace zorcc;
 
 // The vertical filter wants rows in eights.
-constexpr Blocks filtered = {{2, 8}, {2, 8}};
+constexpr Blocks filtered = {{2, 8}};
 
 // ---- rows of chroma -------------------------------------------------------------------------------------------------
 
