@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <tuple>
 #include <type_traits>
 
@@ -21,6 +22,7 @@ struct Image {
 // Arguments behind the size; each function takes those that its signature asks for.
 struct Extra {
     std::uint8_t alpha = 0;
+    int slice = 21; // of a deinterlacing conversion: the whole frame
 };
 
 // What the binder consumes from: images in order, then the extras.
@@ -33,6 +35,7 @@ struct Call {
     bool inDestination = false;   // which of the two that is; they may be one object
     int plane = 0;                // the plane of it that a single pointer argument named
     bool nullArrays[2] = {};      // pass a null array of planes for the source, the destination
+    bool sized = false;           // the size has been passed: what follows are extras
 
     int nextSource() { return next(source, false); }
     int nextDestination() { return next(destination, true); }
@@ -84,9 +87,9 @@ template <class T> struct Argument<T* const*> { // plane pointers of a destinati
     operator T* const*() const { return null ? nullptr : value; }
 };
 
-template <> struct Argument<int> { // step of the image, or of the plane, before it
+template <> struct Argument<int> { // step of the image, or of the plane, before it; behind the size the slice
     int value;
-    explicit Argument(Call& call) : value(call.image->step[call.plane]) {}
+    explicit Argument(Call& call) : value(call.sized ? call.extra.slice : call.image->step[call.plane]) {}
     operator int() const { return value; }
 };
 
@@ -98,7 +101,7 @@ template <> struct Argument<const int*> { // steps of the planes before it
 
 template <> struct Argument<ZorSize> {
     ZorSize value;
-    explicit Argument(Call& call) : value(call.size) {}
+    explicit Argument(Call& call) : value(call.size) { call.sized = true; }
     operator ZorSize() const { return value; }
 };
 
@@ -113,6 +116,7 @@ struct Signature {
     bool steps;                         // takes steps at all; otherwise rows follow each other without gaps
     bool sourceArray, destinationArray; // takes an array of plane pointers
     bool sourceSteps, destinationSteps; // takes a step for every plane; otherwise one step serves all
+    bool slice;                         // takes the position of the image in a frame
 };
 
 template <class T> inline constexpr bool isSourceArray = false;
@@ -121,6 +125,9 @@ template <class T> inline constexpr bool isDestinationArray = false;
 template <class T> inline constexpr bool isDestinationArray<T* const*> = !std::is_const_v<T>;
 template <class T> inline constexpr bool isDestination = isDestinationArray<T>;
 template <class T> inline constexpr bool isDestination<T*> = !std::is_const_v<T> || isDestinationArray<T*>;
+template <class T>
+inline constexpr bool isPlane =
+    std::is_pointer_v<T> && !std::is_pointer_v<std::remove_pointer_t<T>> && !std::is_same_v<T, const int*>;
 
 template <auto function> struct Bound;
 
@@ -131,18 +138,32 @@ template <class... Parameters, ZorStatus (*function)(Parameters...)> struct Boun
         return std::apply([](const auto&... argument) { return function(argument...); }, arguments);
     }
 
+    // The call as it stands, to be made as often as wanted without converting arguments again.
+    static std::function<ZorStatus()> prepare(Call& call)
+    {
+        return [arguments = std::tuple<Argument<Parameters>...>{Argument<Parameters>(call)...}] {
+            return std::apply([](const auto&... argument) { return function(argument...); }, arguments);
+        };
+    }
+
     static constexpr Signature signature()
     {
         Signature s{};
-        bool destination = false;
+        bool destination = false, sized = false;
+        int planes[2] = {}; // that have a pointer and a step of their own
         auto look = [&]<class T>(std::type_identity<T>) {
+            s.slice |= sized && std::is_same_v<T, int>;
+            sized |= std::is_same_v<T, ZorSize>;
             s.steps |= std::is_same_v<T, int> || std::is_same_v<T, const int*>;
             s.sourceArray |= isSourceArray<T>;
             s.destinationArray |= isDestinationArray<T>;
             (destination ? s.destinationSteps : s.sourceSteps) |= std::is_same_v<T, const int*>;
             destination |= isDestination<T>;
+            planes[destination] += isPlane<T>;
         };
         (look(std::type_identity<Parameters>{}), ...);
+        s.sourceSteps |= planes[0] > 1;
+        s.destinationSteps |= planes[1] > 1;
         return s;
     }
 };
