@@ -8,8 +8,8 @@
 namespace zorcc::interface {
 
 // Colour models: grey, R'G'B', analogue-television Y'UV, and Y'CbCr by its matrix. In channel strings U stands for Cb,
-// V for Cr.
-enum class Model { grey, rgb, yuv, bt601, bt709, bt709full };
+// V for Cr; in those of HSV it stands for the value.
+enum class Model { grey, rgb, yuv, bt601, bt709, bt709full, hls, hsv };
 
 enum class Sample { u8, u16, s16, s32, f32 };
 
@@ -126,6 +126,25 @@ inline constexpr Format yuv420p_bt709 = planar("yuv420p_bt709", "YUV", Model::bt
 inline constexpr Format yvu420p_bt709 = planar("yvu420p_bt709", "YVU", Model::bt709, Sample::u8, 1, 1);
 inline constexpr Format yuv420p_bt709full = planar("yuv420p_bt709full", "YUV", Model::bt709full, Sample::u8, 1, 1);
 inline constexpr Format uyvy_bt709full = packed422("uyvy_bt709full", "UYVY", Model::bt709full);
+
+inline constexpr Format bgr444p = planar("bgr444p", "BGR", Model::rgb, Sample::u8);
+inline constexpr Format bgra444p = planar("bgra444p", "BGRA", Model::rgb, Sample::u8);
+
+inline constexpr Format hls24 = interleaved("hls24", "HLS", Model::hls, Sample::u8);
+inline constexpr Format hlsa = interleaved("hlsa", "HLSA", Model::hls, Sample::u8);
+inline constexpr Format hls48 = interleaved("hls48", "HLS", Model::hls, Sample::u16);
+inline constexpr Format hlsa64 = interleaved("hlsa64", "HLSA", Model::hls, Sample::u16);
+inline constexpr Format hls48s = interleaved("hls48s", "HLS", Model::hls, Sample::s16);
+inline constexpr Format hlsa64s = interleaved("hlsa64s", "HLSA", Model::hls, Sample::s16);
+inline constexpr Format hlsf32 = interleaved("hlsf32", "HLS", Model::hls, Sample::f32);
+inline constexpr Format hlsaf32 = interleaved("hlsaf32", "HLSA", Model::hls, Sample::f32);
+inline constexpr Format hls444p = planar("hls444p", "HLS", Model::hls, Sample::u8);
+inline constexpr Format hlsa444p = planar("hlsa444p", "HLSA", Model::hls, Sample::u8);
+
+inline constexpr Format hsv24 = interleaved("hsv24", "HSV", Model::hsv, Sample::u8);
+inline constexpr Format hsva = interleaved("hsva", "HSVA", Model::hsv, Sample::u8);
+inline constexpr Format hsv48 = interleaved("hsv48", "HSV", Model::hsv, Sample::u16);
+inline constexpr Format hsva64 = interleaved("hsva64", "HSVA", Model::hsv, Sample::u16);
 
 } // namespace formats
 

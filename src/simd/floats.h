@@ -40,6 +40,9 @@ template <int parts> struct Widened {
     s32v part[parts];
 };
 
+// Vectors of samples of this type make that many of 32 bits.
+template <class Sample> inline constexpr int partsOf = 4 / int{sizeof(Sample)};
+
 ZORCC_INLINE Widened<4> widen(u8v v)
 {
     const u8v zero = {};
@@ -56,6 +59,23 @@ ZORCC_INLINE Widened<2> widen(u16v v)
 ZORCC_INLINE Widened<2> widen(s16v v) // the sign comes along
 {
     return {{(s32v)zipLow(v, v) >> 16, (s32v)zipHigh(v, v) >> 16}};
+}
+
+// Elements whose upper half is that of the element of `sign`, 0 or -1: from a difference that has wrapped, and its
+// sign.
+ZORCC_INLINE Widened<2> widenSigned(u16v v, u16v sign) { return {{(s32v)zipLow(v, sign), (s32v)zipHigh(v, sign)}}; }
+
+ZORCC_INLINE Widened<4> widenSigned(u8v v, u8v sign)
+{
+    const Widened<2> low = widen((s16v)zipLow(v, sign)), high = widen((s16v)zipHigh(v, sign));
+    return {{low.part[0], low.part[1], high.part[0], high.part[1]}};
+}
+
+// Floats whose lower 16 bits are zero, from their upper 16.
+ZORCC_INLINE Widened<2> widenUpper(u16v v)
+{
+    const u16v none = {};
+    return {{(s32v)zipLow(none, v), (s32v)zipHigh(none, v)}};
 }
 
 // Saturated to the sample's range.
@@ -78,6 +98,19 @@ ZORCC_INLINE u16v narrowToU16(const Widened<2>& v)
     return (u16v)ZORCC_MM(packus_epi32)(reg(v.part[0]), reg(v.part[1]));
 #endif
 }
+
+template <class Sample> ZORCC_INLINE Vec<Sample> narrow(const Widened<partsOf<Sample>>& v)
+{
+    if constexpr (sizeof(Sample) == 1)
+        return narrowToU8(v);
+    else
+        return narrowToU16(v);
+}
+
+// ---- exact division ------------------------------------------------------------------------------------------------
+
+// v / divisor, correctly rounded, for finite v.
+template <int divisor> ZORCC_INLINE f32v divideBy(f32v v) { return v / static_cast<float>(divisor); }
 
 } // namespace
 } // namespace zorcc::ZORCC_TIER

@@ -28,7 +28,7 @@ public:
     }
 
 private:
-    static constexpr int maxBytes = 4; // a pixel
+    static constexpr int maxBytes = 4; // a pixel, of bytes; of wider samples a vector holds as many fewer
     alignas(vectorBytes) uint8_t bytes[Layout::planes][maxBytes * vectorBytes] = {};
     Layout staged;
 };
@@ -48,7 +48,8 @@ ZORCC_INLINE void convertShortRow(const Source from, const Formula formula, cons
 template <class Source, class Formula, class Destination>
 ZORCC_INLINE void convertRow(const Source from, const Formula formula, const Destination to, int width)
 {
-    constexpr int step = vectorBytes;
+    constexpr int step = Source::pixelsAtOnce;
+    static_assert(step == Destination::pixelsAtOnce);
     if (width >= step) {
         const auto last = from.load(width - step);
         int x = 0;

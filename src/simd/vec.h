@@ -122,6 +122,24 @@ ZORCC_INLINE s16v addOneWhere(s16v v, u16v a, u16v b)
 ZORCC_INLINE u8v addSaturate(u8v a, u8v b) { return (u8v)ZORCC_MM(adds_epu8)(reg(a), reg(b)); }
 ZORCC_INLINE u8v subSaturate(u8v a, u8v b) { return (u8v)ZORCC_MM(subs_epu8)(reg(a), reg(b)); }
 
+ZORCC_INLINE u16v addSaturate(u16v a, u16v b) { return (u16v)ZORCC_MM(adds_epu16)(reg(a), reg(b)); }
+ZORCC_INLINE u16v subSaturate(u16v a, u16v b) { return (u16v)ZORCC_MM(subs_epu16)(reg(a), reg(b)); }
+
+ZORCC_INLINE u8v minimum(u8v a, u8v b) { return (u8v)ZORCC_MM(min_epu8)(reg(a), reg(b)); }
+ZORCC_INLINE u8v maximum(u8v a, u8v b) { return (u8v)ZORCC_MM(max_epu8)(reg(a), reg(b)); }
+
+#if defined(ZORCC_TIER_ssse3)
+ZORCC_INLINE u16v minimum(u16v a, u16v b) { return a - subSaturate(a, b); }
+ZORCC_INLINE u16v maximum(u16v a, u16v b) { return b + subSaturate(a, b); }
+#else
+ZORCC_INLINE u16v minimum(u16v a, u16v b) { return (u16v)ZORCC_MM(min_epu16)(reg(a), reg(b)); }
+ZORCC_INLINE u16v maximum(u16v a, u16v b) { return (u16v)ZORCC_MM(max_epu16)(reg(a), reg(b)); }
+#endif
+
+// floor((a + b + 1) / 2)
+ZORCC_INLINE u8v average(u8v a, u8v b) { return (u8v)ZORCC_MM(avg_epu8)(reg(a), reg(b)); }
+ZORCC_INLINE u16v average(u16v a, u16v b) { return (u16v)ZORCC_MM(avg_epu16)(reg(a), reg(b)); }
+
 ZORCC_INLINE u8v clamp(u8v v, int low, int high)
 {
     return (u8v)ZORCC_MM(max_epu8)(ZORCC_MM(min_epu8)(reg(v), reg(fill8(high))), reg(fill8(low)));

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/harness/argument_checks.h"
 
+#include <algorithm>
 #include <climits>
 #include <vector>
 
@@ -16,20 +17,35 @@ constexpr ZorSize goodSize{40, 4};
 
 // One faulty argument. The faults of a function stand in the order of its checks.
 struct Fault {
-    enum Kind { nullImage, badSize, nullPlane } kind;
+    enum Kind { nullImage, badSize, badStep, nullPlane } kind;
     bool ofDestination = false;
     int plane = 0;
 
-    ZorStatus status() const { return kind == badSize ? zorStatusBadSize : zorStatusNullPointer; }
+    ZorStatus status() const
+    {
+        return kind == badSize ? zorStatusBadSize : kind == badStep ? zorStatusBadStep : zorStatusNullPointer;
+    }
 };
 
-std::vector<Fault> faultsOf(const Function& function)
+std::vector<Fault> faultsOf(const reference::Case& c, const Function& function)
 {
-    std::vector<Fault> faults = {{Fault::nullImage, false}, {Fault::nullImage, true}, {Fault::badSize}};
-    if (function.signature.sourceArray)
-        for (int p = 0; p < function.source->planes; ++p) faults.push_back({Fault::nullPlane, false, p});
-    if (function.signature.destinationArray)
-        for (int p = 0; p < function.destination->planes; ++p) faults.push_back({Fault::nullPlane, true, p});
+    std::vector<Fault> faults;
+    const auto addPlanes = [&](bool ofDestination) {
+        if (ofDestination ? function.signature.destinationArray : function.signature.sourceArray)
+            for (int p = 0; p < (ofDestination ? function.destination : function.source)->planes; ++p)
+                faults.push_back({Fault::nullPlane, ofDestination, p});
+    };
+    faults.push_back({Fault::nullImage, false});
+    if (c.checks == reference::Checks::stepsFirst) {
+        addPlanes(false);
+        faults.push_back({Fault::nullImage, true});
+        addPlanes(true);
+        faults.insert(faults.end(), {{Fault::badStep, false}, {Fault::badStep, true}, {Fault::badSize}});
+    } else {
+        faults.insert(faults.end(), {{Fault::nullImage, true}, {Fault::badSize}});
+        addPlanes(false);
+        addPlanes(true);
+    }
     return faults;
 }
 
@@ -62,6 +78,8 @@ ZorStatus call(const Function& function, const Images& images, const std::vector
         const bool array = fault.ofDestination ? function.signature.destinationArray : function.signature.sourceArray;
         if (fault.kind == Fault::badSize)
             arguments.size = badSize;
+        else if (fault.kind == Fault::badStep)
+            (fault.ofDestination ? to : from).step[0] = std::min(badSize.width, badSize.height);
         else if (fault.kind == Fault::nullImage && array)
             arguments.nullArrays[fault.ofDestination] = true;
         else
@@ -72,10 +90,10 @@ ZorStatus call(const Function& function, const Images& images, const std::vector
 
 } // namespace
 
-testing::AssertionResult checkFaultyArguments(const Function& function)
+testing::AssertionResult checkFaultyArguments(const reference::Case& c, const Function& function)
 {
     const Images images(function);
-    const std::vector<Fault> faults = faultsOf(function);
+    const std::vector<Fault> faults = faultsOf(c, function);
     constexpr ZorSize badSizes[] = {{0, 4}, {40, 0}, {-1, 4}, {40, -1}, {0, 0}, {INT_MIN, 4}, {40, INT_MIN}};
     for (unsigned chosen = 1; chosen < 1u << faults.size(); ++chosen)
         for (const ZorSize badSize : badSizes) {

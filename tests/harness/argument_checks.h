@@ -10,7 +10,8 @@
 namespace zorcc::test {
 
 // Every combination of faulty arguments gives the status of the first failing check, and writes nothing.
-[[nodiscard]] testing::AssertionResult checkFaultyArguments(const interface::Function& function);
+[[nodiscard]] testing::AssertionResult checkFaultyArguments(const reference::Case& c,
+                                                            const interface::Function& function);
 
 // Odd sizes give the warning where the case says so, and only there.
 [[nodiscard]] testing::AssertionResult checkOddSizes(const reference::Case& c, const interface::Function& function);

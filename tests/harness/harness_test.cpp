@@ -288,11 +288,11 @@ ZorStatus forgetsHeight(Src src, int, Dst dst, int, ZorSize size)
 
 TEST(Harness, CatchesWrongStatuses)
 {
-    EXPECT_FALSE(checkFaultyArguments(withBody(interleaved, Bound<sizeFirst>::call)));
-    EXPECT_FALSE(checkFaultyArguments(withBody(interleaved, Bound<writesBeforeChecks>::call)));
-    EXPECT_FALSE(checkFaultyArguments(withBody(interleaved, Bound<forgetsHeight>::call)));
-    EXPECT_FALSE(checkFaultyArguments(withBody(planar422, Bound<planesBeforeSize>::call)));
-    EXPECT_FALSE(checkFaultyArguments(withBody(planar422, Bound<forgetsLastPlane>::call)));
+    EXPECT_FALSE(checkFaultyArguments({}, withBody(interleaved, Bound<sizeFirst>::call)));
+    EXPECT_FALSE(checkFaultyArguments({}, withBody(interleaved, Bound<writesBeforeChecks>::call)));
+    EXPECT_FALSE(checkFaultyArguments({}, withBody(interleaved, Bound<forgetsHeight>::call)));
+    EXPECT_FALSE(checkFaultyArguments({}, withBody(planar422, Bound<planesBeforeSize>::call)));
+    EXPECT_FALSE(checkFaultyArguments({}, withBody(planar422, Bound<forgetsLastPlane>::call)));
     EXPECT_FALSE(checkOddSizes(interleaved, withBody(interleaved, Bound<wrongStatus>::call)));
 }
 

@@ -18,10 +18,16 @@ enum class OddSize {
     warning // whole 2 x 2 blocks are converted; zorStatusOddSize when there are pixels beside them
 };
 
+enum class Checks {
+    sizeFirst, // images, size, planes
+    stepsFirst // images and planes, steps, size
+};
+
 struct Case {
     std::string_view name; // of the exported function
     Reference reference;
     OddSize oddSize = OddSize::plain;
+    Checks checks = Checks::sizeFirst;
 };
 
 // The pixels of an image that the function may touch.

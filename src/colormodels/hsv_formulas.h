@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: MIT
+// HSV (the hexcone of hue, saturation and value) from RGB and back, for unsigned integers. Single precision, every
+// operation in the order in which the model defines it, every division exact.
+#pragma once
+
+#include "colormodels/hexcone.h"
+#include "colormodels/ranges.h"
+
+namespace zorcc::ZORCC_TIER {
+namespace {
+
+enum class Conversion { truncating, rounding };
+
+template <class Sample, Conversion conversion> struct RgbToHsv {
+    using V = Vec<Sample>;
+
+    Samples<Sample> operator()(const Samples<Sample>& rgb) const
+    {
+        const auto [r, g, b] = rgb.c[0];
+        const Hexcone<Sample> cone(r, g, b);
+        const V one = V{} + 1, ordered = (V)(cone.first >= cone.second);
+        const auto chroma = widen(maximum(cone.chroma, one)), most = widen(maximum(cone.most, one));
+        const auto fall = widen(cone.most - maximum(cone.first, cone.second));
+        // Hue in sixths: a third's begin, the difference of the other channels' distances from the largest, in units of
+        // the chroma. One of these distances is 1.
+        const auto order = widenSigned(ordered, ordered);
+        const auto begin = widenSigned((cone.isRed ? V{} : cone.isGreen ? V{} + 2 : V{} + 4), V{});
+        Widened<partsOf<Sample>> h, s;
+        for (int p = 0; p < partsOf<Sample>; ++p) {
+            const f32v d = toFloat(chroma.part[p]);
+            const f32v q = toFloat(fall.part[p]) / d;
+            const f32v c = toFloat(begin.part[p]);
+            const f32v sixths = select(order.part[p], c + 1 - q, c + q - 1);
+            const f32v hue = sixths * Range<Sample>::sextant;
+            h.part[p] = convert(hue < 0 ? hue + Range<Sample>::most : hue);
+            s.part[p] = convert(d / toFloat(most.part[p]) * Range<Sample>::most);
+        }
+        const V grey = (V)(cone.chroma == 0);
+        return {{{narrow<Sample>(h) & ~grey, narrow<Sample>(s) & ~grey, cone.most}}};
+    }
+
+private:
+    ZORCC_INLINE s32v convert(f32v v) { return conversion == Conversion::truncating ? truncate(v) : roundToEven(v); }
+};
+
+template <class Sample> struct HsvToRgb {
+    using V = Vec<Sample>;
+
+    Samples<Sample> operator()(const Samples<Sample>& hsv) const
+    {
+        using R = Range<Sample>;
+        constexpr int parts = partsOf<Sample>;
+        const auto [h, s, v] = hsv.c[0];
+        const V full = V{} + static_cast<Sample>(R::most);
+        const auto hue = widen(h & ~(V)(h == full)), saturation = widen(s), value = widen(v);
+        Widened<parts> sextant, low, falling, rising;
+        for (int p = 0; p < parts; ++p) {
+            const f32v sixths = toFloat(hue.part[p]) * R::toDegrees * 0.016666668f;
+            const f32v unit = toFloat(saturation.part[p]) * R::toUnit, most = toFloat(value.part[p]);
+            sextant.part[p] = truncate(sixths);
+            const f32v f = sixths - toFloat(sextant.part[p]);
+            const f32v bottom = most - most * unit, step = f * most * unit;
+            low.part[p] = roundToEven(bottom);
+            falling.part[p] = roundToEven(most - step);
+            rising.part[p] = roundToEven(bottom + step);
+        }
+        // The middle channel rises in the even sextants and falls in the odd ones.
+        const V i = narrow<Sample>(sextant), p = narrow<Sample>(low);
+        const V middle = (V)((i & 1) != 0) ? narrow<Sample>(falling) : narrow<Sample>(rising);
+        const auto in = [&i](int one, int other) {
+            return (V)(i == static_cast<Sample>(one)) | (V)(i == static_cast<Sample>(other));
+        };
+        const auto choose = [&](V isTop, V isMiddle) { return isTop ? v : isMiddle ? middle : p; };
+        return {{{choose(in(5, 0), in(1, 4)), choose(in(1, 2), in(0, 3)), choose(in(3, 4), in(2, 5))}}};
+    }
+};
+
+} // namespace
+} // namespace zorcc::ZORCC_TIER
