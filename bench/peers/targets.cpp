@@ -44,6 +44,18 @@ const Target targets[] = {
     {"zoriYCbCrToRGB_8u_P3R", frameSize, Tier::avx512, 1.3, "zimg 601"},
     {"zoriYCbCr422ToRGB_8u_C2C3R", cachedSize, Tier::avx512, 1.5, "libyuv YUY2ToARGB + ARGBToRAW"},
     {"zoriYCbCr422ToRGB_8u_C2C3R", frameSize, Tier::avx512, 1.3, "libyuv YUY2ToARGB + ARGBToRAW"},
+    {"zoriRGBToHLS_8u_C3R", cachedSize, Tier::avx512, 4.5, "OpenCV RGB2HLS_FULL"},
+    {"zoriRGBToHLS_8u_C3R", cachedSize, Tier::ssse3, 1, "OpenCV RGB2HLS_FULL"},
+    {"zoriHLSToRGB_8u_C3R", cachedSize, Tier::avx512, 4, "OpenCV HLS2RGB_FULL"},
+    {"zoriHLSToRGB_8u_C3R", cachedSize, Tier::ssse3, 1.2, "OpenCV HLS2RGB_FULL"},
+    {"zoriRGBToHSV_8u_C3R", cachedSize, Tier::avx512, 3.7, "OpenCV RGB2HSV_FULL"},
+    {"zoriRGBToHSV_8u_C3R", cachedSize, Tier::ssse3, 0.95, "OpenCV RGB2HSV_FULL"},
+    {"zoriHSVToRGB_8u_C3R", cachedSize, Tier::avx512, 3, "OpenCV HSV2RGB_FULL"},
+    {"zoriHSVToRGB_8u_C3R", cachedSize, Tier::ssse3, 1.2, "OpenCV HSV2RGB_FULL"},
+    {"zoriRGBToHLS_32f_C3R", cachedSize, Tier::avx512, 2, "OpenCV RGB2HLS"},
+    {"zoriRGBToHLS_32f_C3R", cachedSize, Tier::ssse3, 1, "OpenCV RGB2HLS"},
+    {"zoriHLSToRGB_32f_C3R", cachedSize, Tier::avx512, 2, "OpenCV HLS2RGB"},
+    {"zoriHLSToRGB_32f_C3R", cachedSize, Tier::ssse3, 1, "OpenCV HLS2RGB"},
 };
 
 // On the lowest tier: multiples of any peer that is held to the same instructions, and Mpx/s of any function.
