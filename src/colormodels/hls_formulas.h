@@ -22,40 +22,20 @@ template <class Sample> struct RgbToHls {
         const V lightness = ~average(~most, ~least);
         const V divisor = minimum(addSaturate(most, least), addSaturate(~most, ~least));
 
-        const auto chroma = widen(maximum(cone.chroma, one)), limit = widen(maximum(divisor, one));
-        const auto difference = widenSigned(cone.first - cone.second, (V)(cone.first < cone.second));
-        const auto base = hueOf(cone);
+        const auto chroma = toFloat(widen(maximum(cone.chroma, one))), limit = toFloat(widen(maximum(divisor, one)));
+        // The difference of the channels other than the largest, less than zero in odd sextants, and degrees where the
+        // largest channel's third has its middle: 360 for red where the sum would get negative.
+        const V odd = lookUp(oddSextants, cone.order);
+        const auto difference = scaleDifference<60>(((cone.middle - cone.least) ^ odd) - odd, odd);
+        const auto middle = lookUp(bySextant<float>(0, 120, 120, 240, 240, 360), cone.order);
         Widened<partsOf<Sample>> h, s;
         for (int p = 0; p < partsOf<Sample>; ++p) {
-            const f32v d = toFloat(chroma.part[p]);
-            s.part[p] = truncate(d / toFloat(limit.part[p]) * Range<Sample>::most);
-            h.part[p] =
-                truncate((toFloat(difference.part[p]) * 60 / d + (f32v)base.part[p]) * Range<Sample>::fromDegrees);
+            const f32v d = chroma.part[p];
+            h.part[p] = truncate((difference.part[p] / d + middle.part[p]) * Range<Sample>::fromDegrees);
+            s.part[p] = truncate(d / limit.part[p] * Range<Sample>::most);
         }
         const V grey = (V)(cone.chroma == 0);
         return {{{narrow<Sample>(h) & ~grey, lightness, narrow<Sample>(s) & ~grey}}};
-    }
-
-private:
-    // Hue in degrees at the middle of the largest channel's third: 0, 120, 240, or 360 where it would get negative. The
-    // upper halves of these floats.
-    ZORCC_INLINE Widened<partsOf<Sample>> hueOf(const Hexcone<Sample>& cone)
-    {
-        constexpr int degrees120 = 0x42f0, degrees240 = 0x4370, degrees360 = 0x43b4;
-        const V negative = (V)(cone.first < cone.second);
-        const auto choose = [&](int of120, int of240, int of360) {
-            return cone.isRed     ? negative & (V{} + static_cast<Sample>(of360))
-                   : cone.isGreen ? V{} + static_cast<Sample>(of120)
-                                  : V{} + static_cast<Sample>(of240);
-        };
-        if constexpr (sizeof(Sample) == 2) {
-            return widenUpper(choose(degrees120, degrees240, degrees360));
-        } else {
-            const V low = choose(degrees120 & 0xff, degrees240 & 0xff, degrees360 & 0xff);
-            const V high = choose(degrees120 >> 8, degrees240 >> 8, degrees360 >> 8);
-            const auto a = widenUpper((u16v)zipLow(low, high)), b = widenUpper((u16v)zipHigh(low, high));
-            return {{a.part[0], a.part[1], b.part[0], b.part[1]}};
-        }
     }
 };
 
@@ -67,7 +47,7 @@ template <> struct RgbToHls<float> {
         const f32v d = most - least, sum = most + least;
         const f32v lightness = sum * 0.5f;
         const s32v coloured = d > 1.1920929e-7f;
-        const f32v s = d / (lightness <= 0.5f ? sum : 2 - sum);
+        const f32v s = d / minimum(sum, 2 - sum); // the first up to a lightness of 1/2
         const f32v difference = most == r ? g - b : most == g ? b - r : r - g;
         const f32v base = most == r ? f32v{} : most == g ? fillFloat(120) : fillFloat(240);
         const f32v h = difference * 60 / d + base;

@@ -18,28 +18,36 @@ template <class Sample, Conversion conversion> struct RgbToHsv {
     {
         const auto [r, g, b] = rgb.c[0];
         const Hexcone<Sample> cone(r, g, b);
-        const V one = V{} + 1, ordered = (V)(cone.first >= cone.second);
-        const auto chroma = widen(maximum(cone.chroma, one)), most = widen(maximum(cone.most, one));
-        const auto fall = widen(cone.most - maximum(cone.first, cone.second));
-        // Hue in sixths: a third's begin, the difference of the other channels' distances from the largest, in units of
-        // the chroma. One of these distances is 1.
-        const auto order = widenSigned(ordered, ordered);
-        const auto begin = widenSigned((cone.isRed ? V{} : cone.isGreen ? V{} + 2 : V{} + 4), V{});
+        const V one = V{} + 1;
+        const auto chroma = toFloat(widen(maximum(cone.chroma, one))), most = toFloat(widen(maximum(cone.most, one)));
+        // Hue in sixths is 0, 2 or 4 by the largest channel, plus the distance of one of the others from it, less that
+        // of the other, in units of chroma. The greater distance is 1. With the other one, q, that is (1, 3 or 5) - q
+        // in even sextants, and ((0, 2 or 4) + q) - 1 in odd ones.
+        const V fall = cone.most - cone.middle, even = ~lookUp(oddSextants, cone.order);
+        const auto distance = scaleDifference<1>((fall ^ even) - even, even & (V)(fall != 0));
+        const auto start = lookUp(bySextant<float>(1, 2, 3, 4, 5, redRising), cone.order);
+        const auto correction = lookUp(bySextant<float>(0, -1, 0, -1, 0, redCorrection), cone.order);
         Widened<partsOf<Sample>> h, s;
         for (int p = 0; p < partsOf<Sample>; ++p) {
-            const f32v d = toFloat(chroma.part[p]);
-            const f32v q = toFloat(fall.part[p]) / d;
-            const f32v c = toFloat(begin.part[p]);
-            const f32v sixths = select(order.part[p], c + 1 - q, c + q - 1);
+            const f32v d = chroma.part[p];
+            const f32v sixths = start.part[p] + distance.part[p] / d + correction.part[p];
             const f32v hue = sixths * Range<Sample>::sextant;
-            h.part[p] = convert(hue < 0 ? hue + Range<Sample>::most : hue);
-            s.part[p] = convert(d / toFloat(most.part[p]) * Range<Sample>::most);
+            if constexpr (wraps)
+                h.part[p] = convert(hue < 0 ? hue + Range<Sample>::most : hue);
+            else
+                h.part[p] = convert(hue);
+            s.part[p] = convert(d / most.part[p] * Range<Sample>::most);
         }
         const V grey = (V)(cone.chroma == 0);
         return {{{narrow<Sample>(h) & ~grey, narrow<Sample>(s) & ~grey, cone.most}}};
     }
 
 private:
+    // Truncated bytes of a negative hue are the same without the detour below zero: 5 + q, raised by less than what any
+    // of these quotients has to the next byte, so that no whole one gets lost by rounding.
+    static constexpr bool wraps = conversion == Conversion::rounding;
+    static constexpr float redRising = wraps ? 0 : 5, redCorrection = wraps ? -1 : 0x1p-18f;
+
     ZORCC_INLINE s32v convert(f32v v) { return conversion == Conversion::truncating ? truncate(v) : roundToEven(v); }
 };
 

@@ -149,40 +149,36 @@ template <int size> struct Thirds {
 template <int size> constexpr Thirds<size> thirds;
 
 // The bytes of sample positions p with p % 3 == r.
-template <int size> constexpr __mmask64 everyThird(int r)
+constexpr __mmask64 everyThird(int size, int r)
 {
     __mmask64 bytes = 0;
     for (int p = r; p < 64 / size; p += 3) bytes |= ((__mmask64{1} << size) - 1) << p * size;
     return bytes;
 }
+template <int size> constexpr __mmask64 third[] = {everyThird(size, 0), everyThird(size, 1), everyThird(size, 2)};
 
-// From three vectors: positions p from the one k with (k * (64 / size) + p) % 3 == c.
-template <int size> ZORCC_INLINE __m512i gatherThird(const __m512i (&v)[3], int c)
-{
-    constexpr int perVector = 64 / size;
-    const auto in = [c](int k) { return everyThird<size>((c + 3 * perVector - k * perVector) % 3); };
-    return _mm512_mask_mov_epi8(_mm512_mask_mov_epi8(v[0], in(1), v[1]), in(2), v[2]);
-}
+// Sample position p of vector k belongs to channel (k * (64 / size) + p) % 3. The positions of channel c in it:
+template <int size> constexpr __mmask64 thirdOf(int c, int k) { return third<size>[(c + k * (3 - 64 / size % 3)) % 3]; }
 
 template <class V> ZORCC_INLINE void deinterleave3(const uint8_t* p, V (&channel)[3])
 {
     constexpr int size = sampleSize<V>;
     const __m512i v[3] = {reg(load(p)), reg(load(p + 64)), reg(load(p + 128))};
     for (int c = 0; c < 3; ++c)
-        channel[c] = (V)_mm512_permutexvar_epi8(reg(load(thirds<size>.sort[c])), gatherThird<size>(v, c));
+        channel[c] = (V)_mm512_permutexvar_epi8(
+            reg(load(thirds<size>.sort[c])),
+            _mm512_mask_mov_epi8(_mm512_mask_mov_epi8(v[0], thirdOf<size>(c, 1), v[1]), thirdOf<size>(c, 2), v[2]));
 }
 
 template <Columns columns, class V> ZORCC_INLINE void interleave3(uint8_t* p, const V (&channel)[3])
 {
-    constexpr int size = sampleSize<V>, perVector = 64 / size;
+    constexpr int size = sampleSize<V>;
     __m512i v[3];
     for (int c = 0; c < 3; ++c)
         v[c] = _mm512_permutexvar_epi8(reg(load(thirds<size>.scatter[(int)columns][c])), (__m512i)channel[c]);
-    // Vector k takes positions p of channel c with (k * perVector + p) % 3 == c.
-    for (int k = 0; k < 3; ++k) {
-        const auto of = [k](int c) { return everyThird<size>((c + 3 * perVector - k * perVector) % 3); };
-        store(p + 64 * k, (u8v)_mm512_mask_mov_epi8(_mm512_mask_mov_epi8(v[0], of(1), v[1]), of(2), v[2]));
-    }
+    for (int k = 0; k < 3; ++k)
+        store(p + 64 * k, (u8v)_mm512_mask_mov_epi8(_mm512_mask_mov_epi8(v[0], thirdOf<size>(1, k), v[1]),
+                                                    thirdOf<size>(2, k), v[2]));
 }
 
 #else

@@ -92,13 +92,16 @@ ZORCC_INLINE u8v fillBlock(__m128i block)
 // a0 b0 + a1 b1 of each pair of bytes; the caller's coefficients keep the sum within 16 bits (it would saturate).
 ZORCC_INLINE s16v mulAddPairs(u8v a, s8v b) { return (s16v)ZORCC_MM(maddubs_epi16)(reg(a), reg(b)); }
 
+// a0 b0 + a1 b1 of each pair of 16-bit elements.
+ZORCC_INLINE s32v mulAddPairs(s16v a, s16v b) { return (s32v)ZORCC_MM(madd_epi16)(reg(a), reg(b)); }
+
 // sum + a0 b0 + a1 b1 of each pair of 16-bit elements.
 ZORCC_INLINE s32v mulAddPairs(s32v sum, s16v a, s16v b)
 {
 #if defined(ZORCC_TIER_avx512)
     return (s32v)_mm512_dpwssd_epi32(reg(sum), reg(a), reg(b));
 #else
-    return sum + (s32v)ZORCC_MM(madd_epi16)(reg(a), reg(b));
+    return sum + mulAddPairs(a, b);
 #endif
 }
 
