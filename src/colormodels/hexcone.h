@@ -36,7 +36,9 @@ template <class T> constexpr Table<T> bySextant(T s0, T s1, T s2, T s3, T s4, T 
 {
     return {{s0, s5, s1, s0, s3, s4, s2, s0}};
 }
-constexpr Table<uint8_t> oddSextants = bySextant<uint8_t>(0, 255, 0, 255, 0, 255); // as a mask
+// Odd sextants as masks, by order and by number.
+constexpr Table<uint8_t> oddByOrder = bySextant<uint8_t>(0, 255, 0, 255, 0, 255);
+constexpr Table<uint8_t> oddSextants = {{0, 255, 0, 255, 0, 255}};
 
 } // namespace
 } // namespace zorcc::ZORCC_TIER

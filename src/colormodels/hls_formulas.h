@@ -25,7 +25,7 @@ template <class Sample> struct RgbToHls {
         const auto chroma = toFloat(widen(maximum(cone.chroma, one))), limit = toFloat(widen(maximum(divisor, one)));
         // The difference of the channels other than the largest, less than zero in odd sextants, and degrees where the
         // largest channel's third has its middle: 360 for red where the sum would get negative.
-        const V odd = lookUp(oddSextants, cone.order);
+        const V odd = lookUp(oddByOrder, cone.order);
         const auto difference = scaleDifference<60>(((cone.middle - cone.least) ^ odd) - odd, odd);
         const auto middle = lookUp(bySextant<float>(0, 120, 120, 240, 240, 360), cone.order);
         Widened<partsOf<Sample>> h, s;

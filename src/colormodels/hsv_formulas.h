@@ -23,7 +23,7 @@ template <class Sample, Conversion conversion> struct RgbToHsv {
         // Hue in sixths is 0, 2 or 4 by the largest channel, plus the distance of one of the others from it, less that
         // of the other, in units of chroma. The greater distance is 1. With the other one, q, that is (1, 3 or 5) - q
         // in even sextants, and ((0, 2 or 4) + q) - 1 in odd ones.
-        const V fall = cone.most - cone.middle, even = ~lookUp(oddSextants, cone.order);
+        const V fall = cone.most - cone.middle, even = ~lookUp(oddByOrder, cone.order);
         const auto distance = scaleDifference<1>((fall ^ even) - even, even & (V)(fall != 0));
         const auto start = lookUp(bySextant<float>(1, 2, 3, 4, 5, redRising), cone.order);
         const auto correction = lookUp(bySextant<float>(0, -1, 0, -1, 0, redCorrection), cone.order);
@@ -67,19 +67,29 @@ template <class Sample> struct HsvToRgb {
             const f32v unit = toFloat(saturation.part[p]) * R::toUnit, most = toFloat(value.part[p]);
             sextant.part[p] = truncate(sixths);
             const f32v f = sixths - toFloat(sextant.part[p]);
-            const f32v bottom = most - most * unit, step = f * most * unit;
-            low.part[p] = roundToEven(bottom);
+            const f32v least = most - most * unit, step = f * most * unit;
+            low.part[p] = roundToEven(least);
             falling.part[p] = roundToEven(most - step);
-            rising.part[p] = roundToEven(bottom + step);
+            rising.part[p] = roundToEven(least + step);
         }
-        // The middle channel rises in the even sextants and falls in the odd ones.
-        const V i = narrow<Sample>(sextant), p = narrow<Sample>(low);
-        const V middle = (V)((i & 1) != 0) ? narrow<Sample>(falling) : narrow<Sample>(rising);
-        const auto in = [&i](int one, int other) {
-            return (V)(i == static_cast<Sample>(one)) | (V)(i == static_cast<Sample>(other));
+        // The channel between rises in the even sextants and falls in the odd ones. Every channel is never below the
+        // lowest.
+        const V i = narrow<Sample>(sextant), bottom = narrow<Sample>(low);
+        const V middle = select(lookUp(oddSextants, i), narrow<Sample>(falling), narrow<Sample>(rising));
+        const auto choose = [&](const Table<uint8_t>& isTop, const Table<uint8_t>& isMiddle) {
+            return maximum(maximum(lookUp(isTop, i) & v, lookUp(isMiddle, i) & middle), bottom);
         };
-        const auto choose = [&](V isTop, V isMiddle) { return isTop ? v : isMiddle ? middle : p; };
-        return {{{choose(in(5, 0), in(1, 4)), choose(in(1, 2), in(0, 3)), choose(in(3, 4), in(2, 5))}}};
+        return {{{choose(sextants(5, 0), sextants(1, 4)), choose(sextants(1, 2), sextants(0, 3)),
+                  choose(sextants(3, 4), sextants(2, 5))}}};
+    }
+
+private:
+    // The two as a mask.
+    static constexpr Table<uint8_t> sextants(int one, int other)
+    {
+        Table<uint8_t> table{};
+        table.of[one] = table.of[other] = 255;
+        return table;
     }
 };
 

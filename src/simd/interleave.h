@@ -160,6 +160,50 @@ template <int size> constexpr __mmask64 third[] = {everyThird(size, 0), everyThi
 // Sample position p of vector k belongs to channel (k * (64 / size) + p) % 3. The positions of channel c in it:
 template <int size> constexpr __mmask64 thirdOf(int c, int k) { return third<size>[(c + k * (3 - 64 / size % 3)) % 3]; }
 
+// Floats take two permutations of two vectors each, which is less than blending and permuting.
+struct FloatThirds {
+    alignas(64) int32_t sort[2][3][16];    // from vectors 0 and 1, from that and vector 2
+    alignas(64) int32_t scatter[2][3][16]; // from channels 0 and 1, from that and channel 2
+
+    constexpr FloatThirds() : sort{}, scatter{}
+    {
+        for (int c = 0; c < 3; ++c)
+            for (int i = 0; i < 16; ++i) {
+                const int n = 3 * i + c, m = 16 * c + i; // where channel c of pixel i is; what element i of vector c is
+                sort[0][c][i] = n < 32 ? n : 0;
+                sort[1][c][i] = n < 32 ? i : n - 16;
+                scatter[0][c][i] = m % 3 < 2 ? m % 3 * 16 + m / 3 : 0;
+                scatter[1][c][i] = m % 3 < 2 ? i : 16 + m / 3;
+            }
+    }
+};
+constexpr FloatThirds floatThirds;
+
+ZORCC_INLINE void permuteThirds(const int32_t (&first)[3][16], const int32_t (&second)[3][16], const __m512 (&from)[3],
+                                __m512 (&to)[3])
+{
+    for (int k = 0; k < 3; ++k) {
+        const __m512 two = _mm512_permutex2var_ps(from[0], _mm512_load_si512(first[k]), from[1]);
+        to[k] = _mm512_permutex2var_ps(two, _mm512_load_si512(second[k]), from[2]);
+    }
+}
+
+ZORCC_INLINE void deinterleave3(const uint8_t* p, Vec<float> (&channel)[3])
+{
+    const __m512 v[3] = {_mm512_loadu_ps(p), _mm512_loadu_ps(p + 64), _mm512_loadu_ps(p + 128)};
+    __m512 to[3];
+    permuteThirds(floatThirds.sort[0], floatThirds.sort[1], v, to);
+    for (int c = 0; c < 3; ++c) channel[c] = (Vec<float>)to[c];
+}
+
+template <Columns columns> ZORCC_INLINE void interleave3(uint8_t* p, const Vec<float> (&channel)[3])
+{
+    const __m512 c[3] = {(__m512)channel[0], (__m512)channel[1], (__m512)channel[2]};
+    __m512 to[3];
+    permuteThirds(floatThirds.scatter[0], floatThirds.scatter[1], c, to);
+    for (int k = 0; k < 3; ++k) _mm512_storeu_ps(p + 64 * k, to[k]);
+}
+
 template <class V> ZORCC_INLINE void deinterleave3(const uint8_t* p, V (&channel)[3])
 {
     constexpr int size = sampleSize<V>;
@@ -227,6 +271,35 @@ template <Columns columns, class V> ZORCC_INLINE void interleave3(uint8_t* p, co
     for (int k = 0; k < 3; ++k)
         v[k] = shuffleTable((u8v)channel[0], scatter[0][k]) | shuffleTable((u8v)channel[1], scatter[1][k]) |
                shuffleTable((u8v)channel[2], scatter[2][k]);
+    storeBlocks(p, v);
+}
+
+// Floats, two of one vector and two of another at a time.
+template <int a, int b, int c, int d> ZORCC_INLINE Vec<float> pick(Vec<float> v, Vec<float> w)
+{
+    return (Vec<float>)ZORCC_MM(shuffle_ps)((decltype(ZORCC_MM(setzero_ps)()))v, (decltype(ZORCC_MM(setzero_ps)()))w,
+                                            _MM_SHUFFLE(d, c, b, a));
+}
+
+ZORCC_INLINE void deinterleave3(const uint8_t* p, Vec<float> (&channel)[3])
+{
+    u8v bytes[3];
+    loadBlocks(p, bytes);
+    using V = Vec<float>;
+    const V u = (V)bytes[0], v = (V)bytes[1], w = (V)bytes[2]; // A0 B0 C0 A1, B1 C1 A2 B2, C2 A3 B3 C3
+    channel[0] = pick<0, 3, 0, 2>(u, pick<2, 2, 1, 1>(v, w));
+    channel[1] = pick<0, 2, 0, 2>(pick<1, 1, 0, 0>(u, v), pick<3, 3, 2, 2>(v, w));
+    channel[2] = pick<0, 2, 0, 3>(pick<2, 2, 1, 1>(u, v), w);
+}
+
+template <Columns columns> ZORCC_INLINE void interleave3(uint8_t* p, const Vec<float> (&channel)[3])
+{
+    using V = Vec<float>;
+    const V a = channel[0], b = channel[1], c = channel[2];
+    const V ca = pick<0, 2, 1, 3>(c, a); // C0 C2 A1 A3
+    const u8v v[3] = {(u8v)pick<0, 1, 0, 2>(zipLow(a, b), ca),
+                      (u8v)pick<0, 2, 0, 1>(pick<1, 1, 1, 1>(b, c), zipHigh(a, b)),
+                      (u8v)pick<1, 3, 2, 3>(ca, zipHigh(b, c))};
     storeBlocks(p, v);
 }
 

@@ -153,6 +153,9 @@ ZORCC_INLINE u8v packUnsigned(s16v lo, s16v hi) { return (u8v)ZORCC_MM(packus_ep
 ZORCC_INLINE s8v packSigned(s16v lo, s16v hi) { return (s8v)ZORCC_MM(packs_epi16)(reg(lo), reg(hi)); }
 ZORCC_INLINE s16v packSigned(s32v lo, s32v hi) { return (s16v)ZORCC_MM(packs_epi32)(reg(lo), reg(hi)); }
 
+// Per lane: a where all bits of the mask are set, b where none is.
+template <class V> ZORCC_INLINE V select(V mask, V a, V b) { return (a & mask) | (b & ~mask); }
+
 // ---- order ---------------------------------------------------------------------------------------------------------
 
 // Per block: a0 b0 a1 b1 ... of the lower halves, and of the upper halves.
