@@ -86,7 +86,9 @@ Conversion findConversion(const Format& from, const Format& to)
         const auto before = rearrangementCost(from, *function.source);
         const auto after = rearrangementCost(*function.destination, to);
         if (!before || !after) continue;
-        const int cost = 2 * (*before + *after) + !function.signature.steps;
+        // Of ways that cost the same the one that computes with more bits.
+        const int cost =
+            16 * (*before + *after) + 8 * !function.signature.steps - interface::sampleBytes(function.source->sample);
         if (cost < lowest) lowest = cost, found = &function;
     }
     if (!found)

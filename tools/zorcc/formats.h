@@ -13,9 +13,6 @@ namespace zorcc::tool {
 inline constexpr Format grey8 = interface::formats::interleaved("grey8", "L", interface::Model::rgb, Sample::u8);
 inline constexpr Format grey16 = interface::formats::interleaved("grey16", "L", interface::Model::rgb, Sample::u16);
 inline constexpr Format greyf = interface::formats::interleaved("greyf", "L", interface::Model::rgb, Sample::f32);
-inline constexpr Format rgb48 = interface::formats::interleaved("rgb48", "RGB", interface::Model::rgb, Sample::u16);
-inline constexpr Format rgba64 = interface::formats::interleaved("rgba64", "RGBA", interface::Model::rgb, Sample::u16);
-inline constexpr Format rgbf = interface::formats::interleaved("rgbf", "RGB", interface::Model::rgb, Sample::f32);
 
 // A format that some function takes or gives; throws UsageError for other names.
 const Format& formatNamed(const std::string& name);
@@ -24,6 +21,11 @@ inline bool isGrey(const Format& format) { return format.channels == "L"; }
 inline bool hasAlpha(const Format& format) { return format.channels.find('A') != std::string_view::npos; }
 inline bool isDeep(const Format& format) { return format.sample != Sample::u8; }
 inline bool isRgb(const Format& format) { return format.model == interface::Model::rgb; }
+inline bool isHexcone(const Format& format)
+{
+    return format.model == interface::Model::hls || format.model == interface::Model::hsv;
+}
+inline bool isYuv(const Format& format) { return !isRgb(format) && !isHexcone(format); }
 
 // How a picture file that holds red, green and blue, or grey, of the given sample type says it.
 const Format& pictureFormat(bool grey, bool alpha, Sample sample);
@@ -33,7 +35,8 @@ const Format& planarYuv(const Format& format);
 
 // What it costs to rearrange pictures of one format into another: 0 for the same, more the more is moved, added or
 // lost; nothing where plain rearrangement does not lead. It may change the order and layout of channels, repeat grey,
-// add opaque alpha or drop alpha, scale between 8 bits, 16 bits and 0..1 floats, and cut channels down to packed bits.
+// add opaque alpha or drop alpha, scale between 8 bits, 16 bits (signed ones from -32768) and 0..1 floats, and cut
+// channels down to packed bits.
 std::optional<int> rearrangementCost(const Format& from, const Format& to);
 
 // The picture in another format and size, which rearrangementCost must allow: pixels beyond the visible part repeat the
