@@ -58,9 +58,16 @@ const Target targets[] = {
     {"zoriHLSToRGB_32f_C3R", cachedSize, Tier::ssse3, 1, "OpenCV HLS2RGB"},
 };
 
-// On the lowest tier: multiples of any peer that is held to the same instructions, and Mpx/s of any function.
+// On the lowest tier: multiples of any peer that is held to the same instructions, and Mpx/s of any function that
+// computes with integers.
 constexpr double ssse3Ratio = 0.5;
 constexpr double ssse3Speed = 1000;
+
+bool usesFloats(std::string_view function)
+{
+    const std::string_view family = interface::findFunction(function)->family;
+    return family == "HLS and HSV";
+}
 
 bool same(ZorSize a, ZorSize b) { return a.width == b.width && a.height == b.height; }
 
@@ -102,7 +109,7 @@ bool checkTargets(const std::vector<Result>& results)
                 judge.judge(result, Tier::ssse3, result.ours.at(Tier::ssse3) / peer.speed, ssse3Ratio,
                             "x " + peer.name);
         }
-        if (same(result.size, cachedSize))
+        if (same(result.size, cachedSize) && !usesFloats(result.function))
             judge.judge(result, Tier::ssse3, result.ours.at(Tier::ssse3), ssse3Speed, "Mpx/s");
     }
     return judge.sum();
