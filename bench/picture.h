@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <memory>
 #include <new>
 #include <random>
@@ -56,8 +57,8 @@ inline std::size_t trafficBytes(const interface::Function& function, ZorSize siz
     return imageBytes(*function.source, size) + imageBytes(*function.destination, size);
 }
 
-// An image of random content. Planes and rows follow each other without gaps; at the sizes above this puts every plane
-// on a 64-byte boundary.
+// An image of random content; floats are in 0..1. Planes and rows follow each other without gaps; at the sizes above
+// this puts every plane on a 64-byte boundary.
 class Picture {
 public:
     Picture(const interface::Format& format, ZorSize size) : memory(imageBytes(format, size))
@@ -68,6 +69,11 @@ public:
             image.plane[p] = next;
             next += planeBytes(format, p, size);
         }
+        if (format.sample == interface::Sample::f32)
+            for (std::uint8_t* at = memory.data(); at < next; at += sizeof(float)) {
+                const float value = static_cast<float>(at[0] << 8 | at[1]) / 65535.0f;
+                std::memcpy(at, &value, sizeof value);
+            }
     }
 
     interface::Image image;

@@ -494,6 +494,99 @@ ZOR_API ZorStatus zoriYCbCr420ToYCrCb420_Filter_8u_P2P3R(const uint8_t* pSrcY, i
                                                          int srcCbCrStep, uint8_t* const pDst[3], const int dstStep[3],
                                                          ZorSize roiSize, int slice);
 
+/*
+ * ---- HLS and HSV ----------------------------------------------------------------------------------------------------
+ *
+ * R'G'B' to and from the hexcone models: hue, lightness and saturation; hue, saturation and value. With R, G, B in
+ * 0..1, M the largest and m the smallest of them, d = M - m:
+ *   hue  60 (G - B) / d if R = M, or else 120 + 60 (B - R) / d if G = M, or else 240 + 60 (R - G) / d, in degrees;
+ *        360 more if that is negative
+ *   HLS  L = (M + m) / 2, S = d / (M + m) up to L = 1/2 and d / (2 - (M + m)) above
+ *   HSV  V = M, S = d / M
+ * Grey (d = 0) has H = S = 0.
+ *
+ * Ranges: 8u R, G, B, L, S, V in 0..255, hue in degrees * 255 / 360; 16u the same with 65535; 16s as 16u, every sample
+ * less 32768; 32f R, G, B, L, S in 0..1, hue in degrees / 360, nothing is clamped. Channels stand in the order of their
+ * names: H, L, S and H, S, V. Single precision, every operation rounded as IEEE 754 says, so that integer results, too,
+ * are the same everywhere.
+ *
+ * Images above 4096 pixels, and planar images of any size, are converted on ownGetNumThreads() threads, except inside a
+ * parallel region of the caller.
+ */
+
+/* RGB to HLS. Integer results are truncated; 32f: grey is where d is not above 2^-23. Steps are not checked. */
+ZOR_API ZorStatus zoriRGBToHLS_8u_C3R(const uint8_t* pSrc, int srcStep, uint8_t* pDst, int dstStep, ZorSize roiSize);
+ZOR_API ZorStatus zoriRGBToHLS_8u_AC4R(const uint8_t* pSrc, int srcStep, uint8_t* pDst, int dstStep, ZorSize roiSize);
+ZOR_API ZorStatus zoriRGBToHLS_16u_C3R(const uint16_t* pSrc, int srcStep, uint16_t* pDst, int dstStep, ZorSize roiSize);
+ZOR_API ZorStatus zoriRGBToHLS_16u_AC4R(const uint16_t* pSrc, int srcStep, uint16_t* pDst, int dstStep,
+                                        ZorSize roiSize);
+ZOR_API ZorStatus zoriRGBToHLS_16s_C3R(const int16_t* pSrc, int srcStep, int16_t* pDst, int dstStep, ZorSize roiSize);
+ZOR_API ZorStatus zoriRGBToHLS_16s_AC4R(const int16_t* pSrc, int srcStep, int16_t* pDst, int dstStep, ZorSize roiSize);
+ZOR_API ZorStatus zoriRGBToHLS_32f_C3R(const float* pSrc, int srcStep, float* pDst, int dstStep, ZorSize roiSize);
+ZOR_API ZorStatus zoriRGBToHLS_32f_AC4R(const float* pSrc, int srcStep, float* pDst, int dstStep, ZorSize roiSize);
+ZOR_API ZorStatus zoriBGRToHLS_8u_AC4R(const uint8_t* pSrc, int srcStep, uint8_t* pDst, int dstStep, ZorSize roiSize);
+
+/* HLS to RGB. Integer results are truncated; where S is 0, R, G and B are copies of L. Steps are not checked. */
+ZOR_API ZorStatus zoriHLSToRGB_8u_C3R(const uint8_t* pSrc, int srcStep, uint8_t* pDst, int dstStep, ZorSize roiSize);
+ZOR_API ZorStatus zoriHLSToRGB_8u_AC4R(const uint8_t* pSrc, int srcStep, uint8_t* pDst, int dstStep, ZorSize roiSize);
+ZOR_API ZorStatus zoriHLSToRGB_16u_C3R(const uint16_t* pSrc, int srcStep, uint16_t* pDst, int dstStep, ZorSize roiSize);
+ZOR_API ZorStatus zoriHLSToRGB_16u_AC4R(const uint16_t* pSrc, int srcStep, uint16_t* pDst, int dstStep,
+                                        ZorSize roiSize);
+ZOR_API ZorStatus zoriHLSToRGB_16s_C3R(const int16_t* pSrc, int srcStep, int16_t* pDst, int dstStep, ZorSize roiSize);
+ZOR_API ZorStatus zoriHLSToRGB_16s_AC4R(const int16_t* pSrc, int srcStep, int16_t* pDst, int dstStep, ZorSize roiSize);
+ZOR_API ZorStatus zoriHLSToRGB_32f_C3R(const float* pSrc, int srcStep, float* pDst, int dstStep, ZorSize roiSize);
+ZOR_API ZorStatus zoriHLSToRGB_32f_AC4R(const float* pSrc, int srcStep, float* pDst, int dstStep, ZorSize roiSize);
+
+/*
+ * RGB to HSV. 16u: rounded to nearest, ties to even. 8u: hue and saturation are truncated in the first 4 * (width / 4)
+ * pixels of a row and rounded to nearest, ties to even, in the others, where they can be greater by one. Steps are not
+ * checked.
+ */
+ZOR_API ZorStatus zoriRGBToHSV_8u_C3R(const uint8_t* pSrc, int srcStep, uint8_t* pDst, int dstStep, ZorSize roiSize);
+ZOR_API ZorStatus zoriRGBToHSV_8u_AC4R(const uint8_t* pSrc, int srcStep, uint8_t* pDst, int dstStep, ZorSize roiSize);
+ZOR_API ZorStatus zoriRGBToHSV_16u_C3R(const uint16_t* pSrc, int srcStep, uint16_t* pDst, int dstStep, ZorSize roiSize);
+ZOR_API ZorStatus zoriRGBToHSV_16u_AC4R(const uint16_t* pSrc, int srcStep, uint16_t* pDst, int dstStep,
+                                        ZorSize roiSize);
+
+/* HSV to RGB, rounded to nearest, ties to even. The greatest hue is taken for hue 0. Steps are not checked. */
+ZOR_API ZorStatus zoriHSVToRGB_8u_C3R(const uint8_t* pSrc, int srcStep, uint8_t* pDst, int dstStep, ZorSize roiSize);
+ZOR_API ZorStatus zoriHSVToRGB_8u_AC4R(const uint8_t* pSrc, int srcStep, uint8_t* pDst, int dstStep, ZorSize roiSize);
+ZOR_API ZorStatus zoriHSVToRGB_16u_C3R(const uint16_t* pSrc, int srcStep, uint16_t* pDst, int dstStep, ZorSize roiSize);
+ZOR_API ZorStatus zoriHSVToRGB_16u_AC4R(const uint16_t* pSrc, int srcStep, uint16_t* pDst, int dstStep,
+                                        ZorSize roiSize);
+
+/*
+ * BGR to HLS and back with planes on one side or both: planes B, G, R and H, L, S, and a fourth for alpha, which is
+ * copied. One step serves all planes of an image. Their checks, in this order:
+ *   zorStatusNullPointer  the source, or one of its planes in turn, then the destination likewise, is null
+ *   zorStatusBadStep      a step is below 1
+ *   zorStatusBadSize      width or height is below 1
+ */
+ZOR_API ZorStatus zoriBGRToHLS_8u_AC4P4R(const uint8_t* pSrc, int srcStep, uint8_t* const pDst[4], int dstStep,
+                                         ZorSize roiSize);
+ZOR_API ZorStatus zoriBGRToHLS_8u_AP4C4R(const uint8_t* const pSrc[4], int srcStep, uint8_t* pDst, int dstStep,
+                                         ZorSize roiSize);
+ZOR_API ZorStatus zoriBGRToHLS_8u_AP4R(const uint8_t* const pSrc[4], int srcStep, uint8_t* const pDst[4], int dstStep,
+                                       ZorSize roiSize);
+ZOR_API ZorStatus zoriBGRToHLS_8u_C3P3R(const uint8_t* pSrc, int srcStep, uint8_t* const pDst[3], int dstStep,
+                                        ZorSize roiSize);
+ZOR_API ZorStatus zoriBGRToHLS_8u_P3C3R(const uint8_t* const pSrc[3], int srcStep, uint8_t* pDst, int dstStep,
+                                        ZorSize roiSize);
+ZOR_API ZorStatus zoriBGRToHLS_8u_P3R(const uint8_t* const pSrc[3], int srcStep, uint8_t* const pDst[3], int dstStep,
+                                      ZorSize roiSize);
+ZOR_API ZorStatus zoriHLSToBGR_8u_AC4P4R(const uint8_t* pSrc, int srcStep, uint8_t* const pDst[4], int dstStep,
+                                         ZorSize roiSize);
+ZOR_API ZorStatus zoriHLSToBGR_8u_AP4C4R(const uint8_t* const pSrc[4], int srcStep, uint8_t* pDst, int dstStep,
+                                         ZorSize roiSize);
+ZOR_API ZorStatus zoriHLSToBGR_8u_AP4R(const uint8_t* const pSrc[4], int srcStep, uint8_t* const pDst[4], int dstStep,
+                                       ZorSize roiSize);
+ZOR_API ZorStatus zoriHLSToBGR_8u_C3P3R(const uint8_t* pSrc, int srcStep, uint8_t* const pDst[3], int dstStep,
+                                        ZorSize roiSize);
+ZOR_API ZorStatus zoriHLSToBGR_8u_P3C3R(const uint8_t* const pSrc[3], int srcStep, uint8_t* pDst, int dstStep,
+                                        ZorSize roiSize);
+ZOR_API ZorStatus zoriHLSToBGR_8u_P3R(const uint8_t* const pSrc[3], int srcStep, uint8_t* const pDst[3], int dstStep,
+                                      ZorSize roiSize);
+
 #ifdef __cplusplus
 }
 #endif

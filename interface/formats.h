@@ -7,9 +7,10 @@
 
 namespace zorcc::interface {
 
-// Colour models: grey, R'G'B', analogue-television Y'UV, and Y'CbCr by its matrix, which is anyYcc where samples only
-// change places. In channel strings L stands for grey, U for Cb, V for Cr.
-enum class Model { grey, rgb, yuv, bt601, bt709, bt709full, anyYcc };
+// Colour models: grey, R'G'B', analogue-television Y'UV, Y'CbCr by its matrix, which is anyYcc where samples only
+// change places, and the hexcone models. In channel strings L stands for grey (in those of HLS for lightness), U for
+// Cb, V for Cr (in those of HSV for the value).
+enum class Model { grey, rgb, yuv, bt601, bt709, bt709full, anyYcc, hls, hsv };
 
 enum class Sample { u8, u16, s16, s32, f32 };
 
@@ -144,6 +145,25 @@ inline constexpr Format nv11 = semiPlanar("nv11", "YUV", Model::anyYcc, 2, 0);
 inline constexpr Format yuy2 = packed422("yuy2", "YUYV", Model::anyYcc);
 inline constexpr Format uyvy = packed422("uyvy", "UYVY", Model::anyYcc);
 inline constexpr Format yvyu = packed422("yvyu", "YVYU", Model::anyYcc);
+
+inline constexpr Format bgr444p = planar("bgr444p", "BGR", Model::rgb, Sample::u8);
+inline constexpr Format bgra444p = planar("bgra444p", "BGRA", Model::rgb, Sample::u8);
+
+inline constexpr Format hls24 = interleaved("hls24", "HLS", Model::hls, Sample::u8);
+inline constexpr Format hlsa = interleaved("hlsa", "HLSA", Model::hls, Sample::u8);
+inline constexpr Format hls48 = interleaved("hls48", "HLS", Model::hls, Sample::u16);
+inline constexpr Format hlsa64 = interleaved("hlsa64", "HLSA", Model::hls, Sample::u16);
+inline constexpr Format hls48s = interleaved("hls48s", "HLS", Model::hls, Sample::s16);
+inline constexpr Format hlsa64s = interleaved("hlsa64s", "HLSA", Model::hls, Sample::s16);
+inline constexpr Format hlsf32 = interleaved("hlsf32", "HLS", Model::hls, Sample::f32);
+inline constexpr Format hlsaf32 = interleaved("hlsaf32", "HLSA", Model::hls, Sample::f32);
+inline constexpr Format hls444p = planar("hls444p", "HLS", Model::hls, Sample::u8);
+inline constexpr Format hlsa444p = planar("hlsa444p", "HLSA", Model::hls, Sample::u8);
+
+inline constexpr Format hsv24 = interleaved("hsv24", "HSV", Model::hsv, Sample::u8);
+inline constexpr Format hsva = interleaved("hsva", "HSVA", Model::hsv, Sample::u8);
+inline constexpr Format hsv48 = interleaved("hsv48", "HSV", Model::hsv, Sample::u16);
+inline constexpr Format hsva64 = interleaved("hsva64", "HSVA", Model::hsv, Sample::u16);
 
 } // namespace formats
 

@@ -27,6 +27,12 @@ const Row rows[] = {
     {"zoriYUV420ToBGR_8u_P3C3R", "YUV2BGR_I420", cv::COLOR_YUV2BGR_I420},
     {"zoriYUV420ToRGB_8u_P3AC4R", "YUV2RGBA_I420", cv::COLOR_YUV2RGBA_I420},
     {"zoriYUV422ToRGB_8u_C2C3R", "YUV2RGB_YUYV", cv::COLOR_YUV2RGB_YUYV},
+    {"zoriRGBToHLS_8u_C3R", "RGB2HLS_FULL", cv::COLOR_RGB2HLS_FULL},
+    {"zoriHLSToRGB_8u_C3R", "HLS2RGB_FULL", cv::COLOR_HLS2RGB_FULL},
+    {"zoriRGBToHSV_8u_C3R", "RGB2HSV_FULL", cv::COLOR_RGB2HSV_FULL},
+    {"zoriHSVToRGB_8u_C3R", "HSV2RGB_FULL", cv::COLOR_HSV2RGB_FULL},
+    {"zoriRGBToHLS_32f_C3R", "RGB2HLS", cv::COLOR_RGB2HLS},
+    {"zoriHLSToRGB_32f_C3R", "HLS2RGB", cv::COLOR_HLS2RGB},
 };
 
 // A matrix over our memory. It takes planar 4:2:0 as one matrix half as high again, the planes behind one another.
@@ -34,7 +40,8 @@ cv::Mat matrix(const Format& format, const Image& image, ZorSize size)
 {
     if (format.layout == Layout::planar)
         return {size.height * 3 / 2, size.width, CV_8UC1, image.plane[0], static_cast<size_t>(image.step[0])};
-    return {size.height, size.width, CV_8UC(format.plane[0].samples), image.plane[0],
+    const int depth = format.sample == interface::Sample::f32 ? CV_32F : CV_8U;
+    return {size.height, size.width, CV_MAKETYPE(depth, format.plane[0].samples), image.plane[0],
             static_cast<size_t>(image.step[0])};
 }
 

@@ -58,6 +58,18 @@ const Target targets[] = {
     {"zoriCbYCr422ToYCbCr422_8u_C2P3R", cachedSize, Tier::avx512, 1.5, "libyuv UYVYToI422"},
     {"zoriCbYCr422ToYCbCr422_8u_C2R", cachedSize, Tier::avx512, 1, "libyuv SwapUVPlane"},
     {"zoriYCbCr422ToYCbCr420_8u_P3R", cachedSize, Tier::avx512, 1.2, "libyuv I422ToI420"},
+    {"zoriRGBToHLS_8u_C3R", cachedSize, Tier::avx512, 4.5, "OpenCV RGB2HLS_FULL"},
+    {"zoriRGBToHLS_8u_C3R", cachedSize, Tier::ssse3, 1, "OpenCV RGB2HLS_FULL"},
+    {"zoriHLSToRGB_8u_C3R", cachedSize, Tier::avx512, 4, "OpenCV HLS2RGB_FULL"},
+    {"zoriHLSToRGB_8u_C3R", cachedSize, Tier::ssse3, 1.2, "OpenCV HLS2RGB_FULL"},
+    {"zoriRGBToHSV_8u_C3R", cachedSize, Tier::avx512, 3.7, "OpenCV RGB2HSV_FULL"},
+    {"zoriRGBToHSV_8u_C3R", cachedSize, Tier::ssse3, 0.95, "OpenCV RGB2HSV_FULL"},
+    {"zoriHSVToRGB_8u_C3R", cachedSize, Tier::avx512, 3, "OpenCV HSV2RGB_FULL"},
+    {"zoriHSVToRGB_8u_C3R", cachedSize, Tier::ssse3, 1.2, "OpenCV HSV2RGB_FULL"},
+    {"zoriRGBToHLS_32f_C3R", cachedSize, Tier::avx512, 2, "OpenCV RGB2HLS"},
+    {"zoriRGBToHLS_32f_C3R", cachedSize, Tier::ssse3, 1, "OpenCV RGB2HLS"},
+    {"zoriHLSToRGB_32f_C3R", cachedSize, Tier::avx512, 2, "OpenCV HLS2RGB"},
+    {"zoriHLSToRGB_32f_C3R", cachedSize, Tier::ssse3, 1, "OpenCV HLS2RGB"},
 };
 
 // Conversions that only move samples: on the best tier multiples of a memcpy beyond the caches, on the lowest multiples
@@ -68,9 +80,16 @@ bool movesSamples(std::string_view function)
 }
 constexpr double moveRatio = 0.9;
 
-// On the lowest tier: multiples of any peer that is held to the same instructions, and Mpx/s of any function.
+// On the lowest tier: multiples of any peer that is held to the same instructions, and Mpx/s of any function that
+// computes with integers.
 constexpr double ssse3Ratio = 0.5;
 constexpr double ssse3Speed = 1000;
+
+bool usesFloats(std::string_view function)
+{
+    const std::string_view family = interface::findFunction(function)->family;
+    return family == "HLS and HSV";
+}
 
 bool same(ZorSize a, ZorSize b) { return a.width == b.width && a.height == b.height; }
 
@@ -114,7 +133,7 @@ bool checkTargets(const std::vector<Result>& results)
             if (peer.name == "memcpy" && same(result.size, frameSize) && movesSamples(result.function))
                 judge.judge(result, bestTier(), result.ours.at(bestTier()) / peer.speed, moveRatio, "x memcpy");
         }
-        if (same(result.size, cachedSize))
+        if (same(result.size, cachedSize) && !usesFloats(result.function))
             judge.judge(result, Tier::ssse3, result.ours.at(Tier::ssse3), ssse3Speed, "Mpx/s");
     }
     return judge.sum();

@@ -43,6 +43,16 @@ template <class Source, class Destination>
     return source.planeMissing() || destination.planeMissing() ? zorStatusNullPointer : zorStatusOk;
 }
 
+// The checks of the families that look at planes and steps before the size.
+template <class Source, class Destination>
+[[nodiscard]] inline ZorStatus checkPlanesAndSteps(Source source, int sourceStep, Destination destination,
+                                                   int destinationStep, ZorSize size)
+{
+    if (source.missing() || source.planeMissing() || destination.missing() || destination.planeMissing())
+        return zorStatusNullPointer;
+    return sourceStep < 1 || destinationStep < 1 ? zorStatusBadStep : checkSize(size);
+}
+
 // What a conversion of whole 2 x 2 blocks returns after its work.
 inline ZorStatus oddSizeStatus(ZorSize size)
 {

@@ -40,11 +40,45 @@ template <int parts> struct Widened {
     s32v part[parts];
 };
 
+template <int parts> struct Floats {
+    f32v part[parts];
+};
+
+template <int parts> ZORCC_INLINE Floats<parts> toFloat(const Widened<parts>& v)
+{
+    Floats<parts> f;
+    for (int p = 0; p < parts; ++p) f.part[p] = toFloat(v.part[p]);
+    return f;
+}
+
+// Vectors of samples of this type make that many of 32 bits.
+template <class Sample> inline constexpr int partsOf = 4 / int{sizeof(Sample)};
+
+#if defined(ZORCC_TIER_avx512)
+struct ZipOrder {
+    alignas(64) uint8_t byte[4][64]; // [part][byte of the part]: whose place it takes, in every fourth byte
+
+    constexpr ZipOrder() : byte{}
+    {
+        for (int p = 0; p < 4; ++p)
+            for (int i = 0; i < 64; ++i) byte[p][i] = static_cast<uint8_t>(i / 16 * 16 + 4 * p + i % 16 / 4);
+    }
+};
+constexpr ZipOrder zipped;
+#endif
+
 ZORCC_INLINE Widened<4> widen(u8v v)
 {
+#if defined(ZORCC_TIER_avx512)
+    Widened<4> wide; // one permutation each instead of one and a half zips
+    for (int p = 0; p < 4; ++p)
+        wide.part[p] = (s32v)_mm512_maskz_permutexvar_epi8(0x1111111111111111, reg(load(zipped.byte[p])), reg(v));
+    return wide;
+#else
     const u8v zero = {};
     const u16v low = (u16v)zipLow(v, zero), high = (u16v)zipHigh(v, zero), none = {};
     return {{(s32v)zipLow(low, none), (s32v)zipHigh(low, none), (s32v)zipLow(high, none), (s32v)zipHigh(high, none)}};
+#endif
 }
 
 ZORCC_INLINE Widened<2> widen(u16v v)
@@ -56,6 +90,21 @@ ZORCC_INLINE Widened<2> widen(u16v v)
 ZORCC_INLINE Widened<2> widen(s16v v) // the sign comes along
 {
     return {{(s32v)zipLow(v, v) >> 16, (s32v)zipHigh(v, v) >> 16}};
+}
+
+// `factor` times a difference that has wrapped, from its sign: 0, or all bits set.
+template <int factor> ZORCC_INLINE Floats<2> scaleDifference(u16v v, u16v sign)
+{
+    const auto scaled = [](u16v wide) { return toFloat((s32v)wide) * static_cast<float>(factor); };
+    return {{scaled(zipLow(v, sign)), scaled(zipHigh(v, sign))}};
+}
+
+template <int factor> ZORCC_INLINE Floats<4> scaleDifference(u8v v, u8v sign)
+{
+    const s16v low = (s16v)zipLow(v, sign), high = (s16v)zipHigh(v, sign), none = {};
+    const auto scaled = [](s16v pairs) { return toFloat(mulAddPairs(pairs, fillPair16(factor, 0))); };
+    return {{scaled(zipLow(low, none)), scaled(zipHigh(low, none)), scaled(zipLow(high, none)),
+             scaled(zipHigh(high, none))}};
 }
 
 // Saturated to the sample's range.
@@ -76,6 +125,38 @@ ZORCC_INLINE u16v narrowToU16(const Widened<2>& v)
     return (u16v)packSigned(a - 32768, b - 32768) ^ 0x8000;
 #else
     return (u16v)ZORCC_MM(packus_epi32)(reg(v.part[0]), reg(v.part[1]));
+#endif
+}
+
+template <class Sample> ZORCC_INLINE Vec<Sample> narrow(const Widened<partsOf<Sample>>& v)
+{
+    if constexpr (sizeof(Sample) == 1)
+        return narrowToU8(v);
+    else
+        return narrowToU16(v);
+}
+
+// ---- exact division ------------------------------------------------------------------------------------------------
+//
+// Correctly rounded, like the operator, on every tier. Where there is a fused multiply-add, a quotient from a rounded
+// reciprocal y is corrected by its exact remainder, q + (n - q d) y, which takes less time than the divider does.
+
+#if defined(ZORCC_TIER_avx512)
+ZORCC_INLINE f32v correctedQuotient(f32v n, f32v d, f32v y)
+{
+    const __m512 q = reg(n * y), rest = _mm512_fnmadd_ps(q, reg(d), reg(n));
+    return (f32v)_mm512_fmadd_ps(rest, reg(y), q);
+}
+#endif
+
+// v / divisor for finite v: y is the reciprocal rounded to nearest, hence so is the corrected quotient (Markstein).
+template <int divisor> ZORCC_INLINE f32v divideBy(f32v v)
+{
+    const f32v d = fillFloat(divisor);
+#if defined(ZORCC_TIER_avx512)
+    return correctedQuotient(v, d, fillFloat(1.0f / divisor));
+#else
+    return v / d;
 #endif
 }
 

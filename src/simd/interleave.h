@@ -3,6 +3,8 @@
 // touches exactly the bytes of vectorBytes pixels.
 #pragma once
 
+#include <type_traits>
+
 #include "simd/vec.h"
 
 namespace zorcc::ZORCC_TIER {
@@ -133,57 +135,115 @@ ZORCC_INLINE u8v unzipHalves(u8v v)
 }
 
 // ---- three channels -------------------------------------------------------------------------------------------------
+//
+// `size` is that of a sample in bytes. The order of columns is a choice for bytes only.
+
+template <class V> inline constexpr int sampleSize = sizeof(V{}[0]);
 
 #if defined(ZORCC_TIER_avx512)
 
-// Byte n of three consecutive vectors is channel n % 3 of pixel n / 3. As 64 leaves 1 when divided by 3, any position
-// holds channel c in exactly one of the three vectors: blending the vectors gathers a channel, one permutation sorts
-// it.
-struct Thirds {
-    alignas(64) uint8_t sort[3][64];       // [channel][pixel]: position of the pixel's byte in the gathered channel
-    alignas(64) uint8_t scatter[2][3][64]; // [order of columns][channel][position]: the pixel that belongs there
+// Sample n of three consecutive vectors is channel n % 3 of pixel n / 3. As the number of samples in a vector is not a
+// multiple of 3, any position holds channel c in exactly one of the three vectors: blending the vectors gathers a
+// channel, one permutation sorts it.
+template <int size> struct Thirds {
+    alignas(64) uint8_t sort[3][64];       // [channel][byte of a channel vector]: its position in the gathered channel
+    alignas(64) uint8_t scatter[2][3][64]; // [order of columns][channel][position]: the byte that belongs there
 
     constexpr Thirds() : sort{}, scatter{}
     {
-        for (int n = 0; n < 192; ++n) {
-            sort[n % 3][n / 3] = static_cast<uint8_t>(n % 64);
-            for (int columns = 0; columns < 2; ++columns)
-                scatter[columns][n % 3][n % 64] = static_cast<uint8_t>(placeOf(n / 3, Columns(columns)));
-        }
+        for (int n = 0; n < 192 / size; ++n)
+            for (int i = 0; i < size; ++i) {
+                const int position = n % (64 / size) * size + i;
+                sort[n % 3][n / 3 * size + i] = static_cast<uint8_t>(position);
+                for (int columns = 0; columns < 2; ++columns)
+                    scatter[columns][n % 3][position] = static_cast<uint8_t>(
+                        placeOf(n / 3, size == 1 ? Columns(columns) : Columns::inOrder) * size + i);
+            }
     }
 };
-constexpr Thirds thirds;
+template <int size> constexpr Thirds<size> thirds;
 
-// Positions p with p % 3 == r.
-constexpr __mmask64 everyThird(int r) { return 0x9249249249249249u << r; }
-
-// From three vectors: positions p from the one k with (k + p) % 3 == c.
-ZORCC_INLINE __m512i gatherThird(const __m512i (&v)[3], int c)
+// The bytes of sample positions p with p % 3 == r.
+constexpr __mmask64 everyThird(int size, int r)
 {
-    const __m512i two = _mm512_mask_mov_epi8(v[0], everyThird((c + 2) % 3), v[1]);
-    return _mm512_mask_mov_epi8(two, everyThird((c + 1) % 3), v[2]);
+    __mmask64 bytes = 0;
+    for (int p = r; p < 64 / size; p += 3) bytes |= ((__mmask64{1} << size) - 1) << p * size;
+    return bytes;
+}
+template <int size> constexpr __mmask64 third[] = {everyThird(size, 0), everyThird(size, 1), everyThird(size, 2)};
+
+// Sample position p of vector k belongs to channel (k * (64 / size) + p) % 3. The positions of channel c in it:
+template <int size> constexpr __mmask64 thirdOf(int c, int k) { return third<size>[(c + k * (3 - 64 / size % 3)) % 3]; }
+
+// Floats take two permutations of two vectors each, which is less than blending and permuting.
+struct FloatThirds {
+    alignas(64) int32_t sort[2][3][16];    // from vectors 0 and 1, from that and vector 2
+    alignas(64) int32_t scatter[2][3][16]; // from channels 0 and 1, from that and channel 2
+
+    constexpr FloatThirds() : sort{}, scatter{}
+    {
+        for (int c = 0; c < 3; ++c)
+            for (int i = 0; i < 16; ++i) {
+                const int n = 3 * i + c, m = 16 * c + i; // where channel c of pixel i is; what element i of vector c is
+                sort[0][c][i] = n < 32 ? n : 0;
+                sort[1][c][i] = n < 32 ? i : n - 16;
+                scatter[0][c][i] = m % 3 < 2 ? m % 3 * 16 + m / 3 : 0;
+                scatter[1][c][i] = m % 3 < 2 ? i : 16 + m / 3;
+            }
+    }
+};
+constexpr FloatThirds floatThirds;
+
+ZORCC_INLINE void permuteThirds(const int32_t (&first)[3][16], const int32_t (&second)[3][16], const __m512 (&from)[3],
+                                __m512 (&to)[3])
+{
+    for (int k = 0; k < 3; ++k) {
+        const __m512 two = _mm512_permutex2var_ps(from[0], _mm512_load_si512(first[k]), from[1]);
+        to[k] = _mm512_permutex2var_ps(two, _mm512_load_si512(second[k]), from[2]);
+    }
 }
 
-ZORCC_INLINE void deinterleave3(const uint8_t* p, u8v (&channel)[3])
+ZORCC_INLINE void deinterleave3(const uint8_t* p, Vec<float> (&channel)[3])
 {
+    const __m512 v[3] = {_mm512_loadu_ps(p), _mm512_loadu_ps(p + 64), _mm512_loadu_ps(p + 128)};
+    __m512 to[3];
+    permuteThirds(floatThirds.sort[0], floatThirds.sort[1], v, to);
+    for (int c = 0; c < 3; ++c) channel[c] = (Vec<float>)to[c];
+}
+
+template <Columns columns> ZORCC_INLINE void interleave3(uint8_t* p, const Vec<float> (&channel)[3])
+{
+    const __m512 c[3] = {(__m512)channel[0], (__m512)channel[1], (__m512)channel[2]};
+    __m512 to[3];
+    permuteThirds(floatThirds.scatter[0], floatThirds.scatter[1], c, to);
+    for (int k = 0; k < 3; ++k) _mm512_storeu_ps(p + 64 * k, to[k]);
+}
+
+template <class V> ZORCC_INLINE void deinterleave3(const uint8_t* p, V (&channel)[3])
+{
+    constexpr int size = sampleSize<V>;
     const __m512i v[3] = {reg(load(p)), reg(load(p + 64)), reg(load(p + 128))};
-    for (int c = 0; c < 3; ++c) channel[c] = (u8v)_mm512_permutexvar_epi8(reg(load(thirds.sort[c])), gatherThird(v, c));
+    for (int c = 0; c < 3; ++c)
+        channel[c] = (V)_mm512_permutexvar_epi8(
+            reg(load(thirds<size>.sort[c])),
+            _mm512_mask_mov_epi8(_mm512_mask_mov_epi8(v[0], thirdOf<size>(c, 1), v[1]), thirdOf<size>(c, 2), v[2]));
 }
 
-template <Columns columns> ZORCC_INLINE void interleave3(uint8_t* p, const u8v (&channel)[3])
+template <Columns columns, class V> ZORCC_INLINE void interleave3(uint8_t* p, const V (&channel)[3])
 {
+    constexpr int size = sampleSize<V>;
     __m512i v[3];
     for (int c = 0; c < 3; ++c)
-        v[c] = _mm512_permutexvar_epi8(reg(load(thirds.scatter[(int)columns][c])), reg(channel[c]));
-    // Vector k takes positions p of channel c with (k + p) % 3 == c: the same choice, with -k for c and -c for k.
-    const __m512i reversed[3] = {v[0], v[2], v[1]};
-    for (int k = 0; k < 3; ++k) store(p + 64 * k, (u8v)gatherThird(reversed, (3 - k) % 3));
+        v[c] = _mm512_permutexvar_epi8(reg(load(thirds<size>.scatter[(int)columns][c])), (__m512i)channel[c]);
+    for (int k = 0; k < 3; ++k)
+        store(p + 64 * k, (u8v)_mm512_mask_mov_epi8(_mm512_mask_mov_epi8(v[0], thirdOf<size>(1, k), v[1]),
+                                                    thirdOf<size>(2, k), v[2]));
 }
 
 #else
 
 // [channel][vector]: shuffles that move the channel's bytes of one of three vectors to their pixels, and back.
-struct Thirds {
+template <int size> struct Thirds {
     alignas(16) uint8_t sort[3][3][16];
     alignas(16) uint8_t scatter[2][3][3][16]; // [order of columns]...
 
@@ -192,37 +252,69 @@ struct Thirds {
         for (int c = 0; c < 3; ++c)
             for (int k = 0; k < 3; ++k)
                 for (int i = 0; i < 16; ++i) {
-                    const int n = 3 * i + c, m = 16 * k + i; // byte of pixel i; what byte i of vector k is
+                    // Byte of pixel i / size; sample that holds byte i of vector k.
+                    const int n = (3 * (i / size) + c) * size + i % size, m = (16 * k + i) / size;
                     sort[c][k][i] = static_cast<uint8_t>(n / 16 == k ? n % 16 : 0x80);
-                    for (int columns = 0; columns < 2; ++columns)
-                        scatter[columns][c][k][i] =
-                            static_cast<uint8_t>(m % 3 == c ? placeOf(m / 3, Columns(columns)) : 0x80);
+                    for (int columns = 0; columns < 2; ++columns) {
+                        const int place = placeOf(m / 3, size == 1 ? Columns(columns) : Columns::inOrder);
+                        scatter[columns][c][k][i] = static_cast<uint8_t>(m % 3 == c ? place * size + i % size : 0x80);
+                    }
                 }
     }
 };
-constexpr Thirds thirds;
+template <int size> constexpr Thirds<size> thirds;
 
 ZORCC_INLINE u8v shuffleTable(u8v v, const uint8_t (&index)[16])
 {
     return shuffle(v, fillBlock(_mm_load_si128((const __m128i*)index)));
 }
 
-ZORCC_INLINE void deinterleave3(const uint8_t* p, u8v (&channel)[3])
+template <class V> ZORCC_INLINE void deinterleave3(const uint8_t* p, V (&channel)[3])
 {
     u8v v[3];
     loadBlocks(p, v);
-    for (int c = 0; c < 3; ++c)
-        channel[c] = shuffleTable(v[0], thirds.sort[c][0]) | shuffleTable(v[1], thirds.sort[c][1]) |
-                     shuffleTable(v[2], thirds.sort[c][2]);
+    for (int c = 0; c < 3; ++c) {
+        const auto& sort = thirds<sampleSize<V>>.sort[c];
+        channel[c] = (V)(shuffleTable(v[0], sort[0]) | shuffleTable(v[1], sort[1]) | shuffleTable(v[2], sort[2]));
+    }
 }
 
-template <Columns columns> ZORCC_INLINE void interleave3(uint8_t* p, const u8v (&channel)[3])
+template <Columns columns, class V> ZORCC_INLINE void interleave3(uint8_t* p, const V (&channel)[3])
 {
-    const auto& scatter = thirds.scatter[(int)columns];
+    const auto& scatter = thirds<sampleSize<V>>.scatter[(int)columns];
     u8v v[3];
     for (int k = 0; k < 3; ++k)
-        v[k] = shuffleTable(channel[0], scatter[0][k]) | shuffleTable(channel[1], scatter[1][k]) |
-               shuffleTable(channel[2], scatter[2][k]);
+        v[k] = shuffleTable((u8v)channel[0], scatter[0][k]) | shuffleTable((u8v)channel[1], scatter[1][k]) |
+               shuffleTable((u8v)channel[2], scatter[2][k]);
+    storeBlocks(p, v);
+}
+
+// Floats, two of one vector and two of another at a time.
+template <int a, int b, int c, int d> ZORCC_INLINE Vec<float> pick(Vec<float> v, Vec<float> w)
+{
+    return (Vec<float>)ZORCC_MM(shuffle_ps)((decltype(ZORCC_MM(setzero_ps)()))v, (decltype(ZORCC_MM(setzero_ps)()))w,
+                                            _MM_SHUFFLE(d, c, b, a));
+}
+
+ZORCC_INLINE void deinterleave3(const uint8_t* p, Vec<float> (&channel)[3])
+{
+    u8v bytes[3];
+    loadBlocks(p, bytes);
+    using V = Vec<float>;
+    const V u = (V)bytes[0], v = (V)bytes[1], w = (V)bytes[2]; // A0 B0 C0 A1, B1 C1 A2 B2, C2 A3 B3 C3
+    channel[0] = pick<0, 3, 0, 2>(u, pick<2, 2, 1, 1>(v, w));
+    channel[1] = pick<0, 2, 0, 2>(pick<1, 1, 0, 0>(u, v), pick<3, 3, 2, 2>(v, w));
+    channel[2] = pick<0, 2, 0, 3>(pick<2, 2, 1, 1>(u, v), w);
+}
+
+template <Columns columns> ZORCC_INLINE void interleave3(uint8_t* p, const Vec<float> (&channel)[3])
+{
+    using V = Vec<float>;
+    const V a = channel[0], b = channel[1], c = channel[2];
+    const V ca = pick<0, 2, 1, 3>(c, a); // C0 C2 A1 A3
+    const u8v v[3] = {(u8v)pick<0, 1, 0, 2>(zipLow(a, b), ca),
+                      (u8v)pick<0, 2, 0, 1>(pick<1, 1, 1, 1>(b, c), zipHigh(a, b)),
+                      (u8v)pick<1, 3, 2, 3>(ca, zipHigh(b, c))};
     storeBlocks(p, v);
 }
 
@@ -230,68 +322,83 @@ template <Columns columns> ZORCC_INLINE void interleave3(uint8_t* p, const u8v (
 
 // ---- four channels --------------------------------------------------------------------------------------------------
 
-#if defined(ZORCC_TIER_avx512)
-struct Quarters {
-    alignas(64) uint8_t sort[64]; // block c: channel c of the vector's 16 pixels
+// Bytes of pixels sorted by channel, and the way back: of the 64 bytes of a vector, or of the 16 of a block.
+template <int size, int bytes> struct Quarters {
+    alignas(64) uint8_t sort[bytes]; // quarter c: channel c of the pixels
+    alignas(64) uint8_t scatter[bytes];
 
-    constexpr Quarters() : sort{}
+    constexpr Quarters() : sort{}, scatter{}
     {
-        for (int n = 0; n < 64; ++n) sort[n % 4 * 16 + n / 4] = static_cast<uint8_t>(n);
+        for (int n = 0; n < bytes; ++n) {
+            const int sample = n / size, sorted = sample % 4 * (bytes / 4) + sample / 4 * size + n % size;
+            sort[sorted] = static_cast<uint8_t>(n);
+            scatter[n] = static_cast<uint8_t>(sorted);
+        }
     }
 };
-constexpr Quarters quarters;
-#endif
-
-ZORCC_INLINE void deinterleave4(const uint8_t* p, u8v (&channel)[4])
-{
 #if defined(ZORCC_TIER_avx512)
-    __m512i v[4]; // each with its 16 pixels sorted by channel, a block each
-    for (int k = 0; k < 4; ++k) v[k] = _mm512_permutexvar_epi8(reg(load(quarters.sort)), reg(load(p + 64 * k)));
+template <int size> constexpr Quarters<size, 64> quarters;
+
+// Block i of vector k becomes block k of vector i.
+ZORCC_INLINE void transposeBlocks(__m512i (&v)[4])
+{
     const __m512i low01 = _mm512_shuffle_i32x4(v[0], v[1], 0x44), low23 = _mm512_shuffle_i32x4(v[2], v[3], 0x44);
     const __m512i high01 = _mm512_shuffle_i32x4(v[0], v[1], 0xee), high23 = _mm512_shuffle_i32x4(v[2], v[3], 0xee);
-    channel[0] = (u8v)_mm512_shuffle_i32x4(low01, low23, 0x88);
-    channel[1] = (u8v)_mm512_shuffle_i32x4(low01, low23, 0xdd);
-    channel[2] = (u8v)_mm512_shuffle_i32x4(high01, high23, 0x88);
-    channel[3] = (u8v)_mm512_shuffle_i32x4(high01, high23, 0xdd);
+    v[0] = _mm512_shuffle_i32x4(low01, low23, 0x88);
+    v[1] = _mm512_shuffle_i32x4(low01, low23, 0xdd);
+    v[2] = _mm512_shuffle_i32x4(high01, high23, 0x88);
+    v[3] = _mm512_shuffle_i32x4(high01, high23, 0xdd);
+}
+#else
+template <int size> constexpr Quarters<size, 16> quarters;
+#endif
+
+template <class V> ZORCC_INLINE void deinterleave4(const uint8_t* p, V (&channel)[4])
+{
+    constexpr int size = sampleSize<V>;
+#if defined(ZORCC_TIER_avx512)
+    __m512i v[4]; // each with its pixels sorted by channel, a block each
+    for (int k = 0; k < 4; ++k) v[k] = _mm512_permutexvar_epi8(reg(load(quarters<size>.sort)), reg(load(p + 64 * k)));
+    transposeBlocks(v);
 #else
     u8v v[4];
     loadBlocks(p, v);
-    const u8v byChannel = fillBlock(_mm_setr_epi8(0, 4, 8, 12, 1, 5, 9, 13, 2, 6, 10, 14, 3, 7, 11, 15));
-    for (u8v& pixels : v) pixels = shuffle(pixels, byChannel);
+    if constexpr (size < 4)
+        for (u8v& pixels : v) pixels = shuffleTable(pixels, quarters<size>.sort);
     const u32v low01 = zipLow((u32v)v[0], (u32v)v[1]), low23 = zipLow((u32v)v[2], (u32v)v[3]);
     const u32v high01 = zipHigh((u32v)v[0], (u32v)v[1]), high23 = zipHigh((u32v)v[2], (u32v)v[3]);
-    channel[0] = (u8v)zipLow((u64v)low01, (u64v)low23);
-    channel[1] = (u8v)zipHigh((u64v)low01, (u64v)low23);
-    channel[2] = (u8v)zipLow((u64v)high01, (u64v)high23);
-    channel[3] = (u8v)zipHigh((u64v)high01, (u64v)high23);
+    v[0] = (u8v)zipLow((u64v)low01, (u64v)low23);
+    v[1] = (u8v)zipHigh((u64v)low01, (u64v)low23);
+    v[2] = (u8v)zipLow((u64v)high01, (u64v)high23);
+    v[3] = (u8v)zipHigh((u64v)high01, (u64v)high23);
 #endif
+    for (int k = 0; k < 4; ++k) channel[k] = (V)v[k];
 }
 
-// With keepFourth channel 3 is zero, and the fourth byte of every pixel stays as it is in memory.
-template <bool keepFourth> ZORCC_INLINE void interleave4(uint8_t* p, const u8v (&channel)[4])
+// With keepFourth channel 3 is zero, and the fourth sample of every pixel stays as it is in memory.
+template <bool keepFourth, class V> ZORCC_INLINE void interleave4(uint8_t* p, const V (&channel)[4])
 {
-    u8v c[4];
-    for (int k = 0; k < 4; ++k) {
+    constexpr int size = sampleSize<V>;
 #if defined(ZORCC_TIER_avx512)
-        // The zips below work on quarters of blocks; hand them the quarters that make whole vectors in order.
-        const __m512i order = _mm512_setr_epi32(0, 4, 8, 12, 1, 5, 9, 13, 2, 6, 10, 14, 3, 7, 11, 15);
-        c[k] = (u8v)_mm512_permutexvar_epi32(order, reg(channel[k]));
+    __m512i v[4] = {(__m512i)channel[0], (__m512i)channel[1], (__m512i)channel[2], (__m512i)channel[3]};
+    transposeBlocks(v);
+    constexpr __mmask64 written = !keepFourth ? ~__mmask64{}
+                                  : size == 1 ? 0x7777777777777777u
+                                  : size == 2 ? 0x3f3f3f3f3f3f3f3fu
+                                              : 0x0fff0fff0fff0fffu;
+    for (int k = 0; k < 4; ++k)
+        _mm512_mask_storeu_epi8(p + 64 * k, written, _mm512_permutexvar_epi8(reg(load(quarters<size>.scatter)), v[k]));
 #else
-        c[k] = channel[k];
-#endif
-    }
-    const u16v low01 = (u16v)zipLow(c[0], c[1]), low23 = (u16v)zipLow(c[2], c[3]);
-    const u16v high01 = (u16v)zipHigh(c[0], c[1]), high23 = (u16v)zipHigh(c[2], c[3]);
+    using Pairs = Vec<std::conditional_t<size == 1, uint16_t, std::conditional_t<size == 2, uint32_t, uint64_t>>>;
+    const Pairs low01 = (Pairs)zipLow(channel[0], channel[1]), low23 = (Pairs)zipLow(channel[2], channel[3]);
+    const Pairs high01 = (Pairs)zipHigh(channel[0], channel[1]), high23 = (Pairs)zipHigh(channel[2], channel[3]);
     u8v v[4] = {(u8v)zipLow(low01, low23), (u8v)zipHigh(low01, low23), (u8v)zipLow(high01, high23),
                 (u8v)zipHigh(high01, high23)};
-#if defined(ZORCC_TIER_avx512)
-    constexpr __mmask64 written = keepFourth ? 0x7777777777777777u : ~__mmask64{};
-    for (int k = 0; k < 4; ++k) _mm512_mask_storeu_epi8(p + 64 * k, written, reg(v[k]));
-#else
     if constexpr (keepFourth) {
-        u8v old[4];
+        u8v old[4], fourth;
+        for (int i = 0; i < vectorBytes; ++i) fourth[i] = i / size % 4 == 3 ? 0xff : 0;
         loadBlocks(p, old);
-        for (int k = 0; k < 4; ++k) v[k] |= (u8v)((u32v)old[k] & 0xff000000u);
+        for (int k = 0; k < 4; ++k) v[k] |= old[k] & fourth;
     }
     storeBlocks(p, v);
 #endif

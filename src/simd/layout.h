@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-// What all memory layouts share. A layout turns the next vectorBytes pixels of a row into vectors of one channel each,
-// or back; a conversion is a source layout, a formula and a destination layout (row_loop.h).
+// What all memory layouts share. A layout turns the next pixels of a row, as many as a vector holds samples, into
+// vectors of one channel each, or back; a conversion is a source layout, a formula and a destination layout
+// (row_loop.h).
 //
 // A layout also says how many bytes its planes hold for a pixel, or for a group of pixels that share a sample: all that
 // is needed to move along a row and to stage its end. Where two rows are converted together they are planes of one
@@ -8,6 +9,7 @@
 #pragma once
 
 #include <stddef.h>
+#include <type_traits>
 
 #include "frame/steps.h"
 #include "simd/interleave.h"
@@ -18,10 +20,10 @@ namespace {
 
 // ---- what layouts hand to formulas, and formulas to layouts ---------------------------------------------------------
 
-// The channels of vectorBytes pixels of one row or of two. Where a formula works on even and odd columns apart, a
-// layout may take them so; the others get them in order.
-template <int channels, int rows = 1, Columns columns = Columns::inOrder> struct Pixels {
-    u8v c[rows][channels];
+// The channels of the next pixels of one row or of two. Where a formula works on even and odd columns apart, a layout
+// may take them so; the others get them in order.
+template <int channels, int rows = 1, Columns columns = Columns::inOrder, class Sample = uint8_t> struct Pixels {
+    Vec<Sample> c[rows][channels];
 
     operator Pixels<channels, rows, Columns::inOrder>() const requires(columns == Columns::evenThenOdd)
     {
@@ -31,6 +33,8 @@ template <int channels, int rows = 1, Columns columns = Columns::inOrder> struct
         return ordered;
     }
 };
+
+template <class Sample, int channels = 3> using Samples = Pixels<channels, 1, Columns::inOrder, Sample>;
 
 template <int channels>
 ZORCC_INLINE Pixels<channels, 2> stack(const Pixels<channels>& upper, const Pixels<channels>& lower)
@@ -69,6 +73,9 @@ struct Unit {
 
     constexpr ptrdiff_t offset(int pixels) const { return static_cast<ptrdiff_t>(pixels >> log2Pixels) * bytes; }
 };
+
+// Layouts name the type of their samples, const in a source, but move in bytes.
+template <class Sample> using BytesOf = std::conditional_t<std::is_const_v<Sample>, In, Out>;
 
 // One row of every plane.
 template <class B, Unit... units> struct Rows {

@@ -92,13 +92,16 @@ ZORCC_INLINE u8v fillBlock(__m128i block)
 // a0 b0 + a1 b1 of each pair of bytes; the caller's coefficients keep the sum within 16 bits (it would saturate).
 ZORCC_INLINE s16v mulAddPairs(u8v a, s8v b) { return (s16v)ZORCC_MM(maddubs_epi16)(reg(a), reg(b)); }
 
+// a0 b0 + a1 b1 of each pair of 16-bit elements.
+ZORCC_INLINE s32v mulAddPairs(s16v a, s16v b) { return (s32v)ZORCC_MM(madd_epi16)(reg(a), reg(b)); }
+
 // sum + a0 b0 + a1 b1 of each pair of 16-bit elements.
 ZORCC_INLINE s32v mulAddPairs(s32v sum, s16v a, s16v b)
 {
 #if defined(ZORCC_TIER_avx512)
     return (s32v)_mm512_dpwssd_epi32(reg(sum), reg(a), reg(b));
 #else
-    return sum + (s32v)ZORCC_MM(madd_epi16)(reg(a), reg(b));
+    return sum + mulAddPairs(a, b);
 #endif
 }
 
@@ -126,6 +129,24 @@ ZORCC_INLINE u8v averageDown(u8v a, u8v b) { return averageUp(a, b) - ((a ^ b) &
 ZORCC_INLINE u8v addSaturate(u8v a, u8v b) { return (u8v)ZORCC_MM(adds_epu8)(reg(a), reg(b)); }
 ZORCC_INLINE u8v subSaturate(u8v a, u8v b) { return (u8v)ZORCC_MM(subs_epu8)(reg(a), reg(b)); }
 
+ZORCC_INLINE u16v addSaturate(u16v a, u16v b) { return (u16v)ZORCC_MM(adds_epu16)(reg(a), reg(b)); }
+ZORCC_INLINE u16v subSaturate(u16v a, u16v b) { return (u16v)ZORCC_MM(subs_epu16)(reg(a), reg(b)); }
+
+ZORCC_INLINE u8v minimum(u8v a, u8v b) { return (u8v)ZORCC_MM(min_epu8)(reg(a), reg(b)); }
+ZORCC_INLINE u8v maximum(u8v a, u8v b) { return (u8v)ZORCC_MM(max_epu8)(reg(a), reg(b)); }
+
+#if defined(ZORCC_TIER_ssse3)
+ZORCC_INLINE u16v minimum(u16v a, u16v b) { return a - subSaturate(a, b); }
+ZORCC_INLINE u16v maximum(u16v a, u16v b) { return b + subSaturate(a, b); }
+#else
+ZORCC_INLINE u16v minimum(u16v a, u16v b) { return (u16v)ZORCC_MM(min_epu16)(reg(a), reg(b)); }
+ZORCC_INLINE u16v maximum(u16v a, u16v b) { return (u16v)ZORCC_MM(max_epu16)(reg(a), reg(b)); }
+#endif
+
+// floor((a + b + 1) / 2)
+ZORCC_INLINE u8v average(u8v a, u8v b) { return (u8v)ZORCC_MM(avg_epu8)(reg(a), reg(b)); }
+ZORCC_INLINE u16v average(u16v a, u16v b) { return (u16v)ZORCC_MM(avg_epu16)(reg(a), reg(b)); }
+
 ZORCC_INLINE u8v clamp(u8v v, int low, int high)
 {
     return (u8v)ZORCC_MM(max_epu8)(ZORCC_MM(min_epu8)(reg(v), reg(fill8(high))), reg(fill8(low)));
@@ -135,6 +156,9 @@ ZORCC_INLINE u8v clamp(u8v v, int low, int high)
 ZORCC_INLINE u8v packUnsigned(s16v lo, s16v hi) { return (u8v)ZORCC_MM(packus_epi16)(reg(lo), reg(hi)); }
 ZORCC_INLINE s8v packSigned(s16v lo, s16v hi) { return (s8v)ZORCC_MM(packs_epi16)(reg(lo), reg(hi)); }
 ZORCC_INLINE s16v packSigned(s32v lo, s32v hi) { return (s16v)ZORCC_MM(packs_epi32)(reg(lo), reg(hi)); }
+
+// Per lane: a where all bits of the mask are set, b where none is.
+template <class V> ZORCC_INLINE V select(V mask, V a, V b) { return (a & mask) | (b & ~mask); }
 
 // ---- order ---------------------------------------------------------------------------------------------------------
 

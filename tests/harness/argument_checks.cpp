@@ -17,22 +17,38 @@ constexpr ZorSize goodSize{40, 16}; // whole blocks of every function
 
 // One faulty argument. The faults of a function stand in the order of its checks.
 struct Fault {
-    enum Kind { nullImage, badSize, nullPlane } kind;
+    enum Kind { nullImage, badSize, badStep, nullPlane } kind;
     bool ofDestination = false;
     int plane = 0;
 
-    ZorStatus status() const { return kind == badSize ? zorStatusBadSize : zorStatusNullPointer; }
+    ZorStatus status() const
+    {
+        return kind == badSize ? zorStatusBadSize : kind == badStep ? zorStatusBadStep : zorStatusNullPointer;
+    }
 };
 
-std::vector<Fault> faultsOf(const Function& function, reference::Checks checks)
+std::vector<Fault> faultsOf(const reference::Case& c, const Function& function)
 {
-    std::vector<Fault> faults = {{Fault::nullImage, false}, {Fault::nullImage, true}, {Fault::badSize}};
+    std::vector<Fault> faults;
     // The first plane of separate pointers stands for the image.
-    for (int p = !function.signature.sourceArray; p < function.source->planes; ++p)
-        faults.push_back({Fault::nullPlane, false, p});
-    for (int p = !function.signature.destinationArray; p < function.destination->planes; ++p)
-        faults.push_back({Fault::nullPlane, true, p});
-    if (checks == reference::Checks::pointersSize) std::rotate(faults.begin() + 2, faults.begin() + 3, faults.end());
+    const auto addPlanes = [&](bool ofDestination) {
+        const bool array = ofDestination ? function.signature.destinationArray : function.signature.sourceArray;
+        for (int p = !array; p < (ofDestination ? function.destination : function.source)->planes; ++p)
+            faults.push_back({Fault::nullPlane, ofDestination, p});
+    };
+    faults.push_back({Fault::nullImage, false});
+    if (c.checks == reference::Checks::stepsFirst) {
+        addPlanes(false);
+        faults.push_back({Fault::nullImage, true});
+        addPlanes(true);
+        faults.insert(faults.end(), {{Fault::badStep, false}, {Fault::badStep, true}, {Fault::badSize}});
+    } else {
+        faults.push_back({Fault::nullImage, true});
+        if (c.checks == reference::Checks::sizeFirst) faults.push_back({Fault::badSize});
+        addPlanes(false);
+        addPlanes(true);
+        if (c.checks == reference::Checks::pointersFirst) faults.push_back({Fault::badSize});
+    }
     return faults;
 }
 
@@ -65,6 +81,8 @@ ZorStatus call(const Function& function, const Images& images, const std::vector
         const bool array = fault.ofDestination ? function.signature.destinationArray : function.signature.sourceArray;
         if (fault.kind == Fault::badSize)
             arguments.size = badSize;
+        else if (fault.kind == Fault::badStep)
+            (fault.ofDestination ? to : from).step[0] = std::min(badSize.width, badSize.height);
         else if (fault.kind == Fault::nullImage && array)
             arguments.nullArrays[fault.ofDestination] = true;
         else
@@ -75,10 +93,10 @@ ZorStatus call(const Function& function, const Images& images, const std::vector
 
 } // namespace
 
-testing::AssertionResult checkFaultyArguments(const Function& function, reference::Checks checks)
+testing::AssertionResult checkFaultyArguments(const reference::Case& c, const Function& function)
 {
     const Images images(function);
-    const std::vector<Fault> faults = faultsOf(function, checks);
+    const std::vector<Fault> faults = faultsOf(c, function);
     constexpr ZorSize badSizes[] = {{0, 4}, {40, 0}, {-1, 4}, {40, -1}, {0, 0}, {INT_MIN, 4}, {40, INT_MIN}};
     for (unsigned chosen = 1; chosen < 1u << faults.size(); ++chosen)
         for (const ZorSize badSize : badSizes) {

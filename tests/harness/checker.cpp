@@ -27,12 +27,19 @@ std::string steps(const TestImage& image)
 
 } // namespace
 
+// Where steps are checked they must not be negative.
+Arrangement Checker::allowed(Arrangement arrangement) const
+{
+    arrangement.upwards &= expectation.checks != reference::Checks::stepsFirst;
+    return arrangement;
+}
+
 std::string Checker::heading(const Trial& trial, Tier tier) const
 {
     std::ostringstream text;
     text << tested.name << " on " << nameOf(tier) << ", " << trial.size.width << "x" << trial.size.height << ", "
-         << describe(trial.contents) << " (seed " << trial.seed << "), source: " << describe(trial.source) << " ("
-         << steps(source) << "), destination: " << describe(trial.destination) << " ("
+         << describe(trial.contents) << " (seed " << trial.seed << "), source: " << describe(allowed(trial.source))
+         << " (" << steps(source) << "), destination: " << describe(allowed(trial.destination)) << " ("
          << steps(destination.planes() > 0 ? destination : source) << "): ";
     return text.str();
 }
@@ -63,12 +70,13 @@ AssertionResult Checker::check(const Trial& trial)
 AssertionResult Checker::check(const Trial& trial, const std::function<void(TestImage& source)>& fillSource)
 {
     const ZorSize used = reference::usedSize(expectation, trial.size);
-    source.arrange(*tested.source, trial.size, used, trial.source, sourceSteps(tested.signature));
+    source.arrange(*tested.source, trial.size, used, allowed(trial.source), sourceSteps(tested.signature));
     source.fillPattern(trial.seed);
     fillSource(source);
     source.copyToShadow();
 
-    destination.arrange(*tested.destination, trial.size, used, trial.destination, destinationSteps(tested.signature));
+    destination.arrange(*tested.destination, trial.size, used, allowed(trial.destination),
+                        destinationSteps(tested.signature));
     destination.fillPattern(trial.seed + 1);
     destination.copyToShadow();
     reference::convert(expectation, tested, source.image(), destination.shadow(), trial.size, extra);
@@ -85,7 +93,7 @@ AssertionResult Checker::check(const Trial& trial, const std::function<void(Test
 AssertionResult Checker::checkInPlace(const Trial& trial)
 {
     const ZorSize used = reference::usedSize(expectation, trial.size);
-    source.arrange(*tested.source, trial.size, used, trial.source, sourceSteps(tested.signature));
+    source.arrange(*tested.source, trial.size, used, allowed(trial.source), sourceSteps(tested.signature));
     const auto fillSource = [&] {
         source.fillPattern(trial.seed);
         fill(source, trial.contents, trial.seed);

@@ -11,7 +11,7 @@ namespace {
 // At least one block; what does not fill one is cut off.
 constexpr Case inBlocks(std::string_view name, Reference reference, ZorSize block)
 {
-    return {name, reference, OddSize::cutOff, block, block, Checks::pointersSize};
+    return {name, reference, OddSize::cutOff, Checks::pointersFirst, block, block};
 }
 
 constexpr Case cases[] = {

@@ -25,7 +25,7 @@ string_view take(string_view& text, const std::vector<string_view>& words)
     return {};
 }
 
-const std::vector<string_view> models = {"RGB", "BGR", "YUV", "YCbCr", "YCrCb", "CbYCr"};
+const std::vector<string_view> models = {"RGB", "BGR", "YUV", "YCbCr", "YCrCb", "CbYCr", "HLS", "HSV"};
 const std::vector<string_view> packings = {"422", "420", "411", "1620", "565"};
 const std::vector<string_view> variants = {"709CSC_", "709HDTV_", "Filter_", "Interlace_"};
 const std::vector<string_view> types = {"8u", "16u", "16s", "32s", "32f"};
@@ -81,6 +81,8 @@ void expectImage(const Name& name, int i, const Format& format, bool array, bool
     const Model model = rgb                          ? Model::rgb
                         : !isRgb(1 - i)              ? Model::anyYcc
                         : name.model[i] == "YUV"     ? Model::yuv
+                        : name.model[i] == "HLS"     ? Model::hls
+                        : name.model[i] == "HSV"     ? Model::hsv
                         : name.variant == "709CSC_"  ? Model::bt709
                         : name.variant == "709HDTV_" ? Model::bt709full
                                                      : Model::bt601;

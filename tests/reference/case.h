@@ -22,16 +22,17 @@ enum class OddSize {
 
 // In which order arguments are checked.
 enum class Checks {
-    imagesSizePlanes, // the planes of an array after the size
-    pointersSize      // every pointer, then the size
+    sizeFirst,     // images, size, planes of arrays
+    pointersFirst, // images and planes, size
+    stepsFirst     // image after image with its planes, steps, size
 };
 
 struct Case {
     std::string_view name; // of the exported function
     Reference reference;
     OddSize oddSize = OddSize::plain;
+    Checks checks = Checks::sizeFirst;
     ZorSize block = {2, 2}, minimum = {1, 1};
-    Checks checks = Checks::imagesSizePlanes;
 };
 
 inline ZorStatus statusOf(const Case& c, ZorSize size)

@@ -24,6 +24,10 @@ std::string_view channelNames(Model model)
     case Model::bt709full:
     case Model::anyYcc:
         return "YUVA";
+    case Model::hls:
+        return "HLSA";
+    case Model::hsv:
+        return "HSVA";
     }
     throw std::logic_error("unknown colour model");
 }
@@ -42,7 +46,7 @@ Field fieldOf(const Format& format, int channel)
 } // namespace
 
 Pixels::Pixels(const Format& format, const Image& image, ZorSize imageSize)
-    : size(imageSize), sampleBytes(interface::sampleBytes(format.sample))
+    : size(imageSize), sampleType(format.sample), sampleBytes(interface::sampleBytes(format.sample))
 {
     const std::string_view names = channelNames(format.model);
     for (int c = 0; c < channels; ++c) {
@@ -108,6 +112,7 @@ int Pixels::get(int channel, int x, int y) const
     if (sampleBytes == 1) return *sample;
     std::uint16_t word;
     std::memcpy(&word, sample, sizeof word);
+    if (sampleType == Sample::s16) return static_cast<std::int16_t>(word);
     const Place& p = place[channel];
     return p.bits == 0 ? word : (word >> p.shift & ((1 << p.bits) - 1)) << (8 - p.bits);
 }
@@ -115,6 +120,11 @@ int Pixels::get(int channel, int x, int y) const
 void Pixels::put(int channel, int x, int y, int value)
 {
     std::uint8_t* const sample = at(channel, x, y);
+    if (sampleType == Sample::s16 && value >= -32768 && value <= 32767) {
+        const auto word = static_cast<std::int16_t>(value);
+        std::memcpy(sample, &word, sizeof word);
+        return;
+    }
     if (value < 0 || value >> 8 * (place[channel].bits == 0 ? sampleBytes : 1) != 0)
         throw std::out_of_range("reference: value outside its sample");
     if (sampleBytes == 1) {
@@ -130,5 +140,14 @@ void Pixels::put(int channel, int x, int y, int value)
     }
     std::memcpy(sample, &word, sizeof word);
 }
+
+float Pixels::getFloat(int channel, int x, int y) const
+{
+    float value;
+    std::memcpy(&value, at(channel, x, y), sizeof value);
+    return value;
+}
+
+void Pixels::putFloat(int channel, int x, int y, float value) { std::memcpy(at(channel, x, y), &value, sizeof value); }
 
 } // namespace zorcc::reference

@@ -11,6 +11,7 @@ namespace zorcc::reference {
 
 // Channels by what they mean, whatever their order in memory.
 enum Channel { red = 0, green = 1, blue = 2, luma = 0, chromaU = 1, chromaV = 2, alpha = 3 };
+enum HexconeChannel { hue = 0, lightness = 1, hlsSaturation = 2, hsvSaturation = 1, value = 2 };
 inline constexpr int channels = 4;
 
 class Pixels {
@@ -26,8 +27,14 @@ public:
     // The pixels that share a sample of the channel.
     ZorSize shared(int channel) const { return {1 << place[channel].log2X, 1 << place[channel].log2Y}; }
 
+    interface::Sample sample() const { return sampleType; }
+
     int get(int channel, int x, int y) const;
     void put(int channel, int x, int y, int value);
+
+    // The same of images of floats.
+    float getFloat(int channel, int x, int y) const;
+    void putFloat(int channel, int x, int y, float value);
 
 private:
     // The sample of pixel (x, y) starts at plane + (y >> log2Y) * step + (x >> log2X) * stride + offset. In a format
@@ -44,6 +51,7 @@ private:
     };
     Place place[channels];
     ZorSize size;
+    interface::Sample sampleType;
     int sampleBytes;
 
     std::uint8_t* at(int channel, int x, int y) const;

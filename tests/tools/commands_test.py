@@ -78,6 +78,13 @@ class Call(unittest.TestCase):
         zorcc("call", "zoriRGBToYUV_8u_C3R", "colours.ppm", "colours.yuv")
         self.assertEqual(list(read("colours.yuv")), [255, 128, 128, 29, 239, 102, 76, 90, 255])
 
+    def test_hexcone_colours(self):
+        write_ppm("colours.ppm", 4, 1, [200, 100, 50, 77, 77, 77, 0, 0, 255, 200, 90, 70])
+        zorcc("call", "zoriRGBToHLS_8u_C3R", "colours.ppm", "hls.raw")
+        self.assertEqual(list(read("hls.raw")), [14, 125, 153, 0, 77, 0, 170, 127, 255, 6, 135, 138])
+        zorcc("call", "zoriRGBToHSV_8u_C3R", "colours.ppm", "hsv.raw")
+        self.assertEqual(list(read("hsv.raw")), [14, 191, 200, 0, 0, 77, 170, 255, 255, 6, 165, 200])
+
     def test_planes(self):
         write_ppm("colours.ppm", 3, 1, [255, 255, 255, 0, 0, 255, 255, 0, 0])
         zorcc("call", "zoriRGBToYUV_8u_C3P3R", "colours.ppm", "y.pgm", "u.pgm", "v.pgm")
@@ -148,6 +155,19 @@ class Convert(unittest.TestCase):
                     zorcc("convert", picture, "there.yuv", "--to", target)
                     zorcc("convert", "--size", size, "--format", target, "there.yuv", "back.png")
                     self.assertGreater(compare(picture, "back.png")["all"][0], floor)
+
+    def test_hexcone_models_there_and_back(self):
+        """By the function of the format's own samples: wide ones lose nothing."""
+        write_ppm("smooth.ppm", 200, 100, smooth(200, 100))
+        for target, function, floor in (("hls24", "8u_C3R", 45), ("hsv24", "8u_C3R", 45), ("hls444p", "8u_C3P3R", 45),
+                                        ("hls48", "16u_C3R", math.inf), ("hls48s", "16s_C3R", math.inf),
+                                        ("hsv48", "16u_C3R", math.inf), ("hlsf32", "32f_C3R", math.inf)):
+            with self.subTest(target):
+                line = zorcc("convert", "smooth.ppm", "there.raw", "--to", target, "--stats")
+                self.assertIn("GBTo" if target != "hls444p" else "BGRTo", line)
+                self.assertIn("_" + function + ":", line)
+                zorcc("convert", "--size", "200x100", "--format", target, "there.raw", "back.png", "--to", "rgb24")
+                self.assertGreaterEqual(compare("smooth.ppm", "back.png")["all"][0], floor)
 
     def test_odd_sizes_lose_nothing(self):
         for width, height in ((1, 1), (3, 5), (641, 481), (2, 7), (9, 1)):

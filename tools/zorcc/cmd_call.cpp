@@ -76,8 +76,9 @@ void call(const CallOptions& options)
             if (!rearrangementCost(picture->format(), source))
                 throw Cause("the file holds " + std::string(picture->format().name) + ", but " + options.function +
                             " takes " + std::string(source.name) +
-                            (isRgb(source) ? ": give a PNG, JPEG or PPM file, or a headerless one with --size WxH"
-                                           : ": give a Y4M file, or a headerless one with --size WxH"));
+                            (isRgb(source)   ? ": give a PNG, JPEG or PPM file, or a headerless one with --size WxH"
+                             : isYuv(source) ? ": give a Y4M file, or a headerless one with --size WxH"
+                                             : ": give a headerless file with --size WxH"));
             return run(*function, rearranged(std::move(*picture), source, size), options.timing.repeat, stats, status);
         });
         if (status != zorStatusOk && !warned)

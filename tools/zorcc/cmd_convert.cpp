@@ -23,7 +23,9 @@ const Format& usualFormat(const std::string& out, const Format& from)
     case FileKind::yuv:
         return isRgb(from) ? interface::formats::yuv420p : from;
     default:
-        return isRgb(from) ? from : interface::formats::rgb24;
+        return isRgb(from)   ? from
+               : isYuv(from) ? interface::formats::rgb24
+                             : pictureFormat(false, hasAlpha(from), from.sample);
     }
 }
 

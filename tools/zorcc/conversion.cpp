@@ -111,7 +111,9 @@ Conversion findConversion(const Format& from, const Format& to, std::optional<in
         const auto before = rearrangementCost(from, *function.source);
         const auto after = rearrangementCost(*function.destination, to);
         if (!before || !after || !isOf(function, matrix)) continue;
-        const int cost = 2 * (*before + *after) + !function.signature.steps;
+        // Of ways that cost the same the one that computes with more bits.
+        const int cost =
+            16 * (*before + *after) + 8 * !function.signature.steps - interface::sampleBytes(function.source->sample);
         if (cost < lowest) lowest = cost, found = &function;
     }
     if (!found && !plain)

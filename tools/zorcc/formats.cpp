@@ -16,14 +16,19 @@ namespace {
 template <class T> constexpr double fullScale = 1;
 template <> constexpr double fullScale<std::uint8_t> = 255;
 template <> constexpr double fullScale<std::uint16_t> = 65535;
+template <> constexpr double fullScale<std::int16_t> = 65535;
+
+// What stands for 0.
+template <class T> constexpr double zeroOf = 0;
+template <> constexpr double zeroOf<std::int16_t> = -32768;
 
 // No value of an integer type lies halfway between two of another (255 and 65535 / 255 are odd): no tie to break.
 template <class To, class From> To converted(From value)
 {
     if constexpr (std::is_same_v<To, From>) return value;
-    const double unit = std::clamp(value / fullScale<From>, 0.0, 1.0);
+    const double unit = std::clamp((value - zeroOf<From>) / fullScale<From>, 0.0, 1.0);
     if constexpr (std::is_floating_point_v<To>) return static_cast<To>(unit);
-    return static_cast<To>(std::isnan(unit) ? 0 : std::lround(unit * fullScale<To>));
+    return static_cast<To>(std::isnan(unit) ? 0 : std::lround(unit * fullScale<To> + zeroOf<To>));
 }
 
 template <class T> T load(const std::uint8_t* from)
@@ -52,15 +57,17 @@ template <class From, class To> void copy(const Channel& from, const Channel& to
     }
 }
 
-bool isScalable(Sample sample) { return sample == Sample::u8 || sample == Sample::u16 || sample == Sample::f32; }
+bool isScalable(Sample sample) { return sample != Sample::s32; }
 
-// Calls visit(T{}) with the C++ type of a sample; the signed types are never rearranged into others.
+// Calls visit(T{}) with the C++ type of a sample.
 template <class Visit> void withType(Sample sample, Visit visit)
 {
     if (sample == Sample::u8)
         visit(std::uint8_t{});
     else if (sample == Sample::f32)
         visit(float{});
+    else if (sample == Sample::s16)
+        visit(std::int16_t{});
     else
         visit(std::uint16_t{});
 }
@@ -117,7 +124,7 @@ const Format& pictureFormat(bool grey, bool alpha, Sample sample)
 {
     using namespace interface::formats;
     if (sample == Sample::f32) return grey ? greyf32 : rgbf32;
-    if (sample == Sample::u16) return grey ? grey16 : alpha ? rgba64 : rgb48;
+    if (sample == Sample::u16 || sample == Sample::s16) return grey ? grey16 : alpha ? rgba64 : rgb48;
     return grey ? grey8 : alpha ? rgba : rgb24;
 }
 

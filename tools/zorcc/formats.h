@@ -19,6 +19,11 @@ inline bool isRgb(const Format& format)
 {
     return format.model == interface::Model::rgb || format.model == interface::Model::grey;
 }
+inline bool isHexcone(const Format& format)
+{
+    return format.model == interface::Model::hls || format.model == interface::Model::hsv;
+}
+inline bool isYuv(const Format& format) { return !isRgb(format) && !isHexcone(format); }
 
 // How a picture file that holds red, green and blue, or grey, of the given sample type says it.
 const Format& pictureFormat(bool grey, bool alpha, Sample sample);
@@ -49,7 +54,8 @@ const Format& planarYuv(const Format& format);
 
 // What it costs to rearrange pictures of one format into another: 0 for the same, more the more is moved, added or
 // lost; nothing where plain rearrangement does not lead. It may change the order and layout of channels, repeat grey,
-// add opaque alpha or drop alpha, scale between 8 bits, 16 bits and 0..1 floats, and cut channels down to packed bits.
+// add opaque alpha or drop alpha, scale between 8 bits, 16 bits (signed ones from -32768) and 0..1 floats, and cut
+// channels down to packed bits.
 std::optional<int> rearrangementCost(const Format& from, const Format& to);
 
 // The picture in another format and size, which rearrangementCost must allow: pixels beyond the visible part repeat the

@@ -58,7 +58,7 @@ public:
             const Format& format = picture.format();
             if (!isRgb(format) || format.layout == interface::Layout::packedBits)
                 throw Cause("this kind of file holds RGB or grey, and the picture is " + std::string(format.name) +
-                            (isRgb(format) ? ": use .raw" : ": use .y4m or .yuv"));
+                            (isYuv(format) ? ": use .y4m or .yuv" : ": use .raw"));
             files.push_back({path, std::make_unique<AtomicFile>(path)});
             encode(*files.back().file, std::move(picture));
             files.back().file->close();
@@ -96,6 +96,8 @@ public:
         naming(name, [&] {
             if (!y4m) return writePlanes(*file, picture);
             if (isRgb(picture.format())) throw Cause("Y4M holds YUV, and the picture is RGB: use .png or .ppm");
+            if (!isYuv(picture.format()))
+                throw Cause("Y4M holds YUV, and the picture is " + std::string(picture.format().name) + ": use .raw");
             const Format& format = planarYuv(picture.format());
             if (!rearrangementCost(picture.format(), format))
                 throw Cause("Y4M holds no chroma of " + std::string(picture.format().name) + ": use .yuv");
