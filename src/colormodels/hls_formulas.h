@@ -51,12 +51,11 @@ template <> struct RgbToHls<float> {
         const f32v difference = most == r ? g - b : most == g ? b - r : r - g;
         const f32v base = most == r ? f32v{} : most == g ? fillFloat(120) : fillFloat(240);
         const f32v h = difference * 60 / d + base;
-        const f32v hue = divideBy<360>(h < 0 ? h + 360 : h);
+        const f32v hue = (h < 0 ? h + 360 : h) / 360;
         return {{{(f32v)((s32v)hue & coloured), lightness, (f32v)((s32v)s & coloured)}}};
     }
 };
 
-// The value of a channel whose hue is `angle` degrees away from where it starts to rise.
 template <class Sample> struct HlsToRgb {
     using V = Vec<Sample>;
     static constexpr bool isFloat = sizeof(Sample) == 4;
@@ -88,7 +87,8 @@ private:
         f32v c[3];
     };
 
-    // Hue in degrees, lightness, saturation and the result in 0..1.
+    // Hue in degrees, lightness, saturation and the result in 0..1. Grey needs no choice here: with s = 0 high and low
+    // are l.
     ZORCC_INLINE Rgb convert(f32v h, f32v l, f32v s)
     {
         const f32v high = l <= 0.5f ? l * (1 + s) : l + s - l * s;
@@ -98,12 +98,13 @@ private:
                  channel(blue < 0 ? blue + 360 : blue, low, high)}};
     }
 
-    // Rises over the first 60 degrees, is high up to 180, falls to 240, and is low from there.
+    // A channel by how far the hue is from where it starts to rise: it rises over the first 60 degrees, is high up to
+    // 180, falls to 240, and is low from there.
     ZORCC_INLINE f32v channel(f32v angle, f32v low, f32v high)
     {
         const f32v slope = maximum(minimum(angle, 240 - angle), f32v{});
         const f32v step = (high - low) * slope;
-        const f32v ramp = low + (sizeof(Sample) == 2 ? divideBy<60>(step) : step * 0.016666668f);
+        const f32v ramp = low + (sizeof(Sample) == 2 ? step / 60 : step * 0.016666668f);
         return select((angle >= 60) & (angle < 180), high, ramp);
     }
 };

@@ -43,8 +43,9 @@ template <class Sample, Conversion conversion> struct RgbToHsv {
     }
 
 private:
-    // Truncated bytes of a negative hue are the same without the detour below zero: 5 + q, raised by less than what any
-    // of these quotients has to the next byte, so that no whole one gets lost by rounding.
+    // The red hues of odd sextants are q - 1, below zero, plus 6. Truncated to bytes they are the same as those of 5 +
+    // q, raised by more than it is rounded by and less than any of these quotients lacks to the next byte. (Anything
+    // from 2^-21 to 2^-15 would do; the tests go through all colours.)
     static constexpr bool wraps = conversion == Conversion::rounding;
     static constexpr float redRising = wraps ? 0 : 5, redCorrection = wraps ? -1 : 0x1p-18f;
 
@@ -58,7 +59,7 @@ template <class Sample> struct HsvToRgb {
     {
         using R = Range<Sample>;
         constexpr int parts = partsOf<Sample>;
-        const auto [h, s, v] = hsv.c[0];
+        const V h = hsv.c[0][0], s = hsv.c[0][1], v = hsv.c[0][2];
         const V full = V{} + static_cast<Sample>(R::most);
         const auto hue = widen(h & ~(V)(h == full)), saturation = widen(s), value = widen(v);
         Widened<parts> sextant, low, falling, rising;

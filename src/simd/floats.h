@@ -136,29 +136,5 @@ template <class Sample> ZORCC_INLINE Vec<Sample> narrow(const Widened<partsOf<Sa
         return narrowToU16(v);
 }
 
-// ---- exact division ------------------------------------------------------------------------------------------------
-//
-// Correctly rounded, like the operator, on every tier. Where there is a fused multiply-add, a quotient from a rounded
-// reciprocal y is corrected by its exact remainder, q + (n - q d) y, which takes less time than the divider does.
-
-#if defined(ZORCC_TIER_avx512)
-ZORCC_INLINE f32v correctedQuotient(f32v n, f32v d, f32v y)
-{
-    const __m512 q = reg(n * y), rest = _mm512_fnmadd_ps(q, reg(d), reg(n));
-    return (f32v)_mm512_fmadd_ps(rest, reg(y), q);
-}
-#endif
-
-// v / divisor for finite v: y is the reciprocal rounded to nearest, hence so is the corrected quotient (Markstein).
-template <int divisor> ZORCC_INLINE f32v divideBy(f32v v)
-{
-    const f32v d = fillFloat(divisor);
-#if defined(ZORCC_TIER_avx512)
-    return correctedQuotient(v, d, fillFloat(1.0f / divisor));
-#else
-    return v / d;
-#endif
-}
-
 } // namespace
 } // namespace zorcc::ZORCC_TIER
