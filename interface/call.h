@@ -21,6 +21,9 @@ struct Image {
 // Arguments behind the size; each function takes those that its signature asks for.
 struct Extra {
     std::uint8_t alpha = 0;
+    int noise = 0; // the integers of bit-depth reductions: noise, then levels
+    int levels = 16;
+    ZorDitherMethod method = zorDitherMethodNone;
 };
 
 // What the binder consumes from: images in order, then the extras.
@@ -33,6 +36,7 @@ struct Call {
     bool inDestination = false;   // which of the two that is; they may be one object
     int plane = 0;                // the plane of it that a single pointer argument named
     bool nullArrays[2] = {};      // pass a null array of planes for the source, the destination
+    int integers = -1;            // taken behind the size; -1 in front of it
 
     int nextSource() { return next(source, false); }
     int nextDestination() { return next(destination, true); }
@@ -84,10 +88,21 @@ template <class T> struct Argument<T* const*> { // plane pointers of a destinati
     operator T* const*() const { return null ? nullptr : value; }
 };
 
-template <> struct Argument<int> { // step of the image, or of the plane, before it
+template <> struct Argument<int> { // step of the image, or of the plane, before it; behind the size noise, levels
     int value;
-    explicit Argument(Call& call) : value(call.image->step[call.plane]) {}
+    explicit Argument(Call& call)
+        : value(call.integers < 0      ? call.image->step[call.plane]
+                : call.integers++ == 0 ? call.extra.noise
+                                       : call.extra.levels)
+    {
+    }
     operator int() const { return value; }
+};
+
+template <> struct Argument<ZorDitherMethod> {
+    ZorDitherMethod value;
+    explicit Argument(Call& call) : value(call.extra.method) {}
+    operator ZorDitherMethod() const { return value; }
 };
 
 template <> struct Argument<const int*> { // steps of the planes before it
@@ -98,7 +113,7 @@ template <> struct Argument<const int*> { // steps of the planes before it
 
 template <> struct Argument<ZorSize> {
     ZorSize value;
-    explicit Argument(Call& call) : value(call.size) {}
+    explicit Argument(Call& call) : value(call.size) { call.integers = 0; }
     operator ZorSize() const { return value; }
 };
 

@@ -41,6 +41,7 @@ private:
     const interface::Function tested;
     TestImage source, destination;
 
+    interface::Extra argumentsOf(const Trial& trial) const;
     std::string heading(const Trial& trial, Tier tier) const;
     testing::AssertionResult runOn(Tier tier, const Trial& trial, const interface::Image& from, TestImage& to);
 };

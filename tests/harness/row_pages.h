@@ -33,7 +33,8 @@ public:
 
     std::uint8_t* data() const { return firstPage; }
 
-    static std::size_t pageBytes() { return static_cast<std::size_t>(sysconf(_SC_PAGESIZE)); }
+    // Four of the system's: room for a long row of floats.
+    static std::size_t pageBytes() { return 4 * static_cast<std::size_t>(sysconf(_SC_PAGESIZE)); }
 
 private:
     void* mapped;

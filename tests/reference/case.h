@@ -13,6 +13,13 @@ namespace zorcc::reference {
 // Writes the colour channels of every pixel that the function converts; source and destination have the same size.
 using Reference = void (*)(const Pixels& source, Pixels& destination);
 
+// The same for a function whose samples depend on each other, on their place, or on arguments: the whole image.
+using ImageReference = void (*)(const interface::Function& function, const interface::Image& source,
+                                const interface::Image& destination, ZorSize size, const interface::Extra& extra);
+
+// Arguments behind the size for a trial: the same seed gives the same ones.
+using Arguments = interface::Extra (*)(const interface::Function& function, std::uint32_t seed);
+
 enum class OddSize {
     plain,  // every pixel is converted
     warning // whole 2 x 2 blocks are converted; zorStatusOddSize when there are pixels beside them
@@ -22,6 +29,8 @@ struct Case {
     std::string_view name; // of the exported function
     Reference reference;
     OddSize oddSize = OddSize::plain;
+    ImageReference imageReference = nullptr; // given: in place of the other
+    Arguments arguments = nullptr;
 };
 
 // The pixels of an image that the function may touch.
