@@ -16,9 +16,10 @@
 namespace zorcc::ZORCC_TIER {
 namespace {
 
-constexpr int bandRows = 32;  // several vectors, which do not wait for each other, on every tier
-constexpr int tileSteps = 16; // that are taken at a time
+constexpr int bandRows = 32; // several vectors, which do not wait for each other, on every tier
 constexpr int maxChannels = 4;
+constexpr int tileSamples = 64; // of a row that are taken at a time, whole pixels of any number of channels ...
+constexpr int tileSteps(int channels) { return tileSamples / channels & -16; } // ... and whole vectors
 constexpr float outside = -1e9f;
 
 // The errors of one channel around the steps of a tile.
@@ -28,9 +29,9 @@ template <class Weights> struct Errors {
 
     // Step s, from -2 on, is own[s + 2]. above[n][s + 2 * ahead], from s = -2 * ahead on, is what row n + 1 above has
     // left `ahead` columns to the right of the samples of step s.
-    alignas(64) float own[2 + tileSteps][bandRows];
-    alignas(64) float above[rowsAbove][2 * ahead + tileSteps][bandRows];
-    float incoming[rowsAbove][tileSteps]; // likewise, from the rows above the band, for its first row
+    alignas(64) float own[2 + tileSamples][bandRows];
+    alignas(64) float above[rowsAbove][2 * ahead + tileSamples][bandRows];
+    float incoming[rowsAbove][tileSamples]; // likewise, from the rows above the band, for its first row
 
     void clear()
     {
@@ -38,10 +39,11 @@ template <class Weights> struct Errors {
         __builtin_memset(above, 0, sizeof above);
     }
 
-    void nextTile()
+    // Behind a tile of so many steps.
+    void nextTile(int steps)
     {
-        __builtin_memcpy(own[0], own[tileSteps], sizeof own[0] * 2);
-        for (auto& row : above) __builtin_memcpy(row[0], row[tileSteps], sizeof row[0] * 2 * ahead);
+        __builtin_memcpy(own[0], own[steps], sizeof own[0] * 2);
+        for (auto& row : above) __builtin_memcpy(row[0], row[steps], sizeof row[0] * 2 * ahead);
     }
 
     // The errors that the lanes from `lane` on gather in step s: those of their own row so many columns back ...
@@ -102,10 +104,10 @@ struct FiveColumns {
 constexpr FiveColumns jarvisJudiceNinke = {{7, 5}, {7, 5, 3}, {5, 3, 1}, 1.0f / 48};
 constexpr FiveColumns stucki = {{8, 4}, {8, 4, 2}, {4, 2, 1}, 1.0f / 42};
 
-// The samples of `tileSteps` steps, and what becomes of them: values in the source's scale, or numbers of levels.
+// The samples of some steps, and what becomes of them: values in the source's scale, or numbers of levels.
 struct Tile {
-    alignas(64) float samples[tileSteps * maxChannels][bandRows]; // step by step, channel by channel
-    alignas(64) float thresholds[tileSteps][bandRows];
+    alignas(64) float samples[tileSamples][bandRows]; // step by step, channel by channel
+    alignas(64) float thresholds[tileSamples][bandRows];
 };
 
 struct Quantiser {
@@ -127,9 +129,10 @@ struct Quantiser {
 };
 
 template <bool levelNumbers, class Weights>
-void diffuse(Tile& tile, int channels, Errors<Weights>* errors, const Weights& weights, const Quantiser& quantise)
+void diffuse(Tile& tile, int steps, int channels, Errors<Weights>* errors, const Weights& weights,
+             const Quantiser& quantise)
 {
-    for (int s = 0; s < tileSteps; ++s)
+    for (int s = 0; s < steps; ++s)
         for (int c = 0; c < channels; ++c)
             for (int lane = 0; lane < bandRows; lane += floatsPerVector) {
                 Errors<Weights>& e = errors[c];

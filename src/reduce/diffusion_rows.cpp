@@ -17,7 +17,7 @@ ZORCC_INLINE float sampleValue(int16_t s) { return static_cast<float>(s + signed
 ZORCC_INLINE float sampleValue(float s) { return s; }
 
 // Rows become the steps of a tile, or back: `columns` of them, a multiple of the lanes.
-template <int stride> void transposeTo(float (*steps)[bandRows], const float (*rows)[stride], int columns)
+void transposeTo(float (*steps)[bandRows], const float (*rows)[tileSamples], int columns)
 {
     for (int r = 0; r < bandRows; r += lanes)
         for (int x = 0; x < columns; x += lanes) {
@@ -28,7 +28,7 @@ template <int stride> void transposeTo(float (*steps)[bandRows], const float (*r
         }
 }
 
-template <int stride> void transposeBack(float (*rows)[stride], const float (*steps)[bandRows], int columns)
+void transposeBack(float (*rows)[tileSamples], const float (*steps)[bandRows], int columns)
 {
     for (int r = 0; r < bandRows; r += lanes)
         for (int x = 0; x < columns; x += lanes) {
@@ -46,7 +46,7 @@ public:
     Diffusion(const Reduction& reduction, const Weights& w, const Noise* n, int firstChannel, int endChannel,
               float* above)
         : job(reduction), weights(w), noise(n), first(firstChannel), channels(endChannel - firstChannel),
-          stride(samplesPerPixel(job.layout)), errorRows(above)
+          stride(samplesPerPixel(job.layout)), steps(tileSteps(channels)), errorRows(above)
     {
         for (auto& step : tile.thresholds)
             for (float& threshold : step) threshold = 0.5f * size.step;
@@ -60,11 +60,12 @@ public:
 private:
     static constexpr bool levelNumbers = !sameScale<Src, Dst>;
     static constexpr int lag = Errors<Weights>::lag, ahead = Weights::ahead;
+    static constexpr int prefetchBytes = 128;
 
     const Reduction& job;
     const Weights& weights;
     const Noise* const noise;
-    const int first, channels, stride;
+    const int first, channels, stride, steps;
     float* const errorRows;
     const StepSize size{fullScale<Src>, job.intervals};
     const Quantiser quantise{fillFloat(fullScale<Src>), fillFloat(size.step), fillFloat(size.inverse),
@@ -72,71 +73,107 @@ private:
 
     Errors<Weights> errors[maxChannels];
     Tile tile;
-    alignas(64) float rows[bandRows][tileSteps * maxChannels]; // the tile's samples row by row
-    alignas(64) float rowThresholds[bandRows][tileSteps];
+    alignas(64) float rows[bandRows][tileSamples]; // the tile's samples row by row
+    alignas(64) float rowThresholds[bandRows][tileSamples];
 
     void convertBand(int y)
     {
         const int left = job.size.height - y;
         const int height = left < bandRows ? left : bandRows;
-        const int64_t steps = int64_t{job.size.width} + lag * (height - 1);
+        const int64_t end = int64_t{job.size.width} + lag * (height - 1);
         for (int c = 0; c < channels; ++c) start(c);
-        for (int64_t s = 0; s < steps; s += tileSteps) {
-            for (int r = 0; r < bandRows; ++r) fetch(r, y + r, s - lag * r, r < height);
-            transposeTo(tile.samples, rows, tileSteps * channels);
-            if (noise) transposeTo(tile.thresholds, rowThresholds, tileSteps);
-            for (int c = 0; c < channels; ++c) receive(c, s);
-            diffuse<levelNumbers>(tile, channels, errors, weights, quantise);
-            for (int c = 0; c < channels; ++c) handOver(c, s, height);
-            transposeBack(rows, tile.samples, tileSteps * channels);
-            for (int r = 0; r < height; ++r) put(r, y + r, s - lag * r);
+        for (int64_t step = 0; step < end; step += steps) {
+            for (int r = 0; r < bandRows; ++r) {
+                const int64_t x = step - lag * r;
+                fetch(r, y + r, x, r < height ? inImage(x) : Span{0, 0});
+            }
+            transposeTo(tile.samples, rows, steps * channels);
+            if (noise) transposeTo(tile.thresholds, rowThresholds, steps);
+            for (int c = 0; c < channels; ++c) receive(c, step);
+            diffuse<levelNumbers>(tile, steps, channels, errors, weights, quantise);
+            for (int c = 0; c < channels; ++c) {
+                if (height == bandRows) handOver(c, step);
+                errors[c].nextTile(steps);
+            }
+            transposeBack(rows, tile.samples, steps * channels);
+            for (int r = 0; r < height; ++r) put(r, y + r, step - lag * r);
         }
     }
 
-    bool contains(int64_t x) const { return x >= 0 && x < job.size.width; }
+    // Which of a tile's columns, the first of which is x, lie in the image.
+    struct Span {
+        int begin, end;
+    };
+    Span inImage(int64_t x) const
+    {
+        const auto clamped = [&](int64_t j) { return static_cast<int>(j < 0 ? 0 : j > steps ? steps : j); };
+        return {clamped(-x), clamped(job.size.width - x)};
+    }
 
-    // Whether the tile's columns from x on lie in the image, and hold no channel of others.
-    bool whole(int64_t x) const { return channels == stride && contains(x) && contains(x + tileSteps - 1); }
-
-    // Row y of the image from column x on, to row r of the tile.
-    void fetch(int r, int y, int64_t x, bool exists)
+    // Some columns of row y of the image, from column x on, to row r of the tile.
+    void fetch(int r, int y, int64_t x, Span in)
     {
         float* const row = rows[r];
-        const Src* const src = rowAt(static_cast<const Src*>(job.src), job.srcStep, y) + first;
-        if (exists && whole(x)) {
-            for (int i = 0; i < tileSteps * channels; i += lanes) store(row + i, loadSamples(src + x * stride + i));
+        const Src* const src = rowAt(static_cast<const Src*>(job.src), job.srcStep, y);
+        const int count = (in.end - in.begin) * channels;
+        if (count == steps * stride) {
+            // So many rows at a time are more than a processor foresees. A prefetch may point behind the row.
+            __builtin_prefetch(reinterpret_cast<const char*>(src + x * stride) + prefetchBytes);
+            toFloats(src + x * stride, row);
+        } else if (channels == stride) {
+            Src copy[tileSamples] = {};
+            if (count > 0)
+                __builtin_memcpy(copy + in.begin * stride, src + (x + in.begin) * stride, count * sizeof(Src));
+            toFloats(copy, row);
         } else {
-            for (int j = 0; j < tileSteps; ++j)
+            for (int j = in.begin; j < in.end; ++j)
                 for (int c = 0; c < channels; ++c)
-                    row[j * channels + c] =
-                        exists && contains(x + j) ? sampleValue(src[(x + j) * stride + c]) : outside;
+                    row[j * channels + c] = sampleValue(src[(x + j) * stride + first + c]);
         }
+        for (int i = 0; i < in.begin * channels; ++i) row[i] = outside;
+        for (int i = in.end * channels; i < steps * channels; ++i) row[i] = outside;
         if (noise)
-            for (int j = 0; j < tileSteps; ++j)
-                rowThresholds[r][j] = contains(x + j) ? noise->at(static_cast<int>(x + j), y) : 0;
+            for (int j = in.begin; j < in.end; ++j) rowThresholds[r][j] = noise->at(static_cast<int>(x + j), y);
+    }
+
+    void toFloats(const Src* src, float* row) const
+    {
+        for (int i = 0; i < steps * channels; i += lanes) store(row + i, loadSamples(src + i));
     }
 
     // What becomes of them, to the image.
     void put(int r, int y, int64_t x)
     {
-        Dst* const dst = rowAt(static_cast<Dst*>(job.dst), job.dstStep, y) + first;
-        const bool atOnce = whole(x);
-        Dst values[tileSteps * maxChannels];
-        Dst* const to = atOnce ? dst + x * stride : values;
-        for (int i = 0; i < tileSteps * channels; i += lanes) {
-            const f32v v = load<f32v>(rows[r] + i);
-            storeSamples(to + i, levelNumbers ? levelValue<Dst>(v, quantise.intervals) : truncate(v));
+        const Span in = inImage(x);
+        const int count = (in.end - in.begin) * channels;
+        Dst* const dst = rowAt(static_cast<Dst*>(job.dst), job.dstStep, y);
+        if (count == 0) return;
+        if (count == steps * stride) {
+            fromFloats(rows[r], dst + x * stride);
+            return;
         }
-        if (atOnce) return;
-        for (int j = 0; j < tileSteps; ++j)
-            for (int c = 0; c < channels; ++c)
-                if (contains(x + j)) dst[(x + j) * stride + c] = values[j * channels + c];
+        Dst copy[tileSamples];
+        fromFloats(rows[r], copy);
+        if (channels == stride) {
+            __builtin_memcpy(dst + (x + in.begin) * stride, copy + in.begin * stride, count * sizeof(Dst));
+            return;
+        }
+        for (int j = in.begin; j < in.end; ++j)
+            for (int c = 0; c < channels; ++c) dst[(x + j) * stride + first + c] = copy[j * channels + c];
+    }
+
+    void fromFloats(const float* row, Dst* dst) const
+    {
+        for (int i = 0; i < steps * channels; i += lanes) {
+            const f32v v = load<f32v>(row + i);
+            storeSamples(dst + i, levelNumbers ? levelValue<Dst>(v, quantise.intervals) : truncate(v));
+        }
     }
 
     float* errorRow(int c, int n) const { return errorRows + ptrdiff_t{c * Weights::rowsAbove + n} * job.size.width; }
 
     // What row n + 1 above the band has left in column x.
-    float received(int c, int n, int64_t x) const { return contains(x) ? errorRow(c, n)[x] : 0; }
+    float received(int c, int n, int64_t x) const { return x < job.size.width ? errorRow(c, n)[x] : 0; }
 
     // Nothing has been handed down yet, but the first columns above the first row.
     void start(int c)
@@ -149,19 +186,18 @@ private:
     void receive(int c, int64_t step)
     {
         for (int n = 0; n < Weights::rowsAbove; ++n)
-            for (int j = 0; j < tileSteps; ++j) errors[c].incoming[n][j] = received(c, n, step + j + ahead);
+            for (int j = 0; j < steps; ++j) errors[c].incoming[n][j] = received(c, n, step + j + ahead);
     }
 
     // From the last rows of the band, to be received by the next one, which is far behind.
-    void handOver(int c, int64_t step, int height)
+    void handOver(int c, int64_t step)
     {
-        for (int n = 0; n < Weights::rowsAbove && height == bandRows; ++n)
-            for (int j = 0; j < tileSteps; ++j) {
-                const int r = bandRows - 1 - n;
-                const int64_t x = step + j - lag * r;
-                if (contains(x)) errorRow(c, n)[x] = errors[c].own[j + 2][r];
-            }
-        errors[c].nextTile();
+        for (int n = 0; n < Weights::rowsAbove; ++n) {
+            const int r = bandRows - 1 - n;
+            const int64_t x = step - lag * r;
+            const Span in = inImage(x);
+            for (int j = in.begin; j < in.end; ++j) errorRow(c, n)[x + j] = errors[c].own[j + 2][r];
+        }
     }
 };
 
