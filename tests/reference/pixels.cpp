@@ -15,7 +15,7 @@ std::string_view channelNames(Model model)
 {
     switch (model) {
     case Model::grey:
-        return "G";
+        return "L";
     case Model::rgb:
         return "RGBA";
     case Model::yuv:
