@@ -31,16 +31,19 @@ const std::vector<string_view> variants = {"709CSC_", "709HDTV_", "Filter_"};
 const std::vector<string_view> types = {"8u", "16u", "16s", "32s", "32f"};
 const std::vector<string_view> layouts = {"AC4", "AP4", "C1", "C2", "C3", "C4", "P2", "P3", "P4"};
 
+// zori ReduceBits _ <type> [type] _ <layout> R, or
 // zori <model> [packing] To <model> [packing] _ [variant _] <type> [type] _ <layout> [layout] [R]
 struct Name {
     string_view model[2], packing[2], type[2], layout[2]; // source, destination
     string_view variant;
     bool steps = false, whole = false;
+    bool reduction = false; // keeps the colour model, whichever it is
 
     explicit Name(string_view text)
     {
         bool known = !take(text, {"zori"}).empty();
-        for (const int i : {0, 1}) {
+        reduction = !take(text, {"ReduceBits_"}).empty();
+        for (int i = 0; i < 2 && !reduction; ++i) {
             model[i] = take(text, models);
             packing[i] = take(text, packings);
             known = known && !model[i].empty() && !take(text, {i == 0 ? "To" : "_"}).empty();
@@ -73,7 +76,8 @@ Sample sampleOf(string_view type)
 void expectImage(const Name& name, int i, const Format& format, bool array, bool stepOfEachPlane)
 {
     const bool rgb = name.model[i] == "RGB" || name.model[i] == "BGR";
-    const Model model = rgb                          ? Model::rgb
+    const Model model = name.reduction               ? (format.channels.size() == 1 ? Model::grey : Model::rgb)
+                        : rgb                        ? Model::rgb
                         : name.model[i] == "YUV"     ? Model::yuv
                         : name.variant == "709CSC_"  ? Model::bt709
                         : name.variant == "709HDTV_" ? Model::bt709full
