@@ -20,7 +20,7 @@ struct PeerSpeed {
 };
 
 struct Result {
-    std::string_view function;
+    std::string function; // and its variant
     ZorSize size;
     std::map<Tier, double> ours;
     std::vector<PeerSpeed> peers;

@@ -34,11 +34,11 @@ public:
         for (int y = 0; y < bayerSide; ++y)
             for (int x = 0; x < bayerSide; ++x) {
                 uint8_t* const output = outputs[y][x];
+                staircase[y][x] = thresholds[y][x] == thresholds[0][0] ? outputs[0][0] : output;
+                if (y + x > 0 && staircase[y][x] != output) continue;
                 evaluate(formula, thresholds[y][x], output);
-                for (int i = 0; i < 256; ++i) {
-                    if (i > 0 && output[i] < output[i - 1]) return false;
-                    present[output[i]] = true;
-                }
+                if (falls(output)) return false;
+                for (int i = 0; i < 256; i = firstAbove(output, output[i])) present[output[i]] = true;
             }
         int count = 0;
         for (int v = 0; v < 256; ++v) {
@@ -55,8 +55,9 @@ public:
     {
         for (int y = 0; y < bayerSide; ++y)
             for (int r = 0; r < rises; ++r) {
-                int8_t last[bayerSide];
-                for (int x = 0; x < bayerSide; ++x) last[x] = lastBelow(outputs[y][x], values[r + 1]);
+                int8_t last[bayerSide]; // input whose output is not above value r; less 128
+                for (int x = 0; x < bayerSide; ++x)
+                    last[x] = static_cast<int8_t>(firstAbove(staircase[y][x], values[r]) - 129);
                 int8_t* const row = below[y][r];
                 for (int i = 0; i < period; ++i) row[i] = last[i / channels % bayerSide];
                 for (int i = period; i < period + step; i += period) __builtin_memcpy(row + i, row, period);
@@ -92,6 +93,7 @@ private:
     static constexpr int step = 3 * vectorBytes; // a multiple of it
 
     uint8_t outputs[bayerSide][bayerSide][256];
+    const uint8_t* staircase[bayerSide][bayerSide]; // those of one threshold are one
     alignas(16) uint8_t values[maxValues] = {};
     int rises;
     alignas(64) int8_t below[bayerSide][maxValues - 1][period + step];
@@ -105,12 +107,20 @@ private:
         }
     }
 
-    // The greatest input whose output is less than `value`, of which there is one; less 128.
-    static int8_t lastBelow(const uint8_t* output, int value)
+    static bool falls(const uint8_t* output)
     {
-        int i = 255;
-        while (output[i] >= value) --i;
-        return static_cast<int8_t>(i - 128);
+        bool anywhere = false;
+        for (int i = 1; i < 256; ++i) anywhere |= output[i] < output[i - 1];
+        return anywhere;
+    }
+
+    // The first input whose output is above `value`; 256 if there is none.
+    static int firstAbove(const uint8_t* output, int value)
+    {
+        int first = 0;
+        for (int size = 128; size > 0; size /= 2)
+            if (output[first + size - 1] <= value) first += size;
+        return first + (output[first] <= value);
     }
 };
 
