@@ -163,7 +163,7 @@ TEST(DeinterlaceSlice, FirstLeavesWhatDependsOnRowsBelow)
 }
 
 INSTANTIATE_TEST_SUITE_P(Results, DeinterlaceSlices, testing::Bool(),
-                         [](const auto& kind) { return kind.param ? "Packed" : "Planar"; });
+                         [](const auto& result) { return result.param ? "Packed" : "Planar"; });
 
 // Worked out by hand: a row of 101 between rows of 0, ten columns, of which eight round up.
 TEST(DeinterlaceGolden, OneBrightRow)
