@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <tuple>
 #include <type_traits>
 
@@ -21,7 +22,8 @@ struct Image {
 // Arguments behind the size; each function takes those that its signature asks for.
 struct Extra {
     std::uint8_t alpha = 0;
-    int noise = 0; // the integers of bit-depth reductions: noise, then levels
+    int slice = 21; // of a deinterlacing conversion: the whole frame
+    int noise = 0;  // of a bit-depth reduction
     int levels = 16;
     ZorDitherMethod method = zorDitherMethodNone;
 };
@@ -36,7 +38,8 @@ struct Call {
     bool inDestination = false;   // which of the two that is; they may be one object
     int plane = 0;                // the plane of it that a single pointer argument named
     bool nullArrays[2] = {};      // pass a null array of planes for the source, the destination
-    int integers = -1;            // taken behind the size; -1 in front of it
+    bool dithers = false;         // the integers behind the size are noise and levels
+    int integers = -1;            // that have been passed behind the size; -1: the size itself has not been passed
 
     int nextSource() { return next(source, false); }
     int nextDestination() { return next(destination, true); }
@@ -88,12 +91,13 @@ template <class T> struct Argument<T* const*> { // plane pointers of a destinati
     operator T* const*() const { return null ? nullptr : value; }
 };
 
-template <> struct Argument<int> { // step of the image, or of the plane, before it; behind the size noise, levels
+template <> struct Argument<int> { // step of the image, or of the plane, before it; behind the size an extra
     int value;
     explicit Argument(Call& call)
-        : value(call.integers < 0      ? call.image->step[call.plane]
-                : call.integers++ == 0 ? call.extra.noise
-                                       : call.extra.levels)
+        : value(call.integers < 0     ? call.image->step[call.plane]
+                : call.integers++ > 0 ? call.extra.levels
+                : call.dithers        ? call.extra.noise
+                                      : call.extra.slice)
     {
     }
     operator int() const { return value; }
@@ -128,6 +132,7 @@ struct Signature {
     bool steps;                         // takes steps at all; otherwise rows follow each other without gaps
     bool sourceArray, destinationArray; // takes an array of plane pointers
     bool sourceSteps, destinationSteps; // takes a step for every plane; otherwise one step serves all
+    bool slice;                         // takes the position of the image in a frame
 };
 
 template <class T> inline constexpr bool isSourceArray = false;
@@ -136,28 +141,49 @@ template <class T> inline constexpr bool isDestinationArray = false;
 template <class T> inline constexpr bool isDestinationArray<T* const*> = !std::is_const_v<T>;
 template <class T> inline constexpr bool isDestination = isDestinationArray<T>;
 template <class T> inline constexpr bool isDestination<T*> = !std::is_const_v<T> || isDestinationArray<T*>;
+template <class T>
+inline constexpr bool isPlane =
+    std::is_pointer_v<T> && !std::is_pointer_v<std::remove_pointer_t<T>> && !std::is_same_v<T, const int*>;
 
 template <auto function> struct Bound;
 
 template <class... Parameters, ZorStatus (*function)(Parameters...)> struct Bound<function> {
+    static constexpr bool dithers = (std::is_same_v<Parameters, ZorDitherMethod> || ...);
+
     static ZorStatus call(Call& call)
     {
+        call.dithers = dithers;
         std::tuple<Argument<Parameters>...> arguments{Argument<Parameters>(call)...}; // braces: left to right
         return std::apply([](const auto&... argument) { return function(argument...); }, arguments);
+    }
+
+    // The call as it stands, to be made as often as wanted without converting arguments again.
+    static std::function<ZorStatus()> prepare(Call& call)
+    {
+        call.dithers = dithers;
+        return [arguments = std::tuple<Argument<Parameters>...>{Argument<Parameters>(call)...}] {
+            return std::apply([](const auto&... argument) { return function(argument...); }, arguments);
+        };
     }
 
     static constexpr Signature signature()
     {
         Signature s{};
-        bool destination = false;
+        bool destination = false, sized = false;
+        int planes[2] = {}; // that have a pointer and a step of their own
         auto look = [&]<class T>(std::type_identity<T>) {
+            s.slice |= sized && !dithers && std::is_same_v<T, int>;
+            sized |= std::is_same_v<T, ZorSize>;
             s.steps |= std::is_same_v<T, int> || std::is_same_v<T, const int*>;
             s.sourceArray |= isSourceArray<T>;
             s.destinationArray |= isDestinationArray<T>;
             (destination ? s.destinationSteps : s.sourceSteps) |= std::is_same_v<T, const int*>;
             destination |= isDestination<T>;
+            planes[destination] += isPlane<T>;
         };
         (look(std::type_identity<Parameters>{}), ...);
+        s.sourceSteps |= planes[0] > 1;
+        s.destinationSteps |= planes[1] > 1;
         return s;
     }
 };

@@ -15,7 +15,15 @@ struct Row {
 
 #define ZOR_FAMILY(identifier, text) {text, {}},
 #define ZOR_FUNCTION(function, source, destination, alpha)                                                             \
-    {{}, {#function, {}, &source, &destination, Alpha::alpha, Bound<&function>::signature(), Bound<&function>::call}},
+    {{},                                                                                                               \
+     {#function,                                                                                                       \
+      {},                                                                                                              \
+      &source,                                                                                                         \
+      &destination,                                                                                                    \
+      Alpha::alpha,                                                                                                    \
+      Bound<&function>::signature(),                                                                                   \
+      Bound<&function>::call,                                                                                          \
+      Bound<&function>::prepare}},
 constexpr Row rowTable[] = {
 #include "interface/functions.def"
 };

@@ -20,6 +20,7 @@ struct Function {
     Alpha alpha;
     Signature signature;
     ZorStatus (*bound)(Call&);
+    std::function<ZorStatus()> (*prepare)(Call&);
 
     ZorStatus operator()(const Image& from, const Image& to, ZorSize size, const Extra& extra = {}) const
     {

@@ -40,13 +40,8 @@ std::vector<Library> libraries()
 }
 
 // All ways to do the job of `function`: ours on every tier, a memcpy of the same traffic, the peers.
-struct Comparison {
-    Result result;
-    double copy; // Mpx/s
-};
-
-Comparison compare(const Function& function, const Variant& variant, ZorSize size,
-                   const std::vector<const Peer*>& peers, double seconds)
+Result compare(const Function& function, const Variant& variant, ZorSize size, const std::vector<const Peer*>& peers,
+               double seconds)
 {
     const Picture source(*function.source, size), destination(*function.destination, size);
     const std::size_t copyBytes = trafficBytes(function, size) / 2;
@@ -54,19 +49,23 @@ Comparison compare(const Function& function, const Variant& variant, ZorSize siz
     const Job job{function, source.image, destination.image, size, variant.arguments};
 
     std::vector<Runner> runners;
-    for (const auto& [name, tier] : tiersHere())
-        runners.push_back({name, [t = tier] { setActiveTier(t); },
-                           [&] { function(job.source, job.destination, size, job.arguments); }});
+    for (const auto& [name, tier] : tiersHere()) {
+        interface::Call call {
+            source.image, destination.image, size, variant.arguments
+        };
+        runners.push_back({name, [t = tier] { setActiveTier(t); }, function.prepare(call)});
+    }
     runners.push_back({"memcpy", {}, [&] { std::memcpy(copyDestination.data(), copySource.data(), copyBytes); }});
     for (const Peer* peer : peers) runners.push_back({peer->name, peer->select, peer->prepare(job)});
     race(runners, seconds);
 
     auto speed = [&, runner = runners.begin()]() mutable { return pixels(size) / 1e6 / runner++->seconds; };
-    Comparison comparison{{nameOf(function, variant), size, {}, {}}, 0};
-    for (const auto& [name, tier] : tiersHere()) comparison.result.ours[tier] = speed();
-    comparison.copy = speed();
-    for (const Peer* peer : peers) comparison.result.peers.push_back({peer->name, peer->ssse3Only, speed()});
-    return comparison;
+    Result result{&function, nameOf(function, variant), size, {}, {}};
+    for (const auto& [name, tier] : tiersHere()) result.ours[tier] = speed();
+    const double copy = speed();
+    for (const Peer* peer : peers) result.peers.push_back({peer->name, peer->ssse3Only, speed()});
+    result.peers.push_back({"memcpy", false, copy});
+    return result;
 }
 
 void printRow(const std::string& name, double speed, const std::map<Tier, double>& ours)
@@ -76,16 +75,14 @@ void printRow(const std::string& name, double speed, const std::map<Tier, double
     std::printf("\n");
 }
 
-void print(const Comparison& comparison)
+void print(const Result& result)
 {
-    const Result& result = comparison.result;
-    std::printf("%-46s %9s", result.function.c_str(), sizeName(result.size).c_str());
+    std::printf("%-46s %9s", result.name.c_str(), sizeName(result.size).c_str());
     for (const auto& [tier, our] : result.ours) std::printf(" %8s", nameOf(tier));
     std::printf("\n  %-44s %9s", "zorcc", "");
     for (const auto& [tier, our] : result.ours) std::printf(" %8.0f", our);
     std::printf("\n");
     for (const PeerSpeed& peer : result.peers) printRow(peer.name, peer.speed, result.ours);
-    printRow("memcpy", comparison.copy, result.ours);
     std::printf("\n");
     std::fflush(stdout);
 }
@@ -113,9 +110,8 @@ bool compareAll(const std::string& filter, double seconds, bool check)
             // A target may bear on a function without peers all the same, but not on a variant.
             if (peers.empty() && !(check && variant.name.empty())) continue;
             for (ZorSize size : {cachedSize, frameSize}) {
-                const Comparison comparison = compare(function, variant, size, peers, seconds);
-                print(comparison);
-                results.push_back(comparison.result);
+                results.push_back(compare(function, variant, size, peers, seconds));
+                print(results.back());
             }
         }
     if (results.empty()) throw std::runtime_error("no function with a peer matches '" + filter + "'");

@@ -4,11 +4,10 @@
 
 #include <map>
 #include <string>
-#include <string_view>
 #include <vector>
 
+#include "interface/functions.h"
 #include "simd/tier.h"
-#include "zorcc.h"
 
 namespace zorcc::bench {
 
@@ -20,10 +19,11 @@ struct PeerSpeed {
 };
 
 struct Result {
-    std::string function; // and its variant
+    const interface::Function* function;
+    std::string name; // of the function and its variant
     ZorSize size;
     std::map<Tier, double> ours;
-    std::vector<PeerSpeed> peers;
+    std::vector<PeerSpeed> peers; // and a memcpy of the same traffic
 };
 
 // Prints every target that these results bear on, and whether it is met; true if all are.
