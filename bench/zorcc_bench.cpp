@@ -9,6 +9,7 @@
 
 #include "bench/picture.h"
 #include "bench/tiers.h"
+#include "bench/variants.h"
 
 namespace {
 
@@ -23,22 +24,22 @@ void report(benchmark::State& state, ZorSize size, std::size_t bytes)
     state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(bytes));
 }
 
-void measure(benchmark::State& state, const Function& function, ZorSize size)
+void measure(benchmark::State& state, const Function& function, const Variant& variant, ZorSize size)
 {
     const Picture source(*function.source, size), destination(*function.destination, size);
-    if (function(source.image, destination.image, size) != zorStatusOk) {
+    if (function(source.image, destination.image, size, variant.arguments) != zorStatusOk) {
         state.SkipWithError("the conversion reports an error");
         return;
     }
     for (auto _ : state) {
-        function(source.image, destination.image, size);
+        function(source.image, destination.image, size, variant.arguments);
         benchmark::ClobberMemory();
     }
     report(state, size, trafficBytes(function, size));
 }
 
 // Half of the conversion's traffic is read and half is written.
-void measureCopy(benchmark::State& state, const Function& function, ZorSize size)
+void measureCopy(benchmark::State& state, const Function& function, const Variant&, ZorSize size)
 {
     const std::size_t bytes = trafficBytes(function, size) / 2;
     const Buffer source(bytes), destination(bytes);
@@ -53,16 +54,17 @@ void measureCopy(benchmark::State& state, const Function& function, ZorSize size
 // is that on the wall.
 void registerAll(bool wallClock)
 {
-    auto add = [&](const std::string& name, auto work, const Function& function, ZorSize size) {
-        auto* benchmark = benchmark::RegisterBenchmark(name.c_str(), work, function, size);
+    auto add = [&](const std::string& name, auto work, const Function& function, const Variant& variant, ZorSize size) {
+        auto* benchmark = benchmark::RegisterBenchmark(name.c_str(), work, function, variant, size);
         if (wallClock) benchmark->UseRealTime();
     };
     for (const Function& function : interface::functions())
-        for (ZorSize size : {cachedSize, frameSize}) {
-            const std::string name = std::string(function.name) + "/" + sizeName(size);
-            add(name, measure, function, size);
-            add(name + "/memcpy", measureCopy, function, size);
-        }
+        for (const Variant& variant : variantsOf(function))
+            for (ZorSize size : {cachedSize, frameSize}) {
+                const std::string name = nameOf(function, variant) + "/" + sizeName(size);
+                add(name, measure, function, variant, size);
+                add(name + "/memcpy", measureCopy, function, variant, size);
+            }
 }
 
 } // namespace

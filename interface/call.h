@@ -23,6 +23,9 @@ struct Image {
 struct Extra {
     std::uint8_t alpha = 0;
     int slice = 21; // of a deinterlacing conversion: the whole frame
+    int noise = 0;  // of a bit-depth reduction
+    int levels = 16;
+    ZorDitherMethod method = zorDitherMethodNone;
 };
 
 // What the binder consumes from: images in order, then the extras.
@@ -35,7 +38,8 @@ struct Call {
     bool inDestination = false;   // which of the two that is; they may be one object
     int plane = 0;                // the plane of it that a single pointer argument named
     bool nullArrays[2] = {};      // pass a null array of planes for the source, the destination
-    bool sized = false;           // the size has been passed: what follows are extras
+    bool dithers = false;         // the integers behind the size are noise and levels
+    int integers = -1;            // that have been passed behind the size; -1: the size itself has not been passed
 
     int nextSource() { return next(source, false); }
     int nextDestination() { return next(destination, true); }
@@ -87,10 +91,22 @@ template <class T> struct Argument<T* const*> { // plane pointers of a destinati
     operator T* const*() const { return null ? nullptr : value; }
 };
 
-template <> struct Argument<int> { // step of the image, or of the plane, before it; behind the size the slice
+template <> struct Argument<int> { // step of the image, or of the plane, before it; behind the size an extra
     int value;
-    explicit Argument(Call& call) : value(call.sized ? call.extra.slice : call.image->step[call.plane]) {}
+    explicit Argument(Call& call)
+        : value(call.integers < 0     ? call.image->step[call.plane]
+                : call.integers++ > 0 ? call.extra.levels
+                : call.dithers        ? call.extra.noise
+                                      : call.extra.slice)
+    {
+    }
     operator int() const { return value; }
+};
+
+template <> struct Argument<ZorDitherMethod> {
+    ZorDitherMethod value;
+    explicit Argument(Call& call) : value(call.extra.method) {}
+    operator ZorDitherMethod() const { return value; }
 };
 
 template <> struct Argument<const int*> { // steps of the planes before it
@@ -101,7 +117,7 @@ template <> struct Argument<const int*> { // steps of the planes before it
 
 template <> struct Argument<ZorSize> {
     ZorSize value;
-    explicit Argument(Call& call) : value(call.size) { call.sized = true; }
+    explicit Argument(Call& call) : value(call.size) { call.integers = 0; }
     operator ZorSize() const { return value; }
 };
 
@@ -132,8 +148,11 @@ inline constexpr bool isPlane =
 template <auto function> struct Bound;
 
 template <class... Parameters, ZorStatus (*function)(Parameters...)> struct Bound<function> {
+    static constexpr bool dithers = (std::is_same_v<Parameters, ZorDitherMethod> || ...);
+
     static ZorStatus call(Call& call)
     {
+        call.dithers = dithers;
         std::tuple<Argument<Parameters>...> arguments{Argument<Parameters>(call)...}; // braces: left to right
         return std::apply([](const auto&... argument) { return function(argument...); }, arguments);
     }
@@ -141,6 +160,7 @@ template <class... Parameters, ZorStatus (*function)(Parameters...)> struct Boun
     // The call as it stands, to be made as often as wanted without converting arguments again.
     static std::function<ZorStatus()> prepare(Call& call)
     {
+        call.dithers = dithers;
         return [arguments = std::tuple<Argument<Parameters>...>{Argument<Parameters>(call)...}] {
             return std::apply([](const auto&... argument) { return function(argument...); }, arguments);
         };
@@ -152,7 +172,7 @@ template <class... Parameters, ZorStatus (*function)(Parameters...)> struct Boun
         bool destination = false, sized = false;
         int planes[2] = {}; // that have a pointer and a step of their own
         auto look = [&]<class T>(std::type_identity<T>) {
-            s.slice |= sized && std::is_same_v<T, int>;
+            s.slice |= sized && !dithers && std::is_same_v<T, int>;
             sized |= std::is_same_v<T, ZorSize>;
             s.steps |= std::is_same_v<T, int> || std::is_same_v<T, const int*>;
             s.sourceArray |= isSourceArray<T>;

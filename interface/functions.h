@@ -10,7 +10,7 @@
 
 namespace zorcc::interface {
 
-enum class Alpha { none, keep, copy, zero, argument };
+enum class Alpha { none, keep, copy, zero, argument, converted };
 
 struct Function {
     std::string_view name;

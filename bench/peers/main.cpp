@@ -12,6 +12,7 @@
 #include "bench/peers/targets.h"
 #include "bench/picture.h"
 #include "bench/tiers.h"
+#include "bench/variants.h"
 
 namespace {
 
@@ -34,22 +35,23 @@ std::vector<Library> libraries()
 #ifdef ZORCC_PEER_ZIMG
     all.push_back(zimg());
 #endif
+    all.push_back(ourselves());
     return all;
 }
 
 // All ways to do the job of `function`: ours on every tier, a memcpy of the same traffic, the peers.
-Result compare(const Function& function, ZorSize size, const std::vector<const Peer*>& peers, double seconds)
+Result compare(const Function& function, const Variant& variant, ZorSize size, const std::vector<const Peer*>& peers,
+               double seconds)
 {
     const Picture source(*function.source, size), destination(*function.destination, size);
     const std::size_t copyBytes = trafficBytes(function, size) / 2;
     const Buffer copySource(copyBytes), copyDestination(copyBytes);
-    const Job job{function, source.image, destination.image, size};
+    const Job job{function, source.image, destination.image, size, variant.arguments};
 
-    const interface::Extra extra;
     std::vector<Runner> runners;
     for (const auto& [name, tier] : tiersHere()) {
         interface::Call call {
-            source.image, destination.image, size, extra
+            source.image, destination.image, size, variant.arguments
         };
         runners.push_back({name, [t = tier] { setActiveTier(t); }, function.prepare(call)});
     }
@@ -58,7 +60,7 @@ Result compare(const Function& function, ZorSize size, const std::vector<const P
     race(runners, seconds);
 
     auto speed = [&, runner = runners.begin()]() mutable { return pixels(size) / 1e6 / runner++->seconds; };
-    Result result{function.name, size, {}, {}};
+    Result result{&function, nameOf(function, variant), size, {}, {}};
     for (const auto& [name, tier] : tiersHere()) result.ours[tier] = speed();
     const double copy = speed();
     for (const Peer* peer : peers) result.peers.push_back({peer->name, peer->ssse3Only, speed()});
@@ -75,8 +77,7 @@ void printRow(const std::string& name, double speed, const std::map<Tier, double
 
 void print(const Result& result)
 {
-    std::printf("%-46.*s %9s", static_cast<int>(result.function.size()), result.function.data(),
-                sizeName(result.size).c_str());
+    std::printf("%-46s %9s", result.name.c_str(), sizeName(result.size).c_str());
     for (const auto& [tier, our] : result.ours) std::printf(" %8s", nameOf(tier));
     std::printf("\n  %-44s %9s", "zorcc", "");
     for (const auto& [tier, our] : result.ours) std::printf(" %8.0f", our);
@@ -91,24 +92,28 @@ bool compareAll(const std::string& filter, double seconds, bool check)
 {
     const std::regex wanted(filter);
     const std::vector<Library> all = libraries();
-    for (const Library& library : all) std::printf("%s\n", library.version.c_str());
+    for (const Library& library : all)
+        if (!library.version.empty()) std::printf("%s\n", library.version.c_str());
     std::printf(
         "Mpx/s of one thread, the best of many short batches in turn; under each tier our speed in multiples of "
         "the row's.\nmemcpy reads and writes as many bytes as the conversion.\n\n");
 
     std::vector<Result> results;
-    for (const Function& function : interface::functions()) {
-        if (!std::regex_search(function.name.begin(), function.name.end(), wanted)) continue;
-        std::vector<const Peer*> peers;
-        for (const Library& library : all)
-            for (const Peer& peer : library.peers)
-                if (peer.function == function.name) peers.push_back(&peer);
-        if (peers.empty() && !check) continue; // a target may bear on it all the same
-        for (ZorSize size : {cachedSize, frameSize}) {
-            results.push_back(compare(function, size, peers, seconds));
-            print(results.back());
+    for (const Function& function : interface::functions())
+        for (const Variant& variant : variantsOf(function)) {
+            const std::string name = nameOf(function, variant);
+            if (!std::regex_search(name, wanted)) continue;
+            std::vector<const Peer*> peers;
+            for (const Library& library : all)
+                for (const Peer& peer : library.peers)
+                    if (peer.function == name) peers.push_back(&peer);
+            // A target may bear on a function without peers all the same, but not on a variant.
+            if (peers.empty() && !(check && variant.name.empty())) continue;
+            for (ZorSize size : {cachedSize, frameSize}) {
+                results.push_back(compare(function, variant, size, peers, seconds));
+                print(results.back());
+            }
         }
-    }
     if (results.empty()) throw std::runtime_error("no function with a peer matches '" + filter + "'");
     return !check || checkTargets(results);
 }

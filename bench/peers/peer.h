@@ -17,6 +17,7 @@ struct Job {
     const interface::Image& source;
     const interface::Image& destination;
     ZorSize size;
+    interface::Extra arguments = {};
 };
 
 using Work = std::function<void()>;
@@ -24,7 +25,7 @@ using Work = std::function<void()>;
 // One way of another library to do what a function of ours does, on one thread: the same two pixel formats, be it with
 // other coefficients or other rounding.
 struct Peer {
-    std::string_view function;               // ours
+    std::string_view function;               // ours, with its variant (bench/variants.h)
     std::string name;                        // "library operation"
     std::function<Work(const Job&)> prepare; // allocations and set-up, which no clock sees
     void (*select)() = nullptr;              // puts the library into the state wanted, before each batch of calls
@@ -40,5 +41,8 @@ Library libyuv();
 Library swscale();
 Library openCV();
 Library zimg();
+
+// Our own functions, to be held against each other.
+Library ourselves();
 
 } // namespace zorcc::bench

@@ -44,6 +44,19 @@ const Target targets[] = {
     {"zoriYCbCrToRGB_8u_P3R", frameSize, Tier::avx512, 1.3, "zimg 601"},
     {"zoriYCbCr422ToRGB_8u_C2C3R", cachedSize, Tier::avx512, 1.5, "libyuv YUY2ToARGB + ARGBToRAW"},
     {"zoriYCbCr422ToRGB_8u_C2C3R", frameSize, Tier::avx512, 1.3, "libyuv YUY2ToARGB + ARGBToRAW"},
+    {"zoriReduceBits_8u_C1R none", frameSize, Tier::avx512, 1, "zorcc ordered"},
+    {"zoriReduceBits_8u_C1R ordered", frameSize, Tier::avx512, 1, "zimg ordered"},
+    {"zoriReduceBits_8u_C1R ordered", frameSize, Tier::ssse3, 0.4, "zimg ordered"},
+    {"zoriReduceBits_8u_C1R fs", frameSize, Tier::avx512, 1, "zimg error diffusion"},
+    {"zoriReduceBits_8u_C1R fs", frameSize, Tier::ssse3, 0.4, "zimg error diffusion"},
+    {"zoriReduceBits_8u_C1R jjn", frameSize, Tier::avx512, 0.5, "zorcc fs"},
+    {"zoriReduceBits_8u_C1R jjn", frameSize, Tier::ssse3, 0.2, "zorcc fs"},
+    {"zoriReduceBits_8u_C1R stucki", frameSize, Tier::avx512, 0.5, "zorcc fs"},
+    {"zoriReduceBits_8u_C1R stucki", frameSize, Tier::ssse3, 0.2, "zorcc fs"},
+    {"zoriReduceBits_8u_C3R ordered", frameSize, Tier::avx512, 0.8, "zimg ordered"},
+    {"zoriReduceBits_8u_C3R ordered", frameSize, Tier::ssse3, 0.32, "zimg ordered"},
+    {"zoriReduceBits_8u_C3R fs", frameSize, Tier::avx512, 1.2, "zimg error diffusion"},
+    {"zoriReduceBits_8u_C3R fs", frameSize, Tier::ssse3, 0.48, "zimg error diffusion"},
     {"zoriYCbCr420_8u_P2P3R", cachedSize, Tier::avx512, 1.1, "libyuv NV12ToI420"},
     {"zoriYCbCr420_8u_P3P2R", cachedSize, Tier::avx512, 1.1, "libyuv I420ToNV12"},
     {"zoriYCbCr420ToYCbCr422_8u_P2C2R", cachedSize, Tier::avx512, 2, "libyuv NV12ToI420 + I420ToYUY2"},
@@ -74,22 +87,15 @@ const Target targets[] = {
 
 // Conversions that only move samples: on the best tier multiples of a memcpy beyond the caches, on the lowest multiples
 // of any peer that is held to the same instructions.
-bool movesSamples(std::string_view function)
-{
-    return interface::findFunction(function)->source->model == interface::Model::anyYcc;
-}
+bool movesSamples(const interface::Function& function) { return function.source->model == interface::Model::anyYcc; }
 constexpr double moveRatio = 0.9;
 
 // On the lowest tier: multiples of any peer that is held to the same instructions, and Mpx/s of any function that
-// computes with integers.
+// computes with integers and has no variants.
 constexpr double ssse3Ratio = 0.5;
 constexpr double ssse3Speed = 1000;
 
-bool usesFloats(std::string_view function)
-{
-    const std::string_view family = interface::findFunction(function)->family;
-    return family == "HLS and HSV";
-}
+bool usesFloats(const interface::Function& function) { return function.family == "HLS and HSV"; }
 
 bool same(ZorSize a, ZorSize b) { return a.width == b.width && a.height == b.height; }
 
@@ -99,9 +105,9 @@ public:
     {
         const bool ok = reached >= wanted;
         (ok ? met : missed)++;
-        std::printf("  %-6s  %-32.*s %-10s %-7s %8.2f, wanted %8.2f %.*s\n", ok ? "ok" : "MISSED",
-                    static_cast<int>(result.function.size()), result.function.data(), sizeName(result.size).c_str(),
-                    nameOf(tier), reached, wanted, static_cast<int>(unit.size()), unit.data());
+        std::printf("  %-6s  %-32s %-10s %-7s %8.2f, wanted %8.2f %.*s\n", ok ? "ok" : "MISSED", result.name.c_str(),
+                    sizeName(result.size).c_str(), nameOf(tier), reached, wanted, static_cast<int>(unit.size()),
+                    unit.data());
     }
 
     bool sum() const
@@ -123,17 +129,17 @@ bool checkTargets(const std::vector<Result>& results)
     for (const Result& result : results) {
         for (const PeerSpeed& peer : result.peers) {
             for (const Target& target : targets)
-                if (target.function == result.function && same(target.size, result.size) && target.peer == peer.name &&
+                if (target.function == result.name && same(target.size, result.size) && target.peer == peer.name &&
                     result.ours.contains(target.tier))
                     judge.judge(result, target.tier, result.ours.at(target.tier) / peer.speed, target.ratio,
                                 "x " + peer.name);
             if (peer.ssse3Only)
                 judge.judge(result, Tier::ssse3, result.ours.at(Tier::ssse3) / peer.speed,
-                            movesSamples(result.function) ? moveRatio : ssse3Ratio, "x " + peer.name);
-            if (peer.name == "memcpy" && same(result.size, frameSize) && movesSamples(result.function))
+                            movesSamples(*result.function) ? moveRatio : ssse3Ratio, "x " + peer.name);
+            if (peer.name == "memcpy" && same(result.size, frameSize) && movesSamples(*result.function))
                 judge.judge(result, bestTier(), result.ours.at(bestTier()) / peer.speed, moveRatio, "x memcpy");
         }
-        if (same(result.size, cachedSize) && !usesFloats(result.function))
+        if (same(result.size, cachedSize) && result.name == result.function->name && !usesFloats(*result.function))
             judge.judge(result, Tier::ssse3, result.ours.at(Tier::ssse3), ssse3Speed, "Mpx/s");
     }
     return judge.sum();

@@ -4,11 +4,10 @@
 
 #include <map>
 #include <string>
-#include <string_view>
 #include <vector>
 
+#include "interface/functions.h"
 #include "simd/tier.h"
-#include "zorcc.h"
 
 namespace zorcc::bench {
 
@@ -20,7 +19,8 @@ struct PeerSpeed {
 };
 
 struct Result {
-    std::string_view function;
+    const interface::Function* function;
+    std::string name; // of the function and its variant
     ZorSize size;
     std::map<Tier, double> ours;
     std::vector<PeerSpeed> peers; // and a memcpy of the same traffic

@@ -15,9 +15,6 @@ constexpr int minGroupedWidth = 128;
 constexpr int maxSerialGroupedHeight = 128;
 constexpr int rowsPerGroup = 4;
 
-// A caller that is parallel itself already keeps the processors busy.
-int teamSize() { return omp_in_parallel() ? 1 : ownGetNumThreads(); }
-
 // Calls body(0) .. body(count - 1), contiguous ranges on each of at most `threads` threads.
 void forEach(int threads, int count, FunctionRef<void(int)> body)
 {
@@ -31,16 +28,21 @@ void forEach(int threads, int count, FunctionRef<void(int)> body)
 
 } // namespace
 
+// A caller that is parallel itself already keeps the processors busy.
+int threadsHere() { return omp_in_parallel() ? 1 : ownGetNumThreads(); }
+
+void sections(int count, FunctionRef<void(int)> section) { forEach(omp_in_parallel() ? 1 : count, count, section); }
+
 void rowsAboveThreshold(int width, int height, FunctionRef<void(int)> row)
 {
-    forEach(int64_t{width} * height > maxSerialPixels ? teamSize() : 1, height, row);
+    forEach(int64_t{width} * height > maxSerialPixels ? threadsHere() : 1, height, row);
 }
 
-void rowsAlways(int height, FunctionRef<void(int)> row) { forEach(teamSize(), height, row); }
+void rowsAlways(int height, FunctionRef<void(int)> row) { forEach(threadsHere(), height, row); }
 
 void bandsAboveThreshold(int width, int height, FunctionRef<void(int, int)> band)
 {
-    const int bands = width >= minBandedSize && height >= minBandedSize ? teamSize() : 1;
+    const int bands = width >= minBandedSize && height >= minBandedSize ? threadsHere() : 1;
     const int share = height / bands;
     forEach(bands, bands, [&](int index) {
         const int first = index * share;
@@ -52,7 +54,7 @@ void bandsAboveThreshold(int width, int height, FunctionRef<void(int, int)> band
 void groupsAboveThreshold(int width, int height, FunctionRef<void(GroupBand)> band)
 {
     const int groups = height / rowsPerGroup;
-    const int threads = width >= minGroupedWidth && height > maxSerialGroupedHeight ? teamSize() : 1;
+    const int threads = width >= minGroupedWidth && height > maxSerialGroupedHeight ? threadsHere() : 1;
     if (threads == 1) {
         band({0, groups, true, true});
         return;

@@ -100,6 +100,42 @@ TEST_P(Parallel, EveryRowOnceFromSeveralThreadsAtOnce)
     for (std::thread& caller : callers) caller.join();
 }
 
+TEST(ParallelSections, EachOnceAndOnAThreadOfItsOwn)
+{
+    ASSERT_EQ(zorSetNumThreads(1), zorStatusOk); // of no consequence: the caller says how many
+    for (int count = 1; count <= 4; ++count) {
+        std::vector<int> times(count);
+        std::set<std::thread::id> threads;
+        std::mutex mutex;
+        sections(count, [&](int index) {
+            const std::lock_guard lock(mutex);
+            ++times.at(index);
+            threads.insert(std::this_thread::get_id());
+        });
+        EXPECT_EQ(times, std::vector<int>(count, 1));
+        EXPECT_EQ(static_cast<int>(threads.size()), count);
+    }
+}
+
+TEST(ParallelSections, OnOneThreadInsideAParallelRegion)
+{
+    ASSERT_EQ(zorSetNumThreads(4), zorStatusOk);
+    EXPECT_EQ(threadsHere(), 4);
+    std::atomic<int> strangers = 0, inside = 0, done = 0;
+#pragma omp parallel num_threads(2)
+    {
+        inside += threadsHere();
+        const auto caller = std::this_thread::get_id();
+        sections(3, [&](int) {
+            ++done;
+            strangers += std::this_thread::get_id() != caller;
+        });
+    }
+    EXPECT_EQ(inside, 2);
+    EXPECT_EQ(done, 6);
+    EXPECT_EQ(strangers, 0);
+}
+
 struct Observation {
     bool forked = false;
     std::set<std::thread::id> threads;

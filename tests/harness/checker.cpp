@@ -14,10 +14,6 @@ using testing::AssertionSuccess;
 
 namespace {
 
-constexpr interface::Extra extra {
-    .alpha = 0x5a
-};
-
 std::string steps(const TestImage& image)
 {
     std::ostringstream text;
@@ -34,6 +30,13 @@ Arrangement Checker::allowed(Arrangement arrangement) const
     return arrangement;
 }
 
+interface::Extra Checker::argumentsOf(const Trial& trial) const
+{
+    return expectation.arguments ? expectation.arguments(tested, trial.seed) : interface::Extra {
+        .alpha = 0x5a
+    };
+}
+
 std::string Checker::heading(const Trial& trial, Tier tier) const
 {
     std::ostringstream text;
@@ -41,6 +44,8 @@ std::string Checker::heading(const Trial& trial, Tier tier) const
          << describe(trial.contents) << " (seed " << trial.seed << "), source: " << describe(allowed(trial.source))
          << " (" << steps(source) << "), destination: " << describe(allowed(trial.destination)) << " ("
          << steps(destination.planes() > 0 ? destination : source) << "): ";
+    if (const interface::Extra extra = argumentsOf(trial); expectation.arguments)
+        text << "noise " << extra.noise << ", method " << extra.method << ", levels " << extra.levels << ": ";
     return text.str();
 }
 
@@ -49,7 +54,7 @@ AssertionResult Checker::runOn(Tier tier, const Trial& trial, const interface::I
 {
     const OnTier chosen(tier);
     ZorStatus status = 0;
-    const auto fault = faultOf([&] { status = tested(from, to.image(), trial.size, extra); });
+    const auto fault = faultOf([&] { status = tested(from, to.image(), trial.size, argumentsOf(trial)); });
     if (fault) {
         const auto [distance, place] = std::min(source.nearest(*fault), to.nearest(*fault));
         return AssertionFailure() << heading(trial, tier) << "touches memory outside its images, " << place
@@ -79,7 +84,7 @@ AssertionResult Checker::check(const Trial& trial, const std::function<void(Test
                         destinationSteps(tested.signature));
     destination.fillPattern(trial.seed + 1);
     destination.copyToShadow();
-    reference::convert(expectation, tested, source.image(), destination.shadow(), trial.size, extra);
+    reference::convert(expectation, tested, source.image(), destination.shadow(), trial.size, argumentsOf(trial));
 
     for (const Tier tier : tiersHere()) {
         destination.fillPattern(trial.seed + 1);
@@ -100,7 +105,7 @@ AssertionResult Checker::checkInPlace(const Trial& trial)
     };
     fillSource();
     source.copyToShadow();
-    reference::convert(expectation, tested, source.image(), source.shadow(), trial.size, extra);
+    reference::convert(expectation, tested, source.image(), source.shadow(), trial.size, argumentsOf(trial));
     for (const Tier tier : tiersHere()) {
         fillSource();
         const interface::Image from = source.image(); // the binder tells images apart by their addresses

@@ -42,6 +42,7 @@ private:
     TestImage source, destination;
 
     Arrangement allowed(Arrangement arrangement) const;
+    interface::Extra argumentsOf(const Trial& trial) const;
     std::string heading(const Trial& trial, Tier tier) const;
     testing::AssertionResult runOn(Tier tier, const Trial& trial, const interface::Image& from, TestImage& to);
 };

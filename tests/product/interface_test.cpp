@@ -31,22 +31,25 @@ const std::vector<string_view> variants = {"709CSC_", "709HDTV_", "Filter_", "In
 const std::vector<string_view> types = {"8u", "16u", "16s", "32s", "32f"};
 const std::vector<string_view> layouts = {"AC4", "AP4", "C1", "C2", "C3", "C4", "P2", "P3", "P4"};
 
+// zori ReduceBits _ <type> [type] _ <layout> R, or
 // zori <model> [packing] [To [model] [packing]] _ [variant _] <type> [type] _ <layout> [layout] [R]; what is not said
 // of the destination is as in the source
 struct Name {
     string_view model[2], packing[2], type[2], layout[2]; // source, destination
     string_view variant;
     bool steps = false, whole = false;
+    bool reduction = false; // keeps the colour model, whichever it is
 
     explicit Name(string_view text)
     {
         bool known = !take(text, {"zori"}).empty();
-        for (const int i : {0, 1}) {
+        reduction = !take(text, {"ReduceBits_"}).empty();
+        for (int i = 0; i < 2 && !reduction; ++i) {
             if (i == 1 && take(text, {"To"}).empty()) break;
             model[i] = take(text, models);
             packing[i] = take(text, packings);
         }
-        known = known && !model[0].empty() && !take(text, {"_"}).empty();
+        known = known && (reduction || (!model[0].empty() && !take(text, {"_"}).empty()));
         if (packing[1].empty() && model[1].empty()) packing[1] = packing[0];
         if (model[1].empty()) model[1] = model[0];
         variant = take(text, variants);
@@ -78,7 +81,8 @@ void expectImage(const Name& name, int i, const Format& format, bool array, bool
 {
     const auto isRgb = [&](int side) { return name.model[side] == "RGB" || name.model[side] == "BGR"; };
     const bool rgb = isRgb(i);
-    const Model model = rgb                          ? Model::rgb
+    const Model model = name.reduction               ? (format.channels.size() == 1 ? Model::grey : Model::rgb)
+                        : rgb                        ? Model::rgb
                         : !isRgb(1 - i)              ? Model::anyYcc
                         : name.model[i] == "YUV"     ? Model::yuv
                         : name.model[i] == "HLS"     ? Model::hls

@@ -25,7 +25,13 @@ def image(role, sample, layout, subsampled, steps):
 
 
 def expected(name):
-    """Parameters of a function up to the size."""
+    """Parameters of a function up to the size, of a bit-depth reduction all."""
+    reduction = re.fullmatch(rf"zoriReduceBits_({TYPE})({TYPE})?_({LAYOUT})R", name)
+    if reduction:
+        from_type, to_type, layout = reduction.groups()
+        return (image("Src", TYPES[from_type], layout, False, True)
+                + image("Dst", TYPES[to_type or from_type], layout, False, True)
+                + ["ZorSize roiSize", "int noise", "ZorDitherMethod method", "int levels"])
     found = re.fullmatch(rf"zori(\w+?)(?:To(\w+?))?_({TYPE})({TYPE})?_({LAYOUT})({LAYOUT})?(R?)", name)
     if not found:
         return None

@@ -10,6 +10,7 @@ void convert(const Case& c, const interface::Function& function, const interface
 {
     const ZorSize used = usedSize(c, size);
     if (used.width == 0 || used.height == 0) return;
+    if (c.imageReference) return c.imageReference(function, source, destination, used, extra);
     const Pixels from(*function.source, source, used);
     Pixels to(*function.destination, destination, used);
     c.reference(from, to);

@@ -13,6 +13,13 @@ namespace zorcc::reference {
 // Writes the colour channels of every pixel that the function converts; source and destination have the same size.
 using Reference = void (*)(const Pixels& source, Pixels& destination);
 
+// The same for a function whose samples depend on each other, on their place, or on arguments: the whole image.
+using ImageReference = void (*)(const interface::Function& function, const interface::Image& source,
+                                const interface::Image& destination, ZorSize size, const interface::Extra& extra);
+
+// Arguments behind the size for a trial: the same seed gives the same ones.
+using Arguments = interface::Extra (*)(const interface::Function& function, std::uint32_t seed);
+
 enum class OddSize {
     plain,   // every pixel is converted
     warning, // whole blocks are converted; zorStatusOddSize when there are pixels beside them
@@ -29,10 +36,12 @@ enum class Checks {
 
 struct Case {
     std::string_view name; // of the exported function
-    Reference reference;
+    Reference reference = nullptr;
     OddSize oddSize = OddSize::plain;
     Checks checks = Checks::sizeFirst;
     ZorSize block = {2, 2}, minimum = {1, 1};
+    ImageReference imageReference = nullptr; // given: in place of the other
+    Arguments arguments = nullptr;
 };
 
 inline ZorStatus statusOf(const Case& c, ZorSize size)

@@ -48,8 +48,9 @@ class Call(unittest.TestCase):
     def test_every_function_there_and_back(self):
         """Each function's result, converted back or compared as it is, is the picture it came from."""
         write_ppm("smooth.ppm", 64, 48, smooth(64, 48))
-        made = {destination for name, source, destination in functions()}
-        for name, source, destination in functions():
+        conversions = [row for row in functions() if "To" in row[0]]
+        made = {destination for name, source, destination in conversions}
+        for name, source, destination in conversions:
             with self.subTest(name):
                 if source in MOVED:
                     continue
@@ -139,6 +140,59 @@ class Call(unittest.TestCase):
             line = zorcc("call", "zoriRGBToYUV420_8u_C3P3R", "c.png", "c.y4m", "--repeat", "3", option)
             self.assertRegex(line, r"^zoriRGBToYUV420_8u_C3P3R: 1 picture of 320x200, "
                                    r"[0-9.]+ megapixels/s \(best of 3\)\n$")
+
+
+class Reduce(unittest.TestCase):
+    RAMP = bytes(range(256)) * 16
+    METHODS = ("none", "ordered", "fs", "jjn", "stucki")
+
+    def reduced(self, source, result, *options):
+        zorcc("reduce", source, result, *options)
+        return read_pnm(result)[3]
+
+    def test_levels_and_mean(self):
+        write("ramp.pgm", b"P5\n256 16\n255\n" + self.RAMP)
+        results = set()
+        for method in self.METHODS:
+            for levels, values in ((2, {0, 255}), (4, {0, 85, 170, 255}), (16, set(range(0, 256, 17)))):
+                samples = self.reduced("ramp.pgm", "out.pgm", "--levels", str(levels), "--dither", method)
+                self.assertEqual(set(samples), values)
+                self.assertAlmostEqual(sum(samples) / len(samples), 127.5, delta=2)
+                results.add(bytes(samples))
+        self.assertEqual(len(results), 15)
+
+    def test_plain_ignores_noise_and_the_others_do_not(self):
+        write("ramp.pgm", b"P5\n256 16\n255\n" + self.RAMP)
+        for method in self.METHODS:
+            plain = self.reduced("ramp.pgm", "plain.pgm", "--dither", method)
+            noisy = self.reduced("ramp.pgm", "noisy.pgm", "--dither", method, "--noise", "50")
+            self.assertEqual(plain == noisy, method == "none")
+
+    def test_floyd_steinberg_at_two_levels_by_default(self):
+        write("ramp.pgm", b"P5\n256 16\n255\n" + self.RAMP)
+        self.assertEqual(self.reduced("ramp.pgm", "usual.pgm"),
+                         self.reduced("ramp.pgm", "named.pgm", "--levels", "2", "--dither", "fs", "--noise", "0"))
+
+    def test_colours_and_alpha_of_png(self):
+        write_png("rgb.png", [[(0, 100, 200), (255, 127, 128)]], 8, RGB)
+        zorcc("reduce", "rgb.png", "out.png", "--dither", "none")
+        self.assertEqual(read_png("out.png"), (8, RGB, [[(0, 0, 255), (255, 0, 255)]]))
+        write_png("alpha.png", [[(0, 40000, 30000, 12345)]], 16, RGB_ALPHA)
+        zorcc("reduce", "alpha.png", "out.png", "--dither", "none", "--levels", "4")
+        self.assertEqual(read_png("out.png"), (16, RGB_ALPHA, [[(0, 43690, 21845, 12345)]]))
+
+    def test_words_and_floats(self):
+        write("deep.pgm", b"P5\n3 1\n65535\n" + struct.pack(">3H", 1000, 32768, 65535))
+        zorcc("reduce", "deep.pgm", "out.pgm", "--dither", "none")
+        self.assertEqual(read("out.pgm")[-6:], struct.pack(">3H", 0, 65535, 65535))
+        write("float.pfm", b"Pf\n4 1\n-1.0\n" + struct.pack("<4f", -3.0, 0.3, 0.6, math.nan))
+        zorcc("reduce", "float.pfm", "out.pfm", "--dither", "none", "--levels", "3")
+        for value, wanted in zip(struct.unpack("<4f", read("out.pfm")[-16:]), (0, 0.5, 0.5, 0), strict=True):
+            self.assertAlmostEqual(value, wanted, delta=1e-4)
+
+    def test_stats(self):
+        write("ramp.pgm", b"P5\n256 16\n255\n" + self.RAMP)
+        self.assertRegex(zorcc("reduce", "ramp.pgm", "out.pgm", "--stats"), r"^zoriReduceBits_8u_C1R: 1 picture of 256x16")
 
 
 class Convert(unittest.TestCase):

@@ -62,6 +62,12 @@ P3 = "zoriYUV420ToRGB_8u_P3C3R"
 
 # command line, exit code, what the line on stderr holds
 CASES = [
+    ("reduce good.png out.png --levels 1", USAGE, "--levels"),
+    ("reduce good.png out.png --levels 257", FAILED, "good.png: zoriReduceBits_8u_C3R: so many levels"),
+    ("reduce good.png out.png --noise 101", USAGE, "--noise"),
+    ("reduce good.png out.png --dither best", USAGE, "--dither"),
+    ("reduce good.y4m out.png", FAILED, "good.y4m: cannot reduce yuv420p"),
+    ("reduce missing.png out.png", FAILED, "missing.png: No such file"),
     ("convert missing.png out.png", FAILED, "missing.png: No such file"),
     ("convert folder out.png", FAILED, "folder: Is a directory"),
     ("convert empty.png out.png", FAILED, "empty.png: the file is empty"),

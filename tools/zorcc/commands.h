@@ -36,9 +36,17 @@ struct ConvertOptions {
     Timing timing;
 };
 
+struct ReduceOptions {
+    std::string in, out;
+    int levels = 2, noise = 0;
+    ZorDitherMethod dither = zorDitherMethodFloydSteinberg;
+    Timing timing;
+};
+
 void list(const std::string& pattern);
 void call(const CallOptions& options);
 void convert(const ConvertOptions& options);
+void reduce(const ReduceOptions& options);
 void chart(const std::string& out, ZorSize size);
 void compare(const std::string& a, const std::string& b);
 void sheet(const std::string& out, const std::vector<std::string>& in);

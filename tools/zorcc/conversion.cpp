@@ -12,8 +12,6 @@ namespace zorcc::tool {
 
 namespace {
 
-constexpr std::uint8_t opaque = 255;
-
 std::string statusText(ZorStatus status)
 {
     switch (status) {
@@ -25,6 +23,8 @@ std::string statusText(ZorStatus status)
         return "not enough memory";
     case zorStatusBadStep:
         return "bad step";
+    case zorStatusDitherLevels:
+        return "so many levels are not possible";
     default:
         return "status " + std::to_string(status);
     }
@@ -70,7 +70,8 @@ std::string Stats::line(const std::string& what, ZorSize size, int repeat) const
     return what + text;
 }
 
-Picture run(const Function& function, const Picture& source, int repeat, Stats& stats, ZorStatus& status)
+Picture run(const Function& function, const Picture& source, int repeat, Stats& stats, ZorStatus& status,
+            const interface::Extra& arguments)
 {
     using Clock = std::chrono::steady_clock;
     Picture destination(*function.destination, source.size(), source.visible());
@@ -78,7 +79,7 @@ Picture run(const Function& function, const Picture& source, int repeat, Stats& 
     Clock::duration best = Clock::duration::max();
     for (int i = 0; i < repeat; ++i) {
         const Clock::time_point start = Clock::now();
-        status = function(source.image(), destination.image(), source.size(), {.alpha = opaque});
+        status = function(source.image(), destination.image(), source.size(), arguments);
         best = std::min(best, Clock::now() - start);
         if (status < 0) throw Cause(std::string(function.name) + ": " + statusText(status));
     }

@@ -63,6 +63,7 @@ struct Options {
     std::string pattern;
     CallOptions call;
     ConvertOptions convert;
+    ReduceOptions reduce;
     std::string chartOut, sheetOut, compareA, compareB;
     ZorSize chartSize = {1280, 720};
     std::vector<std::string> sheetIn;
@@ -129,6 +130,36 @@ void addCommands(CLI::App& app, Options& o)
         "  zorcc convert clip.y4m clip.yuv --to nv12\n"
         "  zorcc convert --size 720x576 --format nv12 clip.yuv clip.y4m --deinterlace");
     command->callback([&o] { convert(o.convert); });
+
+    command =
+        app.add_subcommand("reduce", "Reduce a picture to a few levels of each channel, with or without dithering");
+    command->add_option("IN", o.reduce.in, "PNG, JPEG, PPM, PGM or PFM file")->required();
+    command->add_option("OUT", o.reduce.out, "result")->required();
+    command->add_option("--levels", o.reduce.levels, "from black to white; up to 256, of 16-bit files 65536")
+        ->type_name("N")
+        ->check(CLI::Range(2, 65536))
+        ->capture_default_str();
+    command
+        ->add_option("--dither", o.reduce.dither,
+                     "none, ordered, fs (Floyd-Steinberg), jjn (Jarvis-Judice-Ninke), stucki")
+        ->type_name("METHOD")
+        ->default_str("fs")
+        ->transform(
+            CLI::CheckedTransformer(std::map<std::string, ZorDitherMethod>{{"none", zorDitherMethodNone},
+                                                                           {"ordered", zorDitherMethodOrdered},
+                                                                           {"fs", zorDitherMethodFloydSteinberg},
+                                                                           {"jjn", zorDitherMethodJarvisJudiceNinke},
+                                                                           {"stucki", zorDitherMethodStucki}}));
+    command->add_option("--noise", o.reduce.noise, "random part of dithering, in percent of a level")
+        ->type_name("P")
+        ->check(CLI::Range(0, 100))
+        ->capture_default_str();
+    addTiming(command, o.reduce.timing);
+    command->footer("8-bit files stay 8-bit, others become 16-bit; alpha stays as it is.\n"
+                    "Examples:\n"
+                    "  zorcc reduce photo.png poster.png --levels 4\n"
+                    "  zorcc reduce deep.png photo.png --levels 256 --dither ordered --noise 20");
+    command->callback([&o] { reduce(o.reduce); });
 
     command = app.add_subcommand("chart", "Draw the test picture");
     command->add_option("OUT", o.chartOut, "PNG, JPEG, PPM or PFM file")->required();

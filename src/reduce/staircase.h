@@ -1,0 +1,128 @@
+// SPDX-License-Identifier: MIT
+// Bytes to a few levels by comparisons alone. For one threshold the output is a staircase over the 256 inputs; where
+// its steps are is found by asking the formula about every input, so the bytes are the formula's, however it rounds.
+#pragma once
+
+#include "reduce/sample_loop.h"
+#include "reduce/samples.h"
+#include "reduce/thresholds.h"
+
+namespace zorcc::ZORCC_TIER {
+namespace {
+
+// count + 1 where a > b.
+ZORCC_INLINE u8v countGreater(u8v count, s8v a, s8v b)
+{
+#if defined(ZORCC_TIER_avx512)
+    return (u8v)_mm512_mask_sub_epi8(reg(count), _mm512_cmpgt_epi8_mask(reg(a), reg(b)), reg(count),
+                                     _mm512_set1_epi8(-1));
+#else
+    return count - (u8v)(a > b); // true is -1
+#endif
+}
+
+class Staircases {
+public:
+    // Samples of an image from which on the construction pays.
+    static constexpr int64_t minSamples = 1 << 15;
+
+    // False where there are too many outputs, or one that is less than that of a lesser input: then the formula itself
+    // must be used. The output for input 0 must not depend on the threshold.
+    template <class Formula> bool build(const Formula& formula, const float (&thresholds)[bayerSide][bayerSide])
+    {
+        bool present[256] = {};
+        for (int y = 0; y < bayerSide; ++y)
+            for (int x = 0; x < bayerSide; ++x) {
+                uint8_t* const output = outputs[y][x];
+                staircase[y][x] = thresholds[y][x] == thresholds[0][0] ? outputs[0][0] : output;
+                if (y + x > 0 && staircase[y][x] != output) continue;
+                evaluate(formula, thresholds[y][x], output);
+                if (falls(output)) return false;
+                for (int i = 0; i < 256; i = firstAbove(output, output[i])) present[output[i]] = true;
+            }
+        int count = 0;
+        for (int v = 0; v < 256; ++v) {
+            if (!present[v]) continue;
+            if (count == maxValues) return false;
+            values[count++] = static_cast<uint8_t>(v);
+        }
+        rises = count - 1;
+        return true;
+    }
+
+    // How the samples of a row belong to pixels.
+    void spread(int channels)
+    {
+        for (int y = 0; y < bayerSide; ++y)
+            for (int r = 0; r < rises; ++r) {
+                int8_t last[bayerSide]; // input whose output is not above value r; less 128
+                for (int x = 0; x < bayerSide; ++x)
+                    last[x] = static_cast<int8_t>(firstAbove(staircase[y][x], values[r]) - 129);
+                int8_t* const row = below[y][r];
+                for (int i = 0; i < period; ++i) row[i] = last[i / channels % bayerSide];
+                for (int i = period; i < period + step; i += period) __builtin_memcpy(row + i, row, period);
+            }
+    }
+
+    template <bool keepAlpha> void convertRow(const uint8_t* src, uint8_t* dst, ptrdiff_t samples, int y) const
+    {
+        const auto& row = below[y % bayerSide];
+        const u8v value = fillBlock(_mm_load_si128((const __m128i*)values));
+        convertSamples<step>(src, dst, samples, [&](const uint8_t* from, uint8_t* to, ptrdiff_t i) {
+            const ptrdiff_t phase = i % period;
+            u8v count[3] = {};
+            s8v v[3];
+            for (int k = 0; k < 3; ++k) v[k] = (s8v)(load(from + k * vectorBytes) ^ 0x80); // signed comparison
+            for (int r = 0; r < rises; ++r)
+                for (int k = 0; k < 3; ++k)
+                    count[k] = countGreater(count[k], v[k], load<s8v>(row[r] + phase + k * vectorBytes));
+            for (int k = 0; k < 3; ++k) {
+                u8v out = shuffle(value, count[k]);
+                if constexpr (keepAlpha) {
+                    const u8v alpha = fillBlock(_mm_set1_epi32(static_cast<int>(0xff000000)));
+                    out = (out & ~alpha) | (load(to + k * vectorBytes) & alpha);
+                }
+                store(to + k * vectorBytes, out);
+            }
+        });
+    }
+
+private:
+    static constexpr int maxValues = 16;         // what one shuffle can look up
+    static constexpr int period = 48;            // samples after which all layouts repeat their thresholds
+    static constexpr int step = 3 * vectorBytes; // a multiple of it
+
+    uint8_t outputs[bayerSide][bayerSide][256];
+    const uint8_t* staircase[bayerSide][bayerSide]; // those of one threshold are one
+    alignas(16) uint8_t values[maxValues] = {};
+    int rises;
+    alignas(64) int8_t below[bayerSide][maxValues - 1][period + step];
+
+    template <class Formula> static void evaluate(const Formula& formula, float threshold, uint8_t* output)
+    {
+        for (int i = 0; i < 256; i += lanes) {
+            f32v input;
+            for (int j = 0; j < lanes; ++j) input[j] = static_cast<float>(i + j);
+            storeSamples(output + i, formula(input, fillFloat(threshold)));
+        }
+    }
+
+    static bool falls(const uint8_t* output)
+    {
+        bool anywhere = false;
+        for (int i = 1; i < 256; ++i) anywhere |= output[i] < output[i - 1];
+        return anywhere;
+    }
+
+    // The first input whose output is above `value`; 256 if there is none.
+    static int firstAbove(const uint8_t* output, int value)
+    {
+        int first = 0;
+        for (int size = 128; size > 0; size /= 2)
+            if (output[first + size - 1] <= value) first += size;
+        return first + (output[first] <= value);
+    }
+};
+
+} // namespace
+} // namespace zorcc::ZORCC_TIER

@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: MIT
+#include <iterator>
+#include <random>
+#include <vector>
+
+#include "tests/harness/cases.h"
+#include "tests/reference/reduce.h"
+
+namespace zorcc::test {
+
+using namespace reference;
+using interface::Extra;
+
+namespace {
+
+int maxLevels(const interface::Function& function)
+{
+    const bool words = interface::sampleBytes(function.source->sample) == 2 &&
+                       interface::sampleBytes(function.destination->sample) == 2;
+    return words ? 65536 : 256;
+}
+
+// Every method; levels that divide white and that do not, few and many.
+Extra anyArguments(const interface::Function& function, std::uint32_t seed)
+{
+    std::minstd_rand random(seed + 1);
+    const auto below = [&](int count) { return static_cast<int>(random() / 7 % static_cast<unsigned>(count)); };
+    constexpr int usual[] = {2, 3, 4, 5, 6, 8, 15, 16, 17, 18, 52, 86, 103, 255, 256};
+    constexpr int noises[] = {1, 37, 50, 99, 100};
+    Extra extra;
+    extra.method = static_cast<ZorDitherMethod>(below(zorDitherMethodOrdered + 1));
+    extra.noise = below(2) ? 0 : noises[below(static_cast<int>(std::size(noises)))];
+    extra.levels = below(2) ? usual[below(static_cast<int>(std::size(usual)))] : 2 + below(maxLevels(function) - 1);
+    return extra;
+}
+
+constexpr struct {
+    std::string_view name;
+    ImageReference reference;
+} table[] = {
+    {"zoriReduceBits_8u_C1R", reduceBits},     {"zoriReduceBits_8u_C3R", reduceBits},
+    {"zoriReduceBits_8u_C4R", reduceBits},     {"zoriReduceBits_8u_AC4R", reduceBits},
+    {"zoriReduceBits_16u_C1R", reduceBits},    {"zoriReduceBits_16u_C3R", reduceBits},
+    {"zoriReduceBits_16u_C4R", reduceBits},    {"zoriReduceBits_16u_AC4R", reduceBits},
+    {"zoriReduceBits_16u8u_C1R", reduceBits},  {"zoriReduceBits_16u8u_C3R", reduceBits},
+    {"zoriReduceBits_16u8u_C4R", reduceBits},  {"zoriReduceBits_16u8u_AC4R", reduceBits},
+    {"zoriReduceBits_16s_C1R", reduceBits},    {"zoriReduceBits_16s_C3R", reduceBits},
+    {"zoriReduceBits_16s_C4R", reduceBits},    {"zoriReduceBits_16s_AC4R", reduceBits},
+    {"zoriReduceBits_16s8u_C1R", reduceBits},  {"zoriReduceBits_16s8u_C3R", reduceBits},
+    {"zoriReduceBits_16s8u_C4R", reduceBits},  {"zoriReduceBits_16s8u_AC4R", reduceBits},
+    {"zoriReduceBits_32f8u_C1R", reduceBits},  {"zoriReduceBits_32f8u_C3R", reduceBits},
+    {"zoriReduceBits_32f8u_C4R", reduceBits},  {"zoriReduceBits_32f8u_AC4R", reduceBits},
+    {"zoriReduceBits_32f16u_C1R", reduceBits}, {"zoriReduceBits_32f16u_C3R", reduceBits},
+    {"zoriReduceBits_32f16u_C4R", reduceBits}, {"zoriReduceBits_32f16u_AC4R", reduceBits},
+    {"zoriReduceBits_32f16s_C1R", reduceBits}, {"zoriReduceBits_32f16s_C3R", reduceBits},
+    {"zoriReduceBits_32f16s_C4R", reduceBits}, {"zoriReduceBits_32f16s_AC4R", reduceBits},
+};
+
+std::vector<Case> allCases()
+{
+    std::vector<Case> cases;
+    for (const auto& row : table)
+        cases.push_back({.name = row.name, .imageReference = row.reference, .arguments = anyArguments});
+    return cases;
+}
+
+} // namespace
+
+std::span<const Case> familyCases()
+{
+    static const std::vector<Case> cases = allCases();
+    return cases;
+}
+
+} // namespace zorcc::test
