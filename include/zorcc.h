@@ -284,6 +284,35 @@ ZOR_API ZorStatus zoriCbYCr422ToBGR_709HDTV_8u_C2C3R(const uint8_t* pSrc, int sr
 ZOR_API ZorStatus zoriCbYCr422ToBGR_709HDTV_8u_C2C4R(const uint8_t* pSrc, int srcStep, uint8_t* pDst, int dstStep,
                                                      ZorSize roiSize, uint8_t aval);
 
+/*
+ * ---- Demosaicing ----------------------------------------------------------------------------------------------------
+ *
+ * A Bayer mosaic, one colour sample a pixel in a repeating 2 x 2 cell, to R, G, B in memory order. `grid` names the
+ * cell at pixel (0, 0) of the source image, whatever the region. `pSrc` points to pixel (0, 0) of the source image of
+ * `srcSize` pixels; `srcRoi` is the region of it to fill in, and neighbours outside the region but inside the image are
+ * used: the colours of a pixel do not depend on the region. The part of the region that lies outside the image is left
+ * out, and the first destination pixel is the first one inside; a region wholly outside is zorStatusOk, with nothing
+ * written. Statuses, in this order:
+ *   zorStatusNullPointer  source or destination is null
+ *   zorStatusBadSize      the source image is too small
+ *   zorStatusBadArgument  the grid is none of ZorBayerGrid
+ * Steps are not checked.
+ */
+
+/*
+ * Interpolation along the smaller gradient; images from 2 x 2. All averages are rounded half up. At a red or blue pixel
+ * of value X, green is the average of the two neighbours above and below if X differs less from the X two rows up to
+ * the one two rows down than from two columns left to two columns right, of those left and right if more, and of all
+ * four if both are equal; the opposite colour is the average of the four diagonal neighbours. At a green pixel, red and
+ * blue are averages of two neighbours. In the outer two columns and rows of the image green is always the average of
+ * four, and a neighbour outside the image is replaced by the one on the other side of the pixel. `interpolation` is not
+ * looked at. On several threads where at least 192 x 192 pixels of the region lie inside that frame.
+ */
+ZOR_API ZorStatus zoriCFAToRGB_8u_C1C3R(const uint8_t* pSrc, ZorRect srcRoi, ZorSize srcSize, int srcStep,
+                                        uint8_t* pDst, int dstStep, ZorBayerGrid grid, int interpolation);
+ZOR_API ZorStatus zoriCFAToRGB_16u_C1C3R(const uint16_t* pSrc, ZorRect srcRoi, ZorSize srcSize, int srcStep,
+                                         uint16_t* pDst, int dstStep, ZorBayerGrid grid, int interpolation);
+
 #ifdef __cplusplus
 }
 #endif

@@ -18,9 +18,10 @@ struct Image {
     int step[maxPlanes] = {};
 };
 
-// Arguments behind the size; each function takes those that its signature asks for.
+// Arguments beside images and size; each function takes those that its signature asks for.
 struct Extra {
     std::uint8_t alpha = 0;
+    ZorBayerGrid grid = zorBayerRGGB;
 };
 
 // What the binder consumes from: images in order, then the extras.
@@ -100,6 +101,18 @@ template <> struct Argument<ZorSize> {
     ZorSize value;
     explicit Argument(Call& call) : value(call.size) {}
     operator ZorSize() const { return value; }
+};
+
+template <> struct Argument<ZorRect> { // the whole image as the region
+    ZorRect value;
+    explicit Argument(Call& call) : value{0, 0, call.size.width, call.size.height} {}
+    operator ZorRect() const { return value; }
+};
+
+template <> struct Argument<ZorBayerGrid> {
+    ZorBayerGrid value;
+    explicit Argument(Call& call) : value(call.extra.grid) {}
+    operator ZorBayerGrid() const { return value; }
 };
 
 template <> struct Argument<std::uint8_t> {

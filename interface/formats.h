@@ -7,9 +7,9 @@
 
 namespace zorcc::interface {
 
-// Colour models: grey, R'G'B', analogue-television Y'UV, and Y'CbCr by its matrix. In channel strings U stands for Cb,
-// V for Cr.
-enum class Model { grey, rgb, yuv, bt601, bt709, bt709full };
+// Colour models: Bayer mosaics, grey, R'G'B', analogue-television Y'UV, and Y'CbCr by its matrix. In channel strings U
+// stands for Cb, V for Cr.
+enum class Model { mosaic, grey, rgb, yuv, bt601, bt709, bt709full };
 
 enum class Sample { u8, u16, s16, s32, f32 };
 
@@ -103,6 +103,10 @@ inline constexpr Format grey8 = interleaved("grey8", "G", Model::grey, Sample::u
 inline constexpr Format grey16 = interleaved("grey16", "G", Model::grey, Sample::u16);
 inline constexpr Format grey16s = interleaved("grey16s", "G", Model::grey, Sample::s16);
 inline constexpr Format greyf32 = interleaved("greyf32", "G", Model::grey, Sample::f32);
+
+// One sample a pixel, of the colour that its place in the mosaic tells.
+inline constexpr Format bayer8 = interleaved("bayer8", "M", Model::mosaic, Sample::u8);
+inline constexpr Format bayer16 = interleaved("bayer16", "M", Model::mosaic, Sample::u16);
 
 inline constexpr Format yuv24 = interleaved("yuv24", "YUV", Model::yuv, Sample::u8);
 inline constexpr Format yuva = interleaved("yuva", "YUVA", Model::yuv, Sample::u8);

@@ -27,6 +27,8 @@ const Row rows[] = {
     {"zoriYUV420ToBGR_8u_P3C3R", "YUV2BGR_I420", cv::COLOR_YUV2BGR_I420},
     {"zoriYUV420ToRGB_8u_P3AC4R", "YUV2RGBA_I420", cv::COLOR_YUV2RGBA_I420},
     {"zoriYUV422ToRGB_8u_C2C3R", "YUV2RGB_YUYV", cv::COLOR_YUV2RGB_YUYV},
+    {"zoriCFAToRGB_8u_C1C3R", "BayerRGGB2RGB_EA", cv::COLOR_BayerRGGB2RGB_EA},
+    {"zoriCFAToRGB_16u_C1C3R", "BayerRGGB2RGB_EA", cv::COLOR_BayerRGGB2RGB_EA},
 };
 
 // A matrix over our memory. It takes planar 4:2:0 as one matrix half as high again, the planes behind one another.
@@ -34,7 +36,8 @@ cv::Mat matrix(const Format& format, const Image& image, ZorSize size)
 {
     if (format.layout == Layout::planar)
         return {size.height * 3 / 2, size.width, CV_8UC1, image.plane[0], static_cast<size_t>(image.step[0])};
-    return {size.height, size.width, CV_8UC(format.plane[0].samples), image.plane[0],
+    const int depth = format.sample == interface::Sample::u16 ? CV_16U : CV_8U;
+    return {size.height, size.width, CV_MAKETYPE(depth, format.plane[0].samples), image.plane[0],
             static_cast<size_t>(image.step[0])};
 }
 

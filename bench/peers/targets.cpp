@@ -44,6 +44,10 @@ const Target targets[] = {
     {"zoriYCbCrToRGB_8u_P3R", frameSize, Tier::avx512, 1.3, "zimg 601"},
     {"zoriYCbCr422ToRGB_8u_C2C3R", cachedSize, Tier::avx512, 1.5, "libyuv YUY2ToARGB + ARGBToRAW"},
     {"zoriYCbCr422ToRGB_8u_C2C3R", frameSize, Tier::avx512, 1.3, "libyuv YUY2ToARGB + ARGBToRAW"},
+    {"zoriCFAToRGB_8u_C1C3R", frameSize, Tier::avx512, 5, "OpenCV BayerRGGB2RGB_EA"},
+    {"zoriCFAToRGB_8u_C1C3R", frameSize, Tier::ssse3, 1.5, "OpenCV BayerRGGB2RGB_EA"},
+    {"zoriCFAToRGB_16u_C1C3R", frameSize, Tier::avx512, 8, "OpenCV BayerRGGB2RGB_EA"},
+    {"zoriCFAToRGB_16u_C1C3R", frameSize, Tier::ssse3, 3, "OpenCV BayerRGGB2RGB_EA"},
 };
 
 // On the lowest tier: multiples of any peer that is held to the same instructions, and Mpx/s of any function.

@@ -117,10 +117,18 @@ ZORCC_INLINE s16v addOneWhere(s16v v, u16v a, u16v b)
 #endif
 }
 
+// (a + b + 1) / 2, and (a + b) / 2, of each byte.
+ZORCC_INLINE u8v averageUp(u8v a, u8v b) { return (u8v)ZORCC_MM(avg_epu8)(reg(a), reg(b)); }
+ZORCC_INLINE u8v averageDown(u8v a, u8v b) { return averageUp(a, b) - ((a ^ b) & 1); }
+
+ZORCC_INLINE u16v averageUp(u16v a, u16v b) { return (u16v)ZORCC_MM(avg_epu16)(reg(a), reg(b)); }
+
 // ---- saturation ----------------------------------------------------------------------------------------------------
 
 ZORCC_INLINE u8v addSaturate(u8v a, u8v b) { return (u8v)ZORCC_MM(adds_epu8)(reg(a), reg(b)); }
 ZORCC_INLINE u8v subSaturate(u8v a, u8v b) { return (u8v)ZORCC_MM(subs_epu8)(reg(a), reg(b)); }
+
+ZORCC_INLINE u16v subSaturate(u16v a, u16v b) { return (u16v)ZORCC_MM(subs_epu16)(reg(a), reg(b)); }
 
 ZORCC_INLINE u8v clamp(u8v v, int low, int high)
 {
