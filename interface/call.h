@@ -126,6 +126,7 @@ struct Signature {
     bool steps;                         // takes steps at all; otherwise rows follow each other without gaps
     bool sourceArray, destinationArray; // takes an array of plane pointers
     bool sourceSteps, destinationSteps; // takes a step for every plane; otherwise one step serves all
+    bool scratch;                       // takes scratch memory behind a grid, as plane 1 of the destination
 };
 
 template <class T> inline constexpr bool isSourceArray = false;
@@ -147,12 +148,14 @@ template <class... Parameters, ZorStatus (*function)(Parameters...)> struct Boun
     static constexpr Signature signature()
     {
         Signature s{};
-        bool destination = false;
+        bool destination = false, mosaic = false;
         auto look = [&]<class T>(std::type_identity<T>) {
             s.steps |= std::is_same_v<T, int> || std::is_same_v<T, const int*>;
             s.sourceArray |= isSourceArray<T>;
             s.destinationArray |= isDestinationArray<T>;
             (destination ? s.destinationSteps : s.sourceSteps) |= std::is_same_v<T, const int*>;
+            s.scratch |= mosaic && isDestination<T>;
+            mosaic |= std::is_same_v<T, ZorBayerGrid>;
             destination |= isDestination<T>;
         };
         (look(std::type_identity<Parameters>{}), ...);

@@ -21,11 +21,8 @@ struct Function {
     Signature signature;
     ZorStatus (*bound)(Call&);
 
-    ZorStatus operator()(const Image& from, const Image& to, ZorSize size, const Extra& extra = {}) const
-    {
-        Call call{from, to, size, extra};
-        return bound(call);
-    }
+    // Functions that take scratch memory get some.
+    ZorStatus operator()(const Image& from, const Image& to, ZorSize size, const Extra& extra = {}) const;
 };
 
 std::span<const Function> functions();

@@ -14,6 +14,8 @@ namespace {
 std::string_view channelNames(Model model)
 {
     switch (model) {
+    case Model::mosaic:
+        return "M";
     case Model::grey:
         return "G";
     case Model::rgb:

@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+// The space in which the homogeneity of a candidate is judged: CIE 1976 L*a*b* of sRGB primaries and white D65, but for
+// a common factor. Linear in the samples up to here, so that values out of range need no limit.
+#pragma once
+
+#include "simd/floats.h"
+
+namespace zorcc::ZORCC_TIER {
+namespace {
+
+struct Lab {
+    f32v light, red, blue; // f(Y), 2.5 (f(X) - f(Y)), f(Y) - f(Z): L*, a* and b* in the proportion of 116 : 500 : 200
+};
+
+struct LabLines {
+    float *light, *red, *blue;
+};
+
+ZORCC_INLINE void storeLab(const Lab& lab, const LabLines& to, int i)
+{
+    store(to.light + i, lab.light);
+    store(to.red + i, lab.red);
+    store(to.blue + i, lab.blue);
+}
+
+// t^(1/3), within 1e-5 of it, where t is above 0.008856; otherwise the line that continues it. The exponent of y is a
+// third of that of t, of the other sign: u = t y^3 lies between 0.893 and 1.108, and t y^2 times a polynomial for
+// u^(-2/3) (through its values at the Chebyshev nodes) is the root.
+ZORCC_INLINE f32v labCurve(f32v t)
+{
+    const s32v third = (s32v)mulHigh((u16v)t, (u16v)fill16(21845)); // in halves, which is near enough
+    const f32v y = (f32v)(fill32(0x54a14000) - third);
+    const f32v root = t * y * y, u = root * y;
+    const f32v power = ((u * -0.4979975f + 2.0547649f) * u - 3.2822008f) * u + 2.7254261f;
+    return select(t > fillFloat(0.008856f), root * power, t * 7.787037f + 0.137931f);
+}
+
+// From green and the differences of red and blue to it, for samples of 16 bits. The coefficients of green are the sums
+// of the matrix's rows.
+ZORCC_INLINE Lab toLab(f32v green, f32v redLessGreen, f32v blueLessGreen)
+{
+    constexpr float unit = 1 / 257.f; // the matrix is for samples of 8 bits
+    const auto part = [&](f32v gray, float red, float blue) {
+        return gray + redLessGreen * (red * unit) + blueLessGreen * (blue * unit);
+    };
+    const f32v gray = green * (0.003922f * unit);
+    const f32v x = labCurve(part(green * (0.003921f * unit), 0.001702f, 0.000744f));
+    const f32v y = labCurve(part(gray, 0.000834f, 0.000283f));
+    const f32v z = labCurve(part(gray, 0.00007f, 0.003423f));
+    return {y, (x - y) * 2.5f, y - z};
+}
+
+} // namespace
+} // namespace zorcc::ZORCC_TIER
