@@ -34,6 +34,9 @@ std::vector<Library> libraries()
 #ifdef ZORCC_PEER_ZIMG
     all.push_back(zimg());
 #endif
+#ifdef ZORCC_PEER_LIBRAW
+    all.push_back(libRaw());
+#endif
     return all;
 }
 

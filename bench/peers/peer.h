@@ -40,5 +40,6 @@ Library libyuv();
 Library swscale();
 Library openCV();
 Library zimg();
+Library libRaw();
 
 } // namespace zorcc::bench
