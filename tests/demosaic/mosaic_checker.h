@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <span>
+#include <string>
 #include <string_view>
 
 #include "tests/harness/contents.h"
@@ -68,8 +69,7 @@ private:
 // The part of a rectangle inside an image.
 ZorRect inside(ZorRect rect, ZorSize size);
 
-} // namespace zorcc::test
-
-namespace zorcc::test {
+// For googletest.
+inline std::string nameOfMethod(const testing::TestParamInfo<Method>& info) { return std::string(info.param.name); }
 inline void PrintTo(const Method& m, std::ostream* out) { *out << m.name; }
 } // namespace zorcc::test

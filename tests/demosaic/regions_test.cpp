@@ -141,8 +141,6 @@ TEST_P(Threads, AnyNumber)
     }
 }
 
-std::string nameOfMethod(const testing::TestParamInfo<Method>& info) { return std::string(info.param.name); }
-
 INSTANTIATE_TEST_SUITE_P(Functions, Regions, testing::ValuesIn(methods().begin(), methods().end()), nameOfMethod);
 INSTANTIATE_TEST_SUITE_P(Functions, Threads, testing::ValuesIn(methods().begin(), methods().end()), nameOfMethod);
 

@@ -25,7 +25,7 @@ string_view take(string_view& text, const std::vector<string_view>& words)
     return {};
 }
 
-const std::vector<string_view> models = {"RGB", "BGR", "YUV", "YCbCr", "YCrCb", "CbYCr"};
+const std::vector<string_view> models = {"CFA", "RGB", "BGR", "YUV", "YCbCr", "YCrCb", "CbYCr"};
 const std::vector<string_view> packings = {"422", "420", "411", "565"};
 const std::vector<string_view> variants = {"709CSC_", "709HDTV_", "Filter_"};
 const std::vector<string_view> types = {"8u", "16u", "16s", "32s", "32f"};
@@ -40,7 +40,12 @@ struct Name {
     explicit Name(string_view text)
     {
         bool known = !take(text, {"zori"}).empty();
+        if (!take(text, {"DemosaicAHD_"}).empty()) { // what it converts between goes without saying
+            model[0] = "CFA";
+            model[1] = "RGB";
+        }
         for (const int i : {0, 1}) {
+            if (!model[i].empty()) continue;
             model[i] = take(text, models);
             packing[i] = take(text, packings);
             known = known && !model[i].empty() && !take(text, {i == 0 ? "To" : "_"}).empty();
@@ -74,6 +79,7 @@ void expectImage(const Name& name, int i, const Format& format, bool array, bool
 {
     const bool rgb = name.model[i] == "RGB" || name.model[i] == "BGR";
     const Model model = rgb                          ? Model::rgb
+                        : name.model[i] == "CFA"     ? Model::mosaic
                         : name.model[i] == "YUV"     ? Model::yuv
                         : name.variant == "709CSC_"  ? Model::bt709
                         : name.variant == "709HDTV_" ? Model::bt709full

@@ -46,6 +46,8 @@ class Call(unittest.TestCase):
         write_ppm("smooth.ppm", 64, 48, smooth(64, 48))
         made = {destination for name, source, destination in functions()}
         for name, source, destination in functions():
+            if source.startswith("bayer"):
+                continue  # demosaic_test.py
             with self.subTest(name):
                 to_rgb = name.split("_")[0].endswith(("ToRGB", "ToBGR"))
                 if to_rgb and source not in made:

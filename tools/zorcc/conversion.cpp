@@ -47,7 +47,8 @@ std::string Stats::line(const std::string& what, ZorSize size, int repeat) const
     return what + text;
 }
 
-Picture run(const Function& function, const Picture& source, int repeat, Stats& stats, ZorStatus& status)
+Picture run(const Function& function, const Picture& source, int repeat, Stats& stats, ZorStatus& status,
+            ZorBayerGrid grid)
 {
     using Clock = std::chrono::steady_clock;
     Picture destination(*function.destination, source.size(), source.visible());
@@ -55,7 +56,7 @@ Picture run(const Function& function, const Picture& source, int repeat, Stats& 
     Clock::duration best = Clock::duration::max();
     for (int i = 0; i < repeat; ++i) {
         const Clock::time_point start = Clock::now();
-        status = function(source.image(), destination.image(), source.size(), {.alpha = opaque});
+        status = function(source.image(), destination.image(), source.size(), {.alpha = opaque, .grid = grid});
         best = std::min(best, Clock::now() - start);
         if (status < 0) throw Cause(std::string(function.name) + ": " + statusText(status));
     }

@@ -23,8 +23,9 @@ struct Stats {
 
 // Runs a function on a picture of its source format; the result has the same size and shows the same part. Samples that
 // the function leaves alone are 0, alpha 255. Of `repeat` runs the fastest counts. Throws Cause for an error; a warning
-// comes back in `status`.
-Picture run(const Function& function, const Picture& source, int repeat, Stats& stats, ZorStatus& status);
+// comes back in `status`. A source that is a mosaic begins with the cell `grid`.
+Picture run(const Function& function, const Picture& source, int repeat, Stats& stats, ZorStatus& status,
+            ZorBayerGrid grid = zorBayerRGGB);
 
 // The way from one format to another: rearrangement, a function, rearrangement; or, without a function, just that.
 struct Conversion {

@@ -130,6 +130,7 @@ const Format& planarYuv(const Format& format)
 std::optional<int> rearrangementCost(const Format& from, const Format& to)
 {
     if (&from == &to) return 0;
+    if (isGrey(from) && to.model == interface::Model::mosaic && from.sample == to.sample) return 1;
     if (from.model != to.model || from.log2X() != to.log2X() || from.log2Y() != to.log2Y()) return {};
     if (from.layout == Layout::packedBits || (to.layout == Layout::packedBits && to.channels != "RGB")) return {};
     int cost = 1;
