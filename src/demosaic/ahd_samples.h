@@ -9,20 +9,6 @@
 namespace zorcc::ZORCC_TIER {
 namespace {
 
-// The index inside 0 .. count - 1 that stands for one outside: the image is mirrored at its first and last pixel, which
-// keeps every colour at its place in the mosaic.
-ZORCC_INLINE int mirrored(int i, int count)
-{
-    for (;;) {
-        if (i < 0)
-            i = -i;
-        else if (i >= count)
-            i = 2 * (count - 1) - i;
-        else
-            return i;
-    }
-}
-
 template <class Sample> ZORCC_INLINE f32v loadFloats(const Sample* p)
 {
     typedef Sample Few __attribute__((vector_size(floatsPerVector * sizeof(Sample))));

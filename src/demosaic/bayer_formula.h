@@ -1,17 +1,11 @@
 // SPDX-License-Identifier: MIT
-// The missing colours of a vector of mosaic pixels. All averages are rounded half up.
+// The missing colours of mosaic pixels, on planes of every other column. All averages are rounded half up.
 #pragma once
 
 #include "demosaic/mosaic.h"
-#include "simd/interleave16.h"
 
 namespace zorcc::ZORCC_TIER {
 namespace {
-
-// Row y of the mosaic with the two above and the two below; rows[2] is the row itself.
-template <class Sample> struct RowWindow {
-    const Sample* row[5];
-};
 
 template <class V> ZORCC_INLINE V distance(V a, V b) { return subSaturate(a, b) | subSaturate(b, a); }
 
@@ -48,33 +42,32 @@ template <class V> ZORCC_INLINE V alongSmaller(V gradientV, V gradientH, V verti
 #endif
 }
 
-// Interpolates the pixels from column x on: the colour of the row's sites, green, the third colour. `sites` are all
-// bits where the sites are. Without `directed` green is the average of four neighbours and the rows at a distance of
-// two are not looked at.
-template <bool directed, class Sample, class V>
-ZORCC_INLINE void interpolate(const RowWindow<Sample>& window, int x, V sites, V (&colour)[3])
-{
-    const auto at = [&](int row, int column) { return load<V>(window.row[2 + row] + x + column); };
-    const V own = at(0, 0);
-    const Average<V> horizontal(at(0, -1), at(0, 1)), vertical(at(-1, 0), at(1, 0));
-    const Average<V> left(at(-1, -1), at(1, -1)), right(at(-1, 1), at(1, 1));
-    V green = averageOfFour(horizontal, vertical);
-    if constexpr (directed)
-        green = alongSmaller(distance(at(-2, 0), at(2, 0)), distance(at(0, -2), at(0, 2)), vertical.value,
-                             horizontal.value, green);
-    colour[0] = blend(sites, own, horizontal.value);
-    colour[1] = blend(sites, green, own);
-    colour[2] = blend(sites, averageOfFour(left, right), vertical.value);
-}
+// A row of the mosaic and its neighbours. `like` are planes of the columns that hold the row's sites, `other` those
+// between; [2] is the row itself, the others lie that many rows above and below.
+template <class Sample> struct PlaneWindow {
+    const Sample *like[5], *other[5];
+    int left; // the plane of the other columns has the left neighbour of site i at i + left, the right one behind it
+};
 
-// To red, green, blue in memory.
-template <bool red> ZORCC_INLINE void storeRgb(uint8_t* p, const u8v (&colour)[3])
+// The colours of sites i .. and of the green pixels beside them: the colour of the row's sites, green, the third
+// colour. Without `directed` green is the average of four neighbours, and the rows at a distance of two are not looked
+// at.
+template <bool directed, class Sample, class V>
+ZORCC_INLINE void interpolate(const PlaneWindow<Sample>& w, int i, V (&site)[3], V (&between)[3])
 {
-    interleave3<Columns::inOrder>(p, {colour[red ? 0 : 2], colour[1], colour[red ? 2 : 0]});
-}
-template <bool red> ZORCC_INLINE void storeRgb(uint16_t* p, const u16v (&colour)[3])
-{
-    interleave3(p, {colour[red ? 0 : 2], colour[1], colour[red ? 2 : 0]});
+    const auto like = [&](int row, int k) { return load<V>(w.like[2 + row] + i + k); };
+    const auto other = [&](int row, int k) { return load<V>(w.other[2 + row] + i + k); };
+    const int left = w.left, right = w.left + 1;
+    const Average<V> horizontal(other(0, left), other(0, right)), vertical(like(-1, 0), like(1, 0));
+    site[0] = like(0, 0);
+    site[1] = averageOfFour(horizontal, vertical);
+    if constexpr (directed)
+        site[1] = alongSmaller(distance(like(-2, 0), like(2, 0)), distance(like(0, -1), like(0, 1)), vertical.value,
+                               horizontal.value, site[1]);
+    site[2] = averageOfFour(Average<V>(other(-1, left), other(1, left)), Average<V>(other(-1, right), other(1, right)));
+    between[0] = averageUp(like(0, -right), like(0, -left));
+    between[1] = other(0, 0);
+    between[2] = averageUp(other(-1, 0), other(1, 0));
 }
 
 } // namespace

@@ -32,6 +32,20 @@ template <class Sample> ZORCC_INLINE Sample* sampleAt(Sample* p, ptrdiff_t step,
     return (Sample*)((uintptr_t)p + (uintptr_t)(step * y)) + x;
 }
 
+// The index inside 0 .. count - 1 that stands for one outside: the image is mirrored at its first and last pixel, which
+// keeps every colour at its place in the mosaic.
+ZORCC_INLINE int mirrored(int i, int count)
+{
+    for (;;) {
+        if (i < 0)
+            i = -i;
+        else if (i >= count)
+            i = 2 * (count - 1) - i;
+        else
+            return i;
+    }
+}
+
 // All bits in the even elements, or in the odd ones.
 template <class V> ZORCC_INLINE V alternate(bool odd)
 {

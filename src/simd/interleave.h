@@ -155,14 +155,18 @@ ZORCC_INLINE void deinterleave3(const uint8_t* p, u8v (&channel)[3])
     for (int c = 0; c < 3; ++c) channel[c] = (u8v)_mm512_permutexvar_epi8(reg(load(thirds.sort[c])), gatherThird(v, c));
 }
 
-template <Columns columns> ZORCC_INLINE void interleave3(uint8_t* p, const u8v (&channel)[3])
+ZORCC_INLINE void interleave3(uint8_t* p, const u8v (&channel)[3], const uint8_t (&scatter)[3][64])
 {
     __m512i v[3];
-    for (int c = 0; c < 3; ++c)
-        v[c] = _mm512_permutexvar_epi8(reg(load(thirds.scatter[(int)columns][c])), reg(channel[c]));
+    for (int c = 0; c < 3; ++c) v[c] = _mm512_permutexvar_epi8(reg(load(scatter[c])), reg(channel[c]));
     // Vector k takes positions p of channel c with (k + p) % 3 == c: the same choice, with -k for c and -c for k.
     const __m512i reversed[3] = {v[0], v[2], v[1]};
     for (int k = 0; k < 3; ++k) store(p + 64 * k, (u8v)gatherThird(reversed, (3 - k) % 3));
+}
+
+template <Columns columns> ZORCC_INLINE void interleave3(uint8_t* p, const u8v (&channel)[3])
+{
+    interleave3(p, channel, thirds.scatter[(int)columns]);
 }
 
 #else
