@@ -16,6 +16,11 @@ struct LabLines {
     float *light, *red, *blue;
 };
 
+ZORCC_INLINE Lab loadLab(const LabLines& from, int i)
+{
+    return {load<f32v>(from.light + i), load<f32v>(from.red + i), load<f32v>(from.blue + i)};
+}
+
 ZORCC_INLINE void storeLab(const Lab& lab, const LabLines& to, int i)
 {
     store(to.light + i, lab.light);

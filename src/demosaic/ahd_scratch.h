@@ -41,11 +41,17 @@ private:
     int pitch, linesPerRow;
 };
 
+// Lines of a row, [1], and of the rows above and below.
+struct ThreeRows {
+    const float* line[3];
+};
+
 // The lines of the last `count` rows of something.
 template <int count> struct Ring {
     float* lines[count];
 
     float* operator[](int row) const { return lines[static_cast<unsigned>(row) % count]; }
+    ThreeRows around(int row) const { return {{(*this)[row - 1], (*this)[row], (*this)[row + 1]}}; }
 };
 
 } // namespace

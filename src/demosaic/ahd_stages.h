@@ -10,10 +10,14 @@
 #pragma once
 
 #include "demosaic/ahd_lab.h"
+#include "demosaic/ahd_scratch.h"
 #include "demosaic/mosaic.h"
 
 namespace zorcc::ZORCC_TIER {
 namespace {
+
+// A stage is a function of its own, so that its loop has all registers to itself.
+#define ZORCC_STAGE static __attribute__((noinline))
 
 ZORCC_INLINE f32v at(const float* p, int i) { return load<f32v>(p + i); }
 
@@ -60,7 +64,7 @@ struct Samples {
     Sides down(int i) const { return {own(i), at(row[1], i), at(row[3], i), at(row[0], i), at(row[4], i)}; }
 };
 
-ZORCC_INLINE void greenDifferences(const Samples& samples, s32v sites, float* across, float* down, int length)
+ZORCC_STAGE void greenDifferences(Samples samples, s32v sites, float* across, float* down, int length)
 {
     alongLine(length, [&](int i) {
         const f32v own = samples.own(i);
@@ -71,35 +75,32 @@ ZORCC_INLINE void greenDifferences(const Samples& samples, s32v sites, float* ac
 
 // ---- red and blue ---------------------------------------------------------------------------------------------------
 
-// Three rows of differences; row[1] is the row itself.
-struct Differences {
-    const float* row[3];
+// From rows of differences: that of the colour of the row's sites, and that of the colour of the sites above and below.
+ZORCC_INLINE f32v sameRow(const ThreeRows& d, int i)
+{
+    return at(d.line[1], i) + (at(d.line[1], i - 1) + at(d.line[1], i + 1)) * 0.5f;
+}
+ZORCC_INLINE f32v otherRows(const ThreeRows& d, int i)
+{
+    const auto both = [&](int k) { return at(d.line[0], k) + at(d.line[2], k); };
+    return both(i) * 0.5f + (both(i - 1) + both(i + 1)) * 0.25f;
+}
 
-    // Of the colour of the row's sites, and of the colour of the sites in the rows above and below.
-    f32v sameRow(int i) const { return at(row[1], i) + (at(row[1], i - 1) + at(row[1], i + 1)) * 0.5f; }
-    f32v otherRows(int i) const
-    {
-        const auto both = [&](int k) { return at(row[0], k) + at(row[2], k); };
-        return both(i) * 0.5f + (both(i - 1) + both(i + 1)) * 0.25f;
-    }
-};
-
-ZORCC_INLINE void chroma(const Differences& differences, float* sameRow, float* otherRows, int length)
+ZORCC_STAGE void chroma(ThreeRows differences, float* same, float* other, int length)
 {
     alongLine(length, [&](int i) {
-        store(sameRow + i, differences.sameRow(i));
-        store(otherRows + i, differences.otherRows(i));
+        store(same + i, sameRow(differences, i));
+        store(other + i, otherRows(differences, i));
     });
 }
 
 // A candidate's pixels in the space that its homogeneity is judged in.
 template <bool red>
-ZORCC_INLINE void candidateLab(const float* samples, const Differences& differences, float scale, const LabLines& lab,
-                               int length)
+ZORCC_STAGE void candidateLab(const float* samples, ThreeRows differences, float scale, LabLines lab, int length)
 {
     alongLine(length, [&](int i) {
-        const f32v green = at(samples, i) - at(differences.row[1], i);
-        const f32v same = differences.sameRow(i), other = differences.otherRows(i);
+        const f32v green = at(samples, i) - at(differences.line[1], i);
+        const f32v same = sameRow(differences, i), other = otherRows(differences, i);
         storeLab(toLab(green * scale, (red ? same : other) * scale, (red ? other : same) * scale), lab, i);
     });
 }
@@ -111,13 +112,19 @@ struct Distances {
     float *light, *colour;
 };
 
-ZORCC_INLINE void distances(const LabLines& a, const LabLines& b, int offset, const Distances& to, int length)
+ZORCC_INLINE void storeDistance(const Lab& a, const Lab& b, const Distances& to, int i)
+{
+    const f32v redness = a.red - b.red, blueness = a.blue - b.blue;
+    store(to.light + i, (s32v)(a.light - b.light) & 0x7fffffff);
+    store(to.colour + i, redness * redness + blueness * blueness);
+}
+
+ZORCC_STAGE void distances(LabLines row, LabLines below, Distances right, Distances down, int length)
 {
     alongLine(length, [&](int i) {
-        const f32v light = at(a.light, i) - at(b.light, i + offset);
-        const f32v redness = at(a.red, i) - at(b.red, i + offset), blueness = at(a.blue, i) - at(b.blue, i + offset);
-        store(to.light + i, (s32v)light & 0x7fffffff);
-        store(to.colour + i, redness * redness + blueness * blueness);
+        const Lab own = loadLab(row, i);
+        storeDistance(own, loadLab(row, i + 1), right, i);
+        storeDistance(own, loadLab(below, i), down, i);
     });
 }
 
@@ -142,7 +149,7 @@ struct Around {
 // Neighbours that are near in the candidate along the row, less those that are near in the candidate along the column.
 // What is near adapts to the picture: the farther of the two neighbours along each direction, in the direction's own
 // candidate; of the two directions the nearer.
-ZORCC_INLINE void homogeneity(const Around& across, const Around& along, float* to, int length)
+ZORCC_STAGE void homogeneity(Around across, Around along, float* to, int length)
 {
     const auto limit = [](const float* right, const float* up, const float* down, int i) {
         return minimum(maximum(at(right, i - 1), at(right, i)), maximum(at(up, i), at(down, i)));
@@ -173,13 +180,15 @@ ZORCC_INLINE void homogeneity(const Around& across, const Around& along, float* 
 constexpr int noLead = 4;
 
 // `near` are three rows of homogeneity. `green` is the result's green, `differences` those of the unrounded choice.
-ZORCC_INLINE void choose(const float* const (&near)[3], const Samples& samples, s32v sites, const float* across,
-                         const float* down, float* green, float* differences, int length)
+// `sums` is a line to work with.
+ZORCC_STAGE void choose(ThreeRows near, Samples samples, s32v sites, const float* across, const float* down,
+                        float* green, float* differences, float* sums, int length)
 {
     alongLine(length, [&](int i) {
-        s32v lead = {};
-        for (const float* row : near)
-            for (int k = -1; k <= 1; ++k) lead += load<s32v>(row + i + k);
+        store(sums + i, load<s32v>(near.line[0] + i) + load<s32v>(near.line[1] + i) + load<s32v>(near.line[2] + i));
+    });
+    alongLine(length, [&](int i) {
+        const s32v lead = load<s32v>(sums + i - 1) + load<s32v>(sums + i) + load<s32v>(sums + i + 1);
         const s32v isAcross = lead > noLead, isDown = lead < -noLead;
         const auto chosen = [&](f32v a, f32v d, f32v both) { return select(isAcross, a, select(isDown, d, both)); };
         const f32v a = at(across, i), d = at(down, i);
@@ -194,39 +203,42 @@ ZORCC_INLINE void choose(const float* const (&near)[3], const Samples& samples, 
 
 ZORCC_INLINE f32v medianOfThree(f32v a, f32v b, f32v c) { return maximum(minimum(a, b), minimum(maximum(a, b), c)); }
 
-// The median of 3 x 3: that of the greatest of the columns' lowest, the median of the columns' medians, and the lowest
-// of the columns' greatest.
-ZORCC_INLINE f32v median(const float* const (&rows)[3], int i)
-{
-    f32v low[3], middle[3], high[3];
-    for (int k = 0; k < 3; ++k) {
-        const f32v a = at(rows[0], i + k - 1), b = at(rows[1], i + k - 1), c = at(rows[2], i + k - 1);
-        const f32v less = minimum(a, b), more = maximum(a, b);
-        low[k] = minimum(less, c);
-        middle[k] = maximum(less, minimum(more, c));
-        high[k] = maximum(more, c);
-    }
-    return medianOfThree(maximum(maximum(low[0], low[1]), low[2]), medianOfThree(middle[0], middle[1], middle[2]),
-                         minimum(minimum(high[0], high[1]), high[2]));
-}
-
-// Three rows of the differences of one colour. Where the colour is missing, its difference goes half of the way to the
-// median: that takes away single wrong choices, while the whole way would take away thin coloured lines, too.
-struct Smoothed {
-    const float* row[3];
-
-    f32v operator()(int i) const { return (at(row[1], i) + median(row, i)) * 0.5f; }
+// Three lines to work with.
+struct Columns3 {
+    float *low, *middle, *high;
 };
 
-// A row of the result as numbers to be rounded, in the order of the sites' colour, green, the third colour. `samples`
-// and `differences` are the row's; green comes rounded from choose().
-ZORCC_INLINE void addColours(const float* samples, const float* differences, s32v sites, const Smoothed& sameRow,
-                             const Smoothed& otherRows, float* siteColour, float* thirdColour, int length)
+// The differences of one colour in a row, from three rows of them. Where the colour is missing, its difference goes
+// half of the way to the median of 3 x 3: that takes away single wrong choices, while the whole way would take away
+// thin coloured lines, too. The median is that of the greatest of the columns' lowest, the median of the columns'
+// medians, and the lowest of the columns' greatest.
+ZORCC_STAGE void smooth(ThreeRows rows, Columns3 column, float* to, int length)
+{
+    alongLine(length, [&](int i) {
+        const f32v a = at(rows.line[0], i), b = at(rows.line[1], i), c = at(rows.line[2], i);
+        const f32v less = minimum(a, b), more = maximum(a, b);
+        store(column.low + i, minimum(less, c));
+        store(column.middle + i, maximum(less, minimum(more, c)));
+        store(column.high + i, maximum(more, c));
+    });
+    alongLine(length, [&](int i) {
+        const auto three = [&](const float* p, auto combine) { return combine(at(p, i - 1), at(p, i), at(p, i + 1)); };
+        const f32v low = three(column.low, [](f32v a, f32v b, f32v c) { return maximum(maximum(a, b), c); });
+        const f32v high = three(column.high, [](f32v a, f32v b, f32v c) { return minimum(minimum(a, b), c); });
+        const f32v median = medianOfThree(low, three(column.middle, medianOfThree), high);
+        store(to + i, (at(rows.line[1], i) + median) * 0.5f);
+    });
+}
+
+// A row of the result as numbers to be rounded: the colour of the row's sites and the third colour, each in place of
+// its smoothed differences. Green comes from choose().
+ZORCC_STAGE void addGreen(const float* samples, const float* differences, s32v sites, float* siteColour,
+                          float* thirdColour, int length)
 {
     alongLine(length, [&](int i) {
         const f32v own = at(samples, i), green = own - at(differences, i);
-        store(siteColour + i, select(sites, own, green + sameRow(i)));
-        store(thirdColour + i, green + otherRows(i));
+        store(siteColour + i, select(sites, own, green + at(siteColour, i)));
+        store(thirdColour + i, green + at(thirdColour, i));
     });
 }
 

@@ -19,7 +19,7 @@ namespace {
 constexpr int reach = 1 + 1 + 1 + 1 + 1 + 2;
 
 // The strip of columns that is worked on at a time: its lines stay in the first-level cache.
-constexpr int stripWidth = 256;
+constexpr int stripWidth = 512;
 
 // Lines of both candidates.
 struct LabRing {
@@ -51,6 +51,7 @@ struct Lines {
     Ring<3> green, differences; // of the choice
     Ring<3> red, blue;          // differences everywhere
     Ring<1> siteColour, thirdColour;
+    float* work[3]; // for one stage
 };
 constexpr int lineCount = sizeof(Lines) / sizeof(float*);
 
@@ -113,15 +114,6 @@ private:
         return {{lines.samples[row - 2], lines.samples[row - 1], lines.samples[row], lines.samples[row + 1],
                  lines.samples[row + 2]}};
     }
-    template <int count> static Differences around(const Ring<count>& ring, int row)
-    {
-        return {{ring[row - 1], ring[row], ring[row + 1]}};
-    }
-    template <int count> static Smoothed smoothed(const Ring<count>& ring, int row)
-    {
-        return {{ring[row - 1], ring[row], ring[row + 1]}};
-    }
-
     void estimateGreen(int row)
     {
         greenDifferences(samplesAround(row), sitesOf(row), lines.candidate[0].differences[row],
@@ -134,37 +126,36 @@ private:
         constexpr float scale = sizeof(Sample) == 1 ? 257.f : 1.f;
         const auto convert = coloursOf(row).red ? candidateLab<true> : candidateLab<false>;
         for (const Candidate& c : lines.candidate)
-            convert(lines.samples[row], around(c.differences, row), scale, c.lab[row], length);
+            convert(lines.samples[row], c.differences.around(row), scale, c.lab[row], length);
     }
 
     void measure(int row)
     {
-        for (const Candidate& c : lines.candidate) {
-            distances(c.lab[row], c.lab[row], 1, c.right[row], length);
-            distances(c.lab[row], c.lab[row + 1], 0, c.down[row], length);
-        }
+        for (const Candidate& c : lines.candidate)
+            distances(c.lab[row], c.lab[row + 1], c.right[row], c.down[row], length);
     }
 
     void chooseGreen(int row)
     {
-        choose({lines.near[row - 1], lines.near[row], lines.near[row + 1]}, samplesAround(row), sitesOf(row),
-               lines.candidate[0].differences[row], lines.candidate[1].differences[row], lines.green[row],
-               lines.differences[row], length);
+        choose(lines.near.around(row), samplesAround(row), sitesOf(row), lines.candidate[0].differences[row],
+               lines.candidate[1].differences[row], lines.green[row], lines.differences[row], lines.work[0], length);
     }
 
     void interpolateColours(int row)
     {
         const bool red = coloursOf(row).red;
-        chroma(around(lines.differences, row), (red ? lines.red : lines.blue)[row], (red ? lines.blue : lines.red)[row],
+        chroma(lines.differences.around(row), (red ? lines.red : lines.blue)[row], (red ? lines.blue : lines.red)[row],
                length);
     }
 
     void finish(int row)
     {
         const bool red = coloursOf(row).red;
-        addColours(lines.samples[row], lines.differences[row], sitesOf(row),
-                   smoothed(red ? lines.red : lines.blue, row), smoothed(red ? lines.blue : lines.red, row),
-                   lines.siteColour[0], lines.thirdColour[0], length);
+        const Columns3 columns = {lines.work[0], lines.work[1], lines.work[2]};
+        smooth((red ? lines.red : lines.blue).around(row), columns, lines.siteColour[0], length);
+        smooth((red ? lines.blue : lines.red).around(row), columns, lines.thirdColour[0], length);
+        addGreen(lines.samples[row], lines.differences[row], sitesOf(row), lines.siteColour[0], lines.thirdColour[0],
+                 length);
         const float *const site = lines.siteColour[0] + reach, *const third = lines.thirdColour[0] + reach;
         storePixels({red ? site : third, lines.green[row] + reach, red ? third : site}, width,
                     sampleAt(job.dst, job.dstStep, 3 * (x - job.region.x0), top + row - job.region.y0));
