@@ -4,27 +4,15 @@
 // Green is estimated at the sites (red or blue pixels) once along the row and once along the column. A *difference*
 // line holds, at the sites, the site's colour less its green, and zeros between: what the other pixels miss is the tent
 // filter of these. All samples, greens and differences are exact: multiples of 1/64 below 2^17.
-//
-// Pointers are to lines that have room at both ends; all loops run over whole vectors, and what they compute beyond the
-// ends of a line is not used.
 #pragma once
 
 #include "demosaic/ahd_lab.h"
+#include "demosaic/ahd_lines.h"
 #include "demosaic/ahd_scratch.h"
 #include "demosaic/mosaic.h"
 
 namespace zorcc::ZORCC_TIER {
 namespace {
-
-// A stage is a function of its own, so that its loop has all registers to itself.
-#define ZORCC_STAGE static __attribute__((noinline))
-
-ZORCC_INLINE f32v at(const float* p, int i) { return load<f32v>(p + i); }
-
-template <class Body> ZORCC_INLINE void alongLine(int length, Body body)
-{
-    for (int i = 0; i < length; i += floatsPerVector) body(i);
-}
 
 // ---- green ----------------------------------------------------------------------------------------------------------
 
@@ -75,22 +63,25 @@ ZORCC_STAGE void greenDifferences(Samples samples, s32v sites, float* across, fl
 
 // ---- red and blue ---------------------------------------------------------------------------------------------------
 
-// From rows of differences: that of the colour of the row's sites, and that of the colour of the sites above and below.
-ZORCC_INLINE f32v sameRow(const ThreeRows& d, int i)
+// From rows of differences, calls body(i, same, other) with that of the colour of the row's sites and that of the
+// colour of the sites above and below.
+template <class Body> ZORCC_INLINE void alongTents(const ThreeRows& rows, int length, Body body)
 {
-    return at(d.line[1], i) + (at(d.line[1], i - 1) + at(d.line[1], i + 1)) * 0.5f;
-}
-ZORCC_INLINE f32v otherRows(const ThreeRows& d, int i)
-{
-    const auto both = [&](int k) { return at(d.line[0], k) + at(d.line[2], k); };
-    return both(i) * 0.5f + (both(i - 1) + both(i + 1)) * 0.25f;
+    alongNeighbours(
+        length,
+        [&](int i) {
+            return Values<2>{{at(rows.line[1], i), at(rows.line[0], i) + at(rows.line[2], i)}};
+        },
+        [&](int i, const Values<2>& left, const Values<2>& here, const Values<2>& right) {
+            body(i, here.v[0] + (left.v[0] + right.v[0]) * 0.5f, here.v[1] * 0.5f + (left.v[1] + right.v[1]) * 0.25f);
+        });
 }
 
-ZORCC_STAGE void chroma(ThreeRows differences, float* same, float* other, int length)
+ZORCC_STAGE void chroma(ThreeRows differences, float* sameRow, float* otherRows, int length)
 {
-    alongLine(length, [&](int i) {
-        store(same + i, sameRow(differences, i));
-        store(other + i, otherRows(differences, i));
+    alongTents(differences, length, [&](int i, f32v same, f32v other) {
+        store(sameRow + i, same);
+        store(otherRows + i, other);
     });
 }
 
@@ -98,78 +89,101 @@ ZORCC_STAGE void chroma(ThreeRows differences, float* same, float* other, int le
 template <bool red>
 ZORCC_STAGE void candidateLab(const float* samples, ThreeRows differences, float scale, LabLines lab, int length)
 {
-    alongLine(length, [&](int i) {
+    alongTents(differences, length, [&](int i, f32v same, f32v other) {
         const f32v green = at(samples, i) - at(differences.line[1], i);
-        const f32v same = sameRow(differences, i), other = otherRows(differences, i);
         storeLab(toLab(green * scale, (red ? same : other) * scale, (red ? other : same) * scale), lab, i);
     });
 }
 
 // ---- homogeneity ----------------------------------------------------------------------------------------------------
 
-// Distances of a pixel to a neighbour, for each direction: of lightness, and of colour, squared.
-struct Distances {
+// Distances of pixels to a neighbour: of lightness, and of colour, squared.
+struct Distance {
+    f32v light, colour;
+};
+
+ZORCC_INLINE Distance distance(const Lab& a, const Lab& b)
+{
+    const f32v redness = a.red - b.red, blueness = a.blue - b.blue;
+    return {(f32v)((s32v)(a.light - b.light) & 0x7fffffff), redness * redness + blueness * blueness};
+}
+
+struct DistanceLines {
     float *light, *colour;
 };
 
-ZORCC_INLINE void storeDistance(const Lab& a, const Lab& b, const Distances& to, int i)
+ZORCC_INLINE Distance loadDistance(const DistanceLines& from, int i) { return {at(from.light, i), at(from.colour, i)}; }
+
+ZORCC_INLINE void storeDistance(const Distance& d, const DistanceLines& to, int i)
 {
-    const f32v redness = a.red - b.red, blueness = a.blue - b.blue;
-    store(to.light + i, (s32v)(a.light - b.light) & 0x7fffffff);
-    store(to.colour + i, redness * redness + blueness * blueness);
+    store(to.light + i, d.light);
+    store(to.colour + i, d.colour);
 }
 
-ZORCC_STAGE void distances(LabLines row, LabLines below, Distances right, Distances down, int length)
+ZORCC_INLINE Distance farther(const Distance& a, const Distance& b)
 {
-    alongLine(length, [&](int i) {
-        const Lab own = loadLab(row, i);
-        storeDistance(own, loadLab(row, i + 1), right, i);
-        storeDistance(own, loadLab(below, i), down, i);
-    });
+    return {maximum(a.light, b.light), maximum(a.colour, b.colour)};
+}
+
+ZORCC_INLINE Distance nearer(const Distance& a, const Distance& b)
+{
+    return {minimum(a.light, b.light), minimum(a.colour, b.colour)};
+}
+
+// A row of a candidate with the row below, and its distances to the rows above (known) and below (to be stored).
+struct JudgedRow {
+    LabLines row, below;
+    DistanceLines up, down;
+};
+
+ZORCC_STAGE void distancesDown(LabLines row, LabLines below, DistanceLines down, int length)
+{
+    alongLine(length, [&](int i) { storeDistance(distance(loadLab(row, i), loadLab(below, i)), down, i); });
 }
 
 // Adds 1, or with -1 takes 1 away, where both distances are within their limits.
-template <int sign> ZORCC_INLINE s32v countNear(s32v count, f32v light, f32v colour, f32v lightLimit, f32v colourLimit)
+template <int sign> ZORCC_INLINE s32v countNear(s32v count, const Distance& d, const Distance& limit)
 {
 #if defined(ZORCC_TIER_avx512)
-    const __mmask16 both = _mm512_mask_cmp_ps_mask(_mm512_cmp_ps_mask(reg(light), reg(lightLimit), _CMP_LE_OQ),
-                                                   reg(colour), reg(colourLimit), _CMP_LE_OQ);
+    const __mmask16 both = _mm512_mask_cmp_ps_mask(_mm512_cmp_ps_mask(reg(d.light), reg(limit.light), _CMP_LE_OQ),
+                                                   reg(d.colour), reg(limit.colour), _CMP_LE_OQ);
     return (s32v)_mm512_mask_add_epi32(reg(count), both, reg(count), _mm512_set1_epi32(sign));
 #else
-    const s32v both = (light <= lightLimit) & (colour <= colourLimit); // true is -1
+    const s32v both = (d.light <= limit.light) & (d.colour <= limit.colour); // true is -1
     return sign > 0 ? count - both : count + both;
 #endif
 }
 
-// The distances of one direction's candidate around a row.
-struct Around {
-    Distances right, up, down; // to the right neighbour; of the row above to this one; of this row to the one below
-};
-
-// Neighbours that are near in the candidate along the row, less those that are near in the candidate along the column.
-// What is near adapts to the picture: the farther of the two neighbours along each direction, in the direction's own
-// candidate; of the two directions the nearer.
-ZORCC_STAGE void homogeneity(Around across, Around along, float* to, int length)
+// Neighbours that are near in the candidate across, less those that are near in the candidate down. What is near adapts
+// to the picture: the farther of the two neighbours along each direction, in the direction's own candidate; of the two
+// directions the nearer.
+ZORCC_STAGE void homogeneity(JudgedRow across, JudgedRow down, float* to, int length)
 {
-    const auto limit = [](const float* right, const float* up, const float* down, int i) {
-        return minimum(maximum(at(right, i - 1), at(right, i)), maximum(at(up, i), at(down, i)));
+    const auto rightAt = [](const JudgedRow& c, int i) { return distance(loadLab(c.row, i), loadLab(c.row, i + 1)); };
+    const auto downAt = [](const JudgedRow& c, int i) { return distance(loadLab(c.row, i), loadLab(c.below, i)); };
+    const auto leftAt = [](const Distance& before, const Distance& here) {
+        return Distance{leftOf(before.light, here.light), leftOf(before.colour, here.colour)};
     };
+    // Vectors are carried one by one: compilers copy structures of them through memory.
+    const auto carry = [](Distance& before, const Distance& here) {
+        before.light = here.light;
+        before.colour = here.colour;
+    };
+    Distance beforeAcross = rightAt(across, -floatsPerVector), beforeDown = rightAt(down, -floatsPerVector);
     alongLine(length, [&](int i) {
-        const f32v light = limit(across.right.light, along.up.light, along.down.light, i);
-        const f32v colour = limit(across.right.colour, along.up.colour, along.down.colour, i);
-        s32v count = {};
-        const auto add = [&]<int sign>(const Distances& d, int k) {
-            count = countNear<sign>(count, at(d.light, k), at(d.colour, k), light, colour);
-        };
-        const auto addAll = [&]<int sign>(const Around& a) {
-            add.template operator()<sign>(a.right, i - 1);
-            add.template operator()<sign>(a.right, i);
-            add.template operator()<sign>(a.up, i);
-            add.template operator()<sign>(a.down, i);
-        };
-        addAll.template operator()<1>(across);
-        addAll.template operator()<-1>(along);
-        store(to + i, count);
+        const Distance right = rightAt(across, i), left = leftAt(beforeAcross, right), below = downAt(across, i);
+        const Distance downRight = rightAt(down, i), downLeft = leftAt(beforeDown, downRight);
+        const Distance downUp = loadDistance(down.up, i), downBelow = downAt(down, i);
+        const Distance limit = nearer(farther(left, right), farther(downUp, downBelow));
+        s32v sum = countNear<1>(countNear<1>(s32v{}, left, limit), right, limit);
+        sum = countNear<1>(countNear<1>(sum, loadDistance(across.up, i), limit), below, limit);
+        sum = countNear<-1>(countNear<-1>(sum, downLeft, limit), downRight, limit);
+        sum = countNear<-1>(countNear<-1>(sum, downUp, limit), downBelow, limit);
+        store(to + i, toFloat(sum));
+        storeDistance(below, across.down, i);
+        storeDistance(downBelow, down.down, i);
+        carry(beforeAcross, right);
+        carry(beforeDown, downRight);
     });
 }
 
@@ -177,19 +191,18 @@ ZORCC_STAGE void homogeneity(Around across, Around along, float* to, int length)
 
 // A lead of up to 4 near neighbours of the 36 in a 3 x 3 window is no lead: the mean of both directions is taken. On
 // real pictures that is 0.1 dB better than taking a narrow winner.
-constexpr int noLead = 4;
+constexpr float noLead = 4;
 
 // `near` are three rows of homogeneity. `green` is the result's green, `differences` those of the unrounded choice.
-// `sums` is a line to work with.
 ZORCC_STAGE void choose(ThreeRows near, Samples samples, s32v sites, const float* across, const float* down,
-                        float* green, float* differences, float* sums, int length)
+                        float* green, float* differences, int length)
 {
-    alongLine(length, [&](int i) {
-        store(sums + i, load<s32v>(near.line[0] + i) + load<s32v>(near.line[1] + i) + load<s32v>(near.line[2] + i));
-    });
-    alongLine(length, [&](int i) {
-        const s32v lead = load<s32v>(sums + i - 1) + load<s32v>(sums + i) + load<s32v>(sums + i + 1);
-        const s32v isAcross = lead > noLead, isDown = lead < -noLead;
+    const auto columns = [&](int i) {
+        return Values<1>{{at(near.line[0], i) + at(near.line[1], i) + at(near.line[2], i)}};
+    };
+    alongNeighbours(length, columns, [&](int i, const Values<1>& left, const Values<1>& here, const Values<1>& right) {
+        const f32v lead = left.v[0] + here.v[0] + right.v[0];
+        const s32v isAcross = lead > fillFloat(noLead), isDown = lead < fillFloat(-noLead);
         const auto chosen = [&](f32v a, f32v d, f32v both) { return select(isAcross, a, select(isDown, d, both)); };
         const f32v a = at(across, i), d = at(down, i);
         store(differences + i, chosen(a, d, (a + d) * 0.5f));
@@ -203,29 +216,21 @@ ZORCC_STAGE void choose(ThreeRows near, Samples samples, s32v sites, const float
 
 ZORCC_INLINE f32v medianOfThree(f32v a, f32v b, f32v c) { return maximum(minimum(a, b), minimum(maximum(a, b), c)); }
 
-// Three lines to work with.
-struct Columns3 {
-    float *low, *middle, *high;
-};
-
 // The differences of one colour in a row, from three rows of them. Where the colour is missing, its difference goes
 // half of the way to the median of 3 x 3: that takes away single wrong choices, while the whole way would take away
 // thin coloured lines, too. The median is that of the greatest of the columns' lowest, the median of the columns'
 // medians, and the lowest of the columns' greatest.
-ZORCC_STAGE void smooth(ThreeRows rows, Columns3 column, float* to, int length)
+ZORCC_STAGE void smooth(ThreeRows rows, float* to, int length)
 {
-    alongLine(length, [&](int i) {
+    const auto column = [&](int i) {
         const f32v a = at(rows.line[0], i), b = at(rows.line[1], i), c = at(rows.line[2], i);
         const f32v less = minimum(a, b), more = maximum(a, b);
-        store(column.low + i, minimum(less, c));
-        store(column.middle + i, maximum(less, minimum(more, c)));
-        store(column.high + i, maximum(more, c));
-    });
-    alongLine(length, [&](int i) {
-        const auto three = [&](const float* p, auto combine) { return combine(at(p, i - 1), at(p, i), at(p, i + 1)); };
-        const f32v low = three(column.low, [](f32v a, f32v b, f32v c) { return maximum(maximum(a, b), c); });
-        const f32v high = three(column.high, [](f32v a, f32v b, f32v c) { return minimum(minimum(a, b), c); });
-        const f32v median = medianOfThree(low, three(column.middle, medianOfThree), high);
+        return Values<3>{{minimum(less, c), maximum(less, minimum(more, c)), maximum(more, c)}};
+    };
+    alongNeighbours(length, column, [&](int i, const Values<3>& left, const Values<3>& here, const Values<3>& right) {
+        const f32v low = maximum(maximum(left.v[0], here.v[0]), right.v[0]);
+        const f32v high = minimum(minimum(left.v[2], here.v[2]), right.v[2]);
+        const f32v median = medianOfThree(low, medianOfThree(left.v[1], here.v[1], right.v[1]), high);
         store(to + i, (at(rows.line[1], i) + median) * 0.5f);
     });
 }

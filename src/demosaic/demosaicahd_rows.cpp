@@ -19,7 +19,7 @@ namespace {
 constexpr int reach = 1 + 1 + 1 + 1 + 1 + 2;
 
 // The strip of columns that is worked on at a time: its lines stay in the first-level cache.
-constexpr int stripWidth = 512;
+constexpr int stripWidth = 256;
 
 // Lines of both candidates.
 struct LabRing {
@@ -28,19 +28,18 @@ struct LabRing {
     LabLines operator[](int row) const { return {light[row], red[row], blue[row]}; }
 };
 
-template <int count> struct DistanceRing {
-    Ring<count> light, colour;
+struct DistanceRing {
+    Ring<2> light, colour;
 
-    Distances operator[](int row) const { return {light[row], colour[row]}; }
+    DistanceLines operator[](int row) const { return {light[row], colour[row]}; }
 };
 
 struct Candidate {
     Ring<4> differences;
     LabRing lab;
-    DistanceRing<1> right;
-    DistanceRing<2> down; // to the row below
+    DistanceRing down; // to the row below
 
-    Around around(int row) const { return {right[row], down[row - 1], down[row]}; }
+    JudgedRow judged(int row) const { return {lab[row], lab[row + 1], down[row - 1], down[row]}; }
 };
 
 // All lines of a strip. How many rows of each are kept follows from Strip::step.
@@ -51,7 +50,6 @@ struct Lines {
     Ring<3> green, differences; // of the choice
     Ring<3> red, blue;          // differences everywhere
     Ring<1> siteColour, thirdColour;
-    float* work[3]; // for one stage
 };
 constexpr int lineCount = sizeof(Lines) / sizeof(float*);
 
@@ -98,9 +96,8 @@ private:
                  width + 2 * reach, lines.samples[i]);
         if (i >= 4) estimateGreen(i - 2);
         if (i >= 6) judge(i - 3);
-        if (i >= 7) measure(i - 4);
-        if (i >= 8)
-            homogeneity(lines.candidate[0].around(i - 4), lines.candidate[1].around(i - 4), lines.near[i - 4], length);
+        if (i == 7) measure(i - 4);
+        if (i >= 8) compare(i - 4);
         if (i >= 10) chooseGreen(i - 5);
         if (i >= 12) interpolateColours(i - 6);
         if (i >= 14) finish(i - 7);
@@ -129,16 +126,21 @@ private:
             convert(lines.samples[row], c.differences.around(row), scale, c.lab[row], length);
     }
 
+    // The first row that has one below it.
     void measure(int row)
     {
-        for (const Candidate& c : lines.candidate)
-            distances(c.lab[row], c.lab[row + 1], c.right[row], c.down[row], length);
+        for (const Candidate& c : lines.candidate) distancesDown(c.lab[row], c.lab[row + 1], c.down[row], length);
+    }
+
+    void compare(int row)
+    {
+        homogeneity(lines.candidate[0].judged(row), lines.candidate[1].judged(row), lines.near[row], length);
     }
 
     void chooseGreen(int row)
     {
         choose(lines.near.around(row), samplesAround(row), sitesOf(row), lines.candidate[0].differences[row],
-               lines.candidate[1].differences[row], lines.green[row], lines.differences[row], lines.work[0], length);
+               lines.candidate[1].differences[row], lines.green[row], lines.differences[row], length);
     }
 
     void interpolateColours(int row)
@@ -151,9 +153,8 @@ private:
     void finish(int row)
     {
         const bool red = coloursOf(row).red;
-        const Columns3 columns = {lines.work[0], lines.work[1], lines.work[2]};
-        smooth((red ? lines.red : lines.blue).around(row), columns, lines.siteColour[0], length);
-        smooth((red ? lines.blue : lines.red).around(row), columns, lines.thirdColour[0], length);
+        smooth((red ? lines.red : lines.blue).around(row), lines.siteColour[0], length);
+        smooth((red ? lines.blue : lines.red).around(row), lines.thirdColour[0], length);
         addGreen(lines.samples[row], lines.differences[row], sitesOf(row), lines.siteColour[0], lines.thirdColour[0],
                  length);
         const float *const site = lines.siteColour[0] + reach, *const third = lines.thirdColour[0] + reach;
