@@ -28,16 +28,17 @@ ZORCC_INLINE void storeLab(const Lab& lab, const LabLines& to, int i)
     store(to.blue + i, lab.blue);
 }
 
-// t^(1/3), within 1e-5 of it, where t is above 0.008856; otherwise the line that continues it. The exponent of y is a
-// third of that of t, of the other sign: u = t y^3 lies between 0.893 and 1.108, and t y^2 times a polynomial for
-// u^(-2/3) (through its values at the Chebyshev nodes) is the root.
+// Where t is above 0.008856 its cube root, otherwise the line that continues it; both less a constant, as only
+// differences matter: root(max) + slope * min. The exponent of y is a third of that of t, of the other sign, so that
+// u = t y^3 lies between 0.893 and 1.108; t y^2 times a polynomial for u^(-2/3), through its values at the Chebyshev
+// nodes, is within 2e-4 of the root.
 ZORCC_INLINE f32v labCurve(f32v t)
 {
-    const s32v third = (s32v)mulHigh((u16v)t, (u16v)fill16(21845)); // in halves, which is near enough
+    const f32v knee = fillFloat(0.008856f), above = maximum(t, knee);
+    const s32v third = (s32v)mulHigh((u16v)above, (u16v)fill16(21845)); // in halves, which is near enough
     const f32v y = (f32v)(fill32(0x54a14000) - third);
-    const f32v root = t * y * y, u = root * y;
-    const f32v power = ((u * -0.4979975f + 2.0547649f) * u - 3.2822008f) * u + 2.7254261f;
-    return select(t > fillFloat(0.008856f), root * power, t * 7.787037f + 0.137931f);
+    const f32v root = above * y * y, u = root * y;
+    return root * ((u * 0.5588924f - 1.7887134f) * u + 2.2298227f) + minimum(t, knee) * 7.787037f;
 }
 
 // From green and the differences of red and blue to it, for samples of 16 bits. The coefficients of green are the sums

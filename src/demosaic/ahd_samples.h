@@ -9,12 +9,26 @@
 namespace zorcc::ZORCC_TIER {
 namespace {
 
-template <class Sample> ZORCC_INLINE f32v loadFloats(const Sample* p)
+ZORCC_INLINE f32v loadFloats(const uint8_t* p)
 {
-    typedef Sample Few __attribute__((vector_size(floatsPerVector * sizeof(Sample))));
-    Few few;
-    __builtin_memcpy(&few, p, sizeof few);
-    return toFloat(__builtin_convertvector(few, s32v));
+#if defined(ZORCC_TIER_avx512)
+    return toFloat((s32v)_mm512_cvtepu8_epi32(_mm_loadu_si128((const __m128i*)p)));
+#elif defined(ZORCC_TIER_avx2)
+    return toFloat((s32v)_mm256_cvtepu8_epi32(_mm_loadl_epi64((const __m128i*)p)));
+#else
+    const __m128i zero = _mm_setzero_si128();
+    return toFloat((s32v)_mm_unpacklo_epi16(_mm_unpacklo_epi8(_mm_loadu_si32(p), zero), zero));
+#endif
+}
+ZORCC_INLINE f32v loadFloats(const uint16_t* p)
+{
+#if defined(ZORCC_TIER_avx512)
+    return toFloat((s32v)_mm512_cvtepu16_epi32(_mm256_loadu_si256((const __m256i*)p)));
+#elif defined(ZORCC_TIER_avx2)
+    return toFloat((s32v)_mm256_cvtepu16_epi32(_mm_loadu_si128((const __m128i*)p)));
+#else
+    return toFloat((s32v)_mm_unpacklo_epi16(_mm_loadl_epi64((const __m128i*)p), _mm_setzero_si128()));
+#endif
 }
 
 // `count` samples of a row of `width`, from column x on, which like the last may lie outside.

@@ -207,7 +207,7 @@ ZORCC_STAGE void choose(ThreeRows near, Samples samples, s32v sites, const float
         const f32v a = at(across, i), d = at(down, i);
         store(differences + i, chosen(a, d, (a + d) * 0.5f));
         const f32v greenAcross = samples.across(i).greenRoundedDown(), greenDown = samples.down(i).greenRoundedDown();
-        const f32v mean = toFloat((truncate(greenAcross + greenDown) + 1) >> 1);
+        const f32v mean = (greenAcross + greenDown) * 0.5f; // to be rounded with all results
         store(green + i, select(sites, chosen(greenAcross, greenDown, mean), samples.own(i)));
     });
 }

@@ -127,18 +127,18 @@ Chroma chromaAt(const Mosaic& m, const Plane<float>& differences, int x, int y)
     return rowHasRed ? Chroma{same, other} : Chroma{other, same};
 }
 
-// The cube root as the library forms it, so that no choice depends on the last bit of another.
+// The curve as the library forms it, so that no choice depends on the last bit of another.
 float curve(float t)
 {
-    if (!(t > 0.008856f)) return t * 7.787037f + 0.137931f;
+    const float knee = 0.008856f, above = std::max(t, knee);
     std::uint32_t bits;
-    static_assert(sizeof bits == sizeof t);
-    std::memcpy(&bits, &t, sizeof bits);
+    static_assert(sizeof bits == sizeof above);
+    std::memcpy(&bits, &above, sizeof bits);
     bits = 0x54a14000 - ((bits >> 16) * 21845 >> 16 << 16 | (bits & 0xffff) * 21845 >> 16);
     float y;
     std::memcpy(&y, &bits, sizeof y);
-    const float root = t * y * y, u = root * y;
-    return root * (((u * -0.4979975f + 2.0547649f) * u - 3.2822008f) * u + 2.7254261f);
+    const float root = above * y * y, u = root * y;
+    return root * ((u * 0.5588924f - 1.7887134f) * u + 2.2298227f) + std::min(t, knee) * 7.787037f;
 }
 
 struct Lab {
