@@ -165,15 +165,15 @@ private:
 
 template <class Sample> void demosaicAhd(const Job<Sample>& job, void* buffer, ptrdiff_t bufferStep)
 {
-    const auto [x0, y0, x1, y1] = job.region;
-    const int width = x1 - x0;
-    const Scratch scratch(buffer, bufferStep, width,
-                          Strip<Sample>::lineLength(width < stripWidth ? width : stripWidth));
-    bandsAboveThreshold(width, y1 - y0, scratch.lines() / lineCount, [&](int band, int first, int count) {
-        for (int x = x0; x < x1; x += stripWidth)
-            Strip<Sample>(job, scratch, band * lineCount, x, x1 - x < stripWidth ? x1 - x : stripWidth)
-                .run(y0 + first, y0 + first + count);
-    });
+    const Region region = job.region;
+    const auto stripAt = [&](int x) { return region.x1 - x < stripWidth ? region.x1 - x : stripWidth; };
+    const Scratch scratch(buffer, bufferStep, region.x1 - region.x0, Strip<Sample>::lineLength(stripAt(region.x0)));
+    bandsAboveThreshold(region.x1 - region.x0, region.y1 - region.y0, scratch.lines() / lineCount,
+                        [&](int band, int first, int count) {
+                            const int y0 = region.y0 + first;
+                            for (int x = region.x0; x < region.x1; x += stripWidth)
+                                Strip<Sample>(job, scratch, band * lineCount, x, stripAt(x)).run(y0, y0 + count);
+                        });
 }
 
 } // namespace
