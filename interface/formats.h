@@ -7,8 +7,8 @@
 
 namespace zorcc::interface {
 
-// Colour models: Bayer mosaics, grey, R'G'B', analogue-television Y'UV, and Y'CbCr by its matrix. In channel strings U
-// stands for Cb, V for Cr.
+// Colour models: Bayer mosaics, grey, R'G'B', analogue-television Y'UV, and Y'CbCr by its matrix. In channel strings L
+// stands for grey, U for Cb, V for Cr.
 enum class Model { mosaic, grey, rgb, yuv, bt601, bt709, bt709full };
 
 enum class Sample { u8, u16, s16, s32, f32 };
@@ -99,10 +99,10 @@ inline constexpr Format rgba64s = interleaved("rgba64s", "RGBA", Model::rgb, Sam
 inline constexpr Format rgbf32 = interleaved("rgbf32", "RGB", Model::rgb, Sample::f32);
 inline constexpr Format rgbaf32 = interleaved("rgbaf32", "RGBA", Model::rgb, Sample::f32);
 
-inline constexpr Format grey8 = interleaved("grey8", "G", Model::grey, Sample::u8);
-inline constexpr Format grey16 = interleaved("grey16", "G", Model::grey, Sample::u16);
-inline constexpr Format grey16s = interleaved("grey16s", "G", Model::grey, Sample::s16);
-inline constexpr Format greyf32 = interleaved("greyf32", "G", Model::grey, Sample::f32);
+inline constexpr Format grey8 = interleaved("grey8", "L", Model::grey, Sample::u8);
+inline constexpr Format grey16 = interleaved("grey16", "L", Model::grey, Sample::u16);
+inline constexpr Format grey16s = interleaved("grey16s", "L", Model::grey, Sample::s16);
+inline constexpr Format greyf32 = interleaved("greyf32", "L", Model::grey, Sample::f32);
 
 // One sample a pixel, of the colour that its place in the mosaic tells.
 inline constexpr Format bayer8 = interleaved("bayer8", "M", Model::mosaic, Sample::u8);

@@ -10,7 +10,7 @@ namespace zorcc::ZORCC_TIER {
 
 namespace {
 
-using Forward420 = RgbToYCbCr420<ycbcr::bt709, ycbcr::studioLuma>;
+using PairedForward420 = PairedToYCbCr420<ycbcr::bt709, ycbcr::studioLuma, Order::reversed>;
 using Inverse = YccToRgb<ycbcr::bt709ToRgb>;
 
 // Full range. The constant of packed Cr is 2 less than that of Cb.
@@ -26,13 +26,13 @@ template <class Byte> using CbYCr = Packed422<Byte, PackedOrder::chromaFirst>;
 void myBGRToYCbCr420_709CSC_8u_C3P3R(const uint8_t* src, ptrdiff_t srcStep, uint8_t* const dst[3], PlaneSteps dstStep,
                                      int width, int height)
 {
-    rgbTo420(rowsOf<BGR<In>>(src, srcStep), Forward420{}, dst, dstStep, width, height);
+    rgbTo420(rowsOf<Paired<BGR<In>>>(src, srcStep), PairedForward420{}, dst, dstStep, width, height);
 }
 
 void myBGRToYCbCr420_709CSC_8u_AC4P3R(const uint8_t* src, ptrdiff_t srcStep, uint8_t* const dst[3], PlaneSteps dstStep,
                                       int width, int height)
 {
-    rgbTo420(rowsOf<BGRX<In>>(src, srcStep), Forward420{}, dst, dstStep, width, height);
+    rgbTo420(rowsOf<Paired<BGRX<In>>>(src, srcStep), PairedForward420{}, dst, dstStep, width, height);
 }
 
 void myYCbCr420ToBGR_709CSC_8u_P3C3R(const uint8_t* const src[3], PlaneSteps srcStep, uint8_t* dst, ptrdiff_t dstStep,

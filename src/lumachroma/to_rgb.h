@@ -3,7 +3,8 @@
 // columns (and two rows). Exact: the same bytes as the sums in 32 bits.
 #pragma once
 
-#include "simd/layout.h"
+#include "lumachroma/to_rgb_dots.h"
+#include "simd/layouts_subsampled.h"
 #include "simd/weights.h"
 
 namespace zorcc::ZORCC_TIER {
@@ -25,14 +26,25 @@ public:
 
     template <int rows> auto operator()(const Subsampled<rows>& ycc) const
     {
-        const u8v uv = zipHalves(ycc.chroma);
-        if constexpr (k.y == 65536)
-            return onWholeLuma(ycc, uv);
+        if constexpr (DotProductsToRgb<k>::use)
+            return dotProducts(ycc);
+        else if constexpr (k.y == 65536)
+            return onWholeLuma(ycc, zipHalves(ycc.chroma));
         else
-            return onScaledLuma(ycc, uv);
+            return onScaledLuma(ycc, zipHalves(ycc.chroma));
+    }
+
+    template <PackedOrder order> auto operator()(const PackedPairs<order>& ycc) const
+    {
+        if constexpr (DotProductsToRgb<k>::use)
+            return dotProducts(ycc);
+        else
+            return (*this)(Subsampled<1>(ycc));
     }
 
 private:
+    [[no_unique_address]] DotProductsToRgb<k> dotProducts;
+
     struct Triple {
         s16v c[3];
     };
@@ -169,10 +181,18 @@ private:
 // Alpha as a fourth channel, the same for all pixels.
 template <class Formula> struct WithAlpha {
     uint8_t alpha;
+    Formula formula{};
 
-    template <class Source> auto operator()(const Source& source) const { return add(Formula{}(source)); }
+    template <class Source> auto operator()(const Source& source) const { return add(formula(source)); }
 
 private:
+#if defined(ZORCC_TIER_avx512)
+    template <int rows> UnsaturatedWithAlpha<rows> add(const Unsaturated<rows>& rgb) const
+    {
+        return {rgb, fill8(alpha)};
+    }
+#endif
+
     template <int rows, Columns columns> Pixels<4, rows, columns> add(const Pixels<3, rows, columns>& rgb) const
     {
         Pixels<4, rows, columns> rgba;

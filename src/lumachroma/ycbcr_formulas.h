@@ -3,6 +3,7 @@
 #pragma once
 
 #include "lumachroma/from_rgb.h"
+#include "lumachroma/from_rgb_dots.h"
 #include "lumachroma/to_rgb.h"
 #include "lumachroma/ycbcr_coeffs.h"
 
@@ -29,6 +30,17 @@ using YCbCrChroma = MatrixChroma<k.cb, ycbcr::chromaBias(pixels), k.cr, crBias, 
 // 4:2:0.
 template <ycbcr::FromRgb k, int lumaBias>
 using RgbToYCbCr420 = RgbToSubsampled<2, WeighedLuma<k.y, lumaBias>, YCbCrChroma<k, 4>>;
+
+// The same for Paired layouts, by the quickest way of the tier.
+#if defined(ZORCC_TIER_avx512)
+template <ycbcr::FromRgb k, Order order = Order::asStored>
+using PairedToYCbCr = DotProductsToYcc<k.y, ycbcr::studioLuma, k.cb, k.cr, ycbcr::chromaBias(1), order>;
+template <ycbcr::FromRgb k, int lumaBias, Order order = Order::asStored>
+using PairedToYCbCr420 = DotProductsTo420<k.y, lumaBias, k.cb, k.cr, ycbcr::chromaBias(4), order>;
+#else
+template <ycbcr::FromRgb k, Order = Order::asStored> using PairedToYCbCr = RgbToYCbCr<k>;
+template <ycbcr::FromRgb k, int lumaBias, Order = Order::asStored> using PairedToYCbCr420 = RgbToYCbCr420<k, lumaBias>;
+#endif
 
 // Every sample limited to 1..254.
 template <class Formula> struct Limited {

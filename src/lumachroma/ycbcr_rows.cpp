@@ -13,7 +13,8 @@ namespace {
 using Forward = RgbToYCbCr<ycbcr::bt601>;
 using Forward422 = RgbToSubsampled<1, WeighedLuma<ycbcr::bt601.y, ycbcr::studioLuma, ycbcr::studioLumaDown>,
                                    YCbCrChroma<ycbcr::bt601, 2>>;
-using Forward420 = RgbToYCbCr420<ycbcr::bt601, ycbcr::studioLuma>;
+using PairedForward = PairedToYCbCr<ycbcr::bt601>;
+using PairedForward420 = PairedToYCbCr420<ycbcr::bt601, ycbcr::studioLuma>;
 using Inverse = YccToRgb<ycbcr::bt601ToRgb>;
 using PlanarInverse = YccToRgb<ycbcr::bt601PlanarToRgb>;
 using PackedInverse = YccToRgb<ycbcr::bt601PackedToRgb>;
@@ -66,24 +67,24 @@ void rgbFromFiltered420(const uint8_t* const* src, const PlaneSteps& srcStep, co
 
 void myRGBToYCbCr_8u_C3R(const uint8_t* src, ptrdiff_t srcStep, uint8_t* dst, ptrdiff_t dstStep, int width, int height)
 {
-    convertRows(rowsOf<C3<In>>(src, srcStep), Forward{}, rowsOf<C3<Out>>(dst, dstStep), width, height);
+    convertRows(rowsOf<Paired<C3<In>>>(src, srcStep), PairedForward{}, rowsOf<C3<Out>>(dst, dstStep), width, height);
 }
 
 void myRGBToYCbCr_8u_AC4R(const uint8_t* src, ptrdiff_t srcStep, uint8_t* dst, ptrdiff_t dstStep, int width, int height)
 {
-    convertRows(rowsOf<AC4<In>>(src, srcStep), Forward{}, rowsOf<AC4<Out>>(dst, dstStep), width, height);
+    convertRows(rowsOf<Paired<AC4<In>>>(src, srcStep), PairedForward{}, rowsOf<AC4<Out>>(dst, dstStep), width, height);
 }
 
 void myRGBToYCbCr_8u_C3P3R(const uint8_t* src, ptrdiff_t srcStep, uint8_t* const dst[3], ptrdiff_t dstStep, int width,
                            int height)
 {
-    convertRows(rowsOf<C3<In>>(src, srcStep), Forward{}, rowsOf<P3<Out>>(dst, dstStep), width, height);
+    convertRows(rowsOf<Paired<C3<In>>>(src, srcStep), PairedForward{}, rowsOf<P3<Out>>(dst, dstStep), width, height);
 }
 
 void myRGBToYCbCr_8u_AC4P3R(const uint8_t* src, ptrdiff_t srcStep, uint8_t* const dst[3], ptrdiff_t dstStep, int width,
                             int height)
 {
-    convertRows(rowsOf<AC4<In>>(src, srcStep), Forward{}, rowsOf<P3<Out>>(dst, dstStep), width, height);
+    convertRows(rowsOf<Paired<AC4<In>>>(src, srcStep), PairedForward{}, rowsOf<P3<Out>>(dst, dstStep), width, height);
 }
 
 void myRGBToYCbCr_8u_P3R(const uint8_t* const src[3], ptrdiff_t srcStep, uint8_t* const dst[3], ptrdiff_t dstStep,
@@ -109,7 +110,7 @@ void myRGBToYCbCr422_8u_P3C2R(const uint8_t* const src[3], ptrdiff_t srcStep, ui
 void myRGBToYCbCr420_8u_C3P3R(const uint8_t* src, ptrdiff_t srcStep, uint8_t* const dst[3], PlaneSteps dstStep,
                               int width, int height)
 {
-    rgbTo420(rowsOf<C3<In>>(src, srcStep), Forward420{}, dst, dstStep, width, height);
+    rgbTo420(rowsOf<Paired<C3<In>>>(src, srcStep), PairedForward420{}, dst, dstStep, width, height);
 }
 
 void myYCbCrToRGB_8u_C3R(const uint8_t* src, ptrdiff_t srcStep, uint8_t* dst, ptrdiff_t dstStep, int width, int height)

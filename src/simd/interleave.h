@@ -23,20 +23,35 @@ constexpr int placeOf(int column, Columns columns)
 
 // ---- blocks: block b of v[k] is block b * count + k of memory ------------------------------------------------------
 
-template <int count> ZORCC_INLINE void loadBlocks(const uint8_t* p, u8v (&v)[count])
+// From two vectors that follow each other in memory.
+ZORCC_INLINE void toBlocks(const u8v (&memory)[2], u8v (&v)[2])
 {
-    for (int k = 0; k < count; ++k) {
+    for (int k = 0; k < 2; ++k) {
 #if defined(ZORCC_TIER_avx512)
-        static_assert(count == 2);
         const __m512i quads =
             _mm512_setr_epi64(2 * k, 2 * k + 1, 4 + 2 * k, 5 + 2 * k, 8 + 2 * k, 9 + 2 * k, 12 + 2 * k, 13 + 2 * k);
-        v[k] = (u8v)_mm512_permutex2var_epi64(reg(load(p)), quads, reg(load(p + 64)));
+        v[k] = (u8v)_mm512_permutex2var_epi64(reg(memory[0]), quads, reg(memory[1]));
 #elif defined(ZORCC_TIER_avx2)
-        v[k] = (u8v)_mm256_loadu2_m128i((const __m128i*)(p + 16 * (count + k)), (const __m128i*)(p + 16 * k));
+        v[k] = (u8v)_mm256_permute2x128_si256(reg(memory[0]), reg(memory[1]), k == 0 ? 0x20 : 0x31);
 #else
-        v[k] = load(p + 16 * k);
+        v[k] = memory[k];
 #endif
     }
+}
+
+template <int count> ZORCC_INLINE void loadBlocks(const uint8_t* p, u8v (&v)[count])
+{
+#if defined(ZORCC_TIER_avx512)
+    toBlocks({load(p), load(p + 64)}, v);
+#else
+    for (int k = 0; k < count; ++k) {
+    #if defined(ZORCC_TIER_avx2)
+        v[k] = (u8v)_mm256_loadu2_m128i((const __m128i*)(p + 16 * (count + k)), (const __m128i*)(p + 16 * k));
+    #else
+        v[k] = load(p + 16 * k);
+    #endif
+    }
+#endif
 }
 
 template <int count> ZORCC_INLINE void storeBlocks(uint8_t* p, const u8v (&v)[count])

@@ -11,6 +11,7 @@
 
 #include "frame/steps.h"
 #include "simd/interleave.h"
+#include "simd/wide_pixels.h"
 
 namespace zorcc::ZORCC_TIER {
 namespace {
@@ -30,6 +31,25 @@ template <int channels, int rows = 1, Columns columns = Columns::inOrder> struct
         return ordered;
     }
 };
+
+template <int channels>
+ZORCC_INLINE Pixels<channels, 2> stack(const Pixels<channels>& upper, const Pixels<channels>& lower)
+{
+    Pixels<channels, 2> both;
+    for (int c = 0; c < channels; ++c) {
+        both.c[0][c] = upper.c[0][c];
+        both.c[1][c] = lower.c[0][c];
+    }
+    return both;
+}
+
+template <int channels, Columns columns>
+ZORCC_INLINE Pixels<channels, 1, columns> rowOf(const Pixels<channels, 2, columns>& both, int row)
+{
+    Pixels<channels, 1, columns> one;
+    for (int c = 0; c < channels; ++c) one.c[0][c] = both.c[row][c];
+    return one;
+}
 
 // Luma of one row or of two, and the chroma that each pair of columns shares: per block eight samples of the first
 // chroma channel, then eight of the second.
@@ -68,32 +88,20 @@ template <class Byte, Unit... units> struct Twice<Rows<Byte, units...>> {
 
 // Two rows of a layout that holds one: the planes of the first row, then those of the second.
 template <class Layout> struct TwoRows : Twice<typename Layout::Base>::Type {
-    static constexpr int channels = Layout::channels;
+    Layout both; // what a row holds beside its planes
 
     Layout row(int r) const
     {
-        Layout one;
+        Layout one = both;
         for (int p = 0; p < Layout::planes; ++p) one.plane[p] = this->plane[r * Layout::planes + p];
         return one;
     }
 
-    Pixels<channels, 2> load(int x) const
-    {
-        Pixels<channels, 2> both;
-        for (int r = 0; r < 2; ++r) {
-            const Pixels<channels> one = row(r).load(x);
-            for (int c = 0; c < channels; ++c) both.c[r][c] = one.c[0][c];
-        }
-        return both;
-    }
+    auto load(int x) const { return stack(row(0).load(x), row(1).load(x)); }
 
-    template <Columns columns> void store(int x, const Pixels<channels, 2, columns>& both) const
+    template <class Pair> void store(int x, const Pair& pair) const
     {
-        for (int r = 0; r < 2; ++r) {
-            Pixels<channels, 1, columns> one;
-            for (int c = 0; c < channels; ++c) one.c[0][c] = both.c[r][c];
-            row(r).store(x, one);
-        }
+        for (int r = 0; r < 2; ++r) row(r).store(x, rowOf(pair, r));
     }
 };
 

@@ -21,9 +21,10 @@ template <Order order, int channels> ZORCC_INLINE void arrange(u8v (&c)[channels
 }
 
 // Three interleaved channels.
-template <class Byte, Order order = Order::asStored> struct C3 : Rows<Byte, Unit{3, 0}> {
+template <class Byte, Order o = Order::asStored> struct C3 : Rows<Byte, Unit{3, 0}> {
     using Base = Rows<Byte, Unit{3, 0}>;
     static constexpr int channels = 3;
+    static constexpr Order order = o;
 
     Pixels<3> load(int x) const
     {
@@ -38,6 +39,12 @@ template <class Byte, Order order = Order::asStored> struct C3 : Rows<Byte, Unit
         arrange<order>(p.c[0]);
         interleave3<columns>(this->at(0, x), p.c[0]);
     }
+
+#if defined(ZORCC_TIER_avx512)
+    void store(int x, const Unsaturated<1>& p) const { storeThrees(this->at(0, x), p); }
+
+    StoreThrees<order == Order::reversed> storeThrees;
+#endif
 };
 
 // Four interleaved channels that formulas see all.
@@ -58,17 +65,26 @@ template <class Byte, Order order = Order::asStored> struct C4 : Rows<Byte, Unit
         arrange<order>(p.c[0]);
         interleave4<false>(this->at(0, x), p.c[0]);
     }
+
+#if defined(ZORCC_TIER_avx512)
+    void store(int x, const UnsaturatedWithAlpha<1>& p) const { storeFours(this->at(0, x), p); }
+
+    StoreFours<order == Order::reversed> storeFours;
+#endif
 };
 
 // Four interleaved channels of which formulas see the first three. The fourth stays as it is in a destination.
-template <class Byte, Order order = Order::asStored> struct AC4 : Rows<Byte, Unit{4, 0}> {
+template <class Byte, Order o = Order::asStored> struct AC4 : Rows<Byte, Unit{4, 0}> {
     using Base = Rows<Byte, Unit{4, 0}>;
     static constexpr int channels = 3;
+    static constexpr Order order = o;
 
     Pixels<3> load(int x) const
     {
-        const Pixels<4> p = C4<Byte, order>{*this}.load(x);
-        return {{{p.c[0][0], p.c[0][1], p.c[0][2]}}};
+        u8v c[4];
+        deinterleave4(this->at(0, x), c);
+        arrange<order>(c);
+        return {{{c[0], c[1], c[2]}}};
     }
 
     void store(int x, Pixels<3> p) const
@@ -82,6 +98,18 @@ template <class Byte, Order order = Order::asStored> struct AC4 : Rows<Byte, Uni
 template <class Byte> using BGR = C3<Byte, Order::reversed>;
 template <class Byte> using BGRX = AC4<Byte, Order::reversed>;
 template <class Byte> using BGRA = C4<Byte, Order::reversed>;
+
+// C3 or AC4 as formulas that work with dot products take it, on the tier that has them: pairs of channels, in the order
+// of memory.
+#if defined(ZORCC_TIER_avx512)
+template <class Layout> struct Paired : Layout::Base {
+    using Base = typename Layout::Base;
+
+    PixelQuads<1> load(int x) const { return loadQuads<Layout::unit[0].bytes>(this->at(0, x)); }
+};
+#else
+template <class Layout> using Paired = Layout;
+#endif
 
 // A plane for each of `count` channels.
 template <class Byte, Unit... units> struct Planes : Rows<Byte, units...> {
@@ -99,6 +127,13 @@ template <class Byte, Unit... units> struct Planes : Rows<Byte, units...> {
     {
         for (int c = 0; c < channels; ++c) zorcc::ZORCC_TIER::store(this->at(c, x), p.c[0][c]);
     }
+
+#if defined(ZORCC_TIER_avx512)
+    void store(int x, const Unsaturated<1>& p) const
+    {
+        for (int c = 0; c < channels; ++c) zorcc::ZORCC_TIER::store(this->at(c, x), saturate(p.c[0][c]));
+    }
+#endif
 };
 template <class Byte> using P3 = Planes<Byte, Unit{1, 0}, Unit{1, 0}, Unit{1, 0}>;
 template <class Byte> using P4 = Planes<Byte, Unit{1, 0}, Unit{1, 0}, Unit{1, 0}, Unit{1, 0}>;

@@ -56,15 +56,26 @@ template <class Byte> struct Planar411 : Rows<Byte, Unit{1, 0}, Unit{1, 2}, Unit
 // turn.
 enum class PackedOrder { lumaFirst, chromaFirst };
 
-template <class Byte, PackedOrder order = PackedOrder::lumaFirst> struct Packed422 : Rows<Byte, Unit{4, 1}> {
-    Subsampled<1> load(int x) const
+// Pairs of columns as they are in memory. Formulas may take them so; the others get luma and chroma apart.
+template <PackedOrder order> struct PackedPairs {
+    u8v memory[2];
+
+    operator Subsampled<1>() const
     {
         u8v v[2];
-        loadBlocks(this->at(0, x), v);
-        const u8v even = packUnsigned((s16v)v[0] & 0xff, (s16v)v[1] & 0xff);
-        const u8v odd = packUnsigned((s16v)((u16v)v[0] >> 8), (s16v)((u16v)v[1] >> 8));
+        toBlocks(memory, v);
+        const u8v even = packUnsigned(firstOfPairs(v[0]), firstOfPairs(v[1]));
+        const u8v odd = packUnsigned(secondOfPairs(v[0]), secondOfPairs(v[1]));
         if constexpr (order == PackedOrder::lumaFirst) return {{even}, unzipHalves(odd)};
         return {{odd}, unzipHalves(even)};
+    }
+};
+
+template <class Byte, PackedOrder order = PackedOrder::lumaFirst> struct Packed422 : Rows<Byte, Unit{4, 1}> {
+    PackedPairs<order> load(int x) const
+    {
+        const uint8_t* p = this->at(0, x);
+        return {{zorcc::ZORCC_TIER::load(p), zorcc::ZORCC_TIER::load(p + vectorBytes)}};
     }
 
     void store(int x, const Subsampled<1>& s) const

@@ -50,10 +50,11 @@ ZORCC_INLINE void convertRow(const Source from, const Formula formula, const Des
 {
     constexpr int step = vectorBytes;
     if (width >= step) {
-        const auto last = from.load(width - step);
-        int x = 0;
-        for (; x <= width - step; x += step) to.store(x, formula(from.load(x)));
-        if (x < width) to.store(width - step, formula(last));
+        const bool rest = width % step != 0;
+        decltype(from.load(0)) last;
+        if (rest) last = from.load(width - step);
+        for (int x = 0; x <= width - step; x += step) to.store(x, formula(from.load(x)));
+        if (rest) to.store(width - step, formula(last));
     } else if (width > 0) {
         convertShortRow(from, formula, to, width);
     }

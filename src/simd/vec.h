@@ -167,6 +167,10 @@ template <class V> ZORCC_INLINE V zipHigh(V a, V b)
         return (V)ZORCC_MM(unpackhi_epi64)(reg(a), reg(b));
 }
 
+// The lower and the upper byte of every pair.
+ZORCC_INLINE s16v firstOfPairs(u8v pairs) { return (s16v)pairs & 0xff; }
+ZORCC_INLINE s16v secondOfPairs(u8v pairs) { return (s16v)((u16v)pairs >> 8); }
+
 // Per block: element i is v[index[i]], or 0 where index[i] has its top bit set.
 ZORCC_INLINE u8v shuffle(u8v v, u8v index) { return (u8v)ZORCC_MM(shuffle_epi8)(reg(v), reg(index)); }
 

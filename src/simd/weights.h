@@ -90,9 +90,5 @@ ZORCC_INLINE u8v packAround128(s16v lo, s16v hi) { return (u8v)packSigned(lo, hi
 // The upper bytes of 8.8 fixed point.
 ZORCC_INLINE u8v packWhole(u16v lo, u16v hi) { return packUnsigned((s16v)(lo >> 8), (s16v)(hi >> 8)); }
 
-// The lower and the upper byte of every pair.
-ZORCC_INLINE s16v firstOfPairs(u8v pairs) { return (s16v)pairs & 0xff; }
-ZORCC_INLINE s16v secondOfPairs(u8v pairs) { return (s16v)((u16v)pairs >> 8); }
-
 } // namespace
 } // namespace zorcc::ZORCC_TIER

@@ -17,7 +17,7 @@ std::string_view channelNames(Model model)
     case Model::mosaic:
         return "M";
     case Model::grey:
-        return "G";
+        return "L";
     case Model::rgb:
         return "RGBA";
     case Model::yuv:

@@ -45,7 +45,9 @@ void convert(const ConvertOptions& options)
         writer->write(naming(reader->path(), [&] {
             if (!conversion || from != &picture->format()) {
                 from = &picture->format();
-                conversion = findConversion(*from, asked ? *asked : usualFormat(options.out, *from));
+                const Format& to = asked ? *asked : usualFormat(options.out, *from);
+                const interface::Model own = isRgb(*from) ? interface::Model::yuv : from->model;
+                conversion = findConversion(*from, byMatrix(to, options.in.matrix.value_or(own)));
             }
             return (*conversion)(std::move(*picture), options.timing.repeat, stats);
         }));

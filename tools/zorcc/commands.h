@@ -14,6 +14,7 @@ struct Input {
     std::string path;
     std::optional<ZorSize> size; // given: the file is headerless
     std::string format;
+    Matrix matrix;
 };
 
 struct Timing {

@@ -116,22 +116,44 @@ const Format& formatNamed(const std::string& name)
 const Format& pictureFormat(bool grey, bool alpha, Sample sample)
 {
     using namespace interface::formats;
-    if (sample == Sample::f32) return grey ? greyf : rgbf;
+    if (sample == Sample::f32) return grey ? greyf32 : rgbf32;
     if (sample == Sample::u16) return grey ? grey16 : alpha ? rgba64 : rgb48;
     return grey ? grey8 : alpha ? rgba : rgb24;
+}
+
+const Format& withModel(const Format& format, interface::Model model)
+{
+    using namespace interface::formats;
+    // What files hold although no function has it.
+    static constexpr Format others[] = {
+        planar("yuv422p_bt709", "YUV", interface::Model::bt709, Sample::u8, 1, 0),
+        planar("yuv444p_bt709full", "YUV", interface::Model::bt709full, Sample::u8),
+        planar("yuv422p_bt709full", "YUV", interface::Model::bt709full, Sample::u8, 1, 0)};
+    const auto isTwin = [&](const Format& f) {
+        return f.model == model && f.channels == format.channels && f.sample == format.sample &&
+               f.layout == format.layout && f.log2X() == format.log2X() && f.log2Y() == format.log2Y();
+    };
+    if (isTwin(format)) return format;
+    for (const interface::Function& function : interface::functions())
+        for (const Format* f : {function.source, function.destination})
+            if (isTwin(*f)) return *f;
+    for (const Format& f : others)
+        if (isTwin(f)) return f;
+    throw Cause(std::string(format.name) + " exists by another matrix only");
 }
 
 const Format& planarYuv(const Format& format)
 {
     using namespace interface::formats;
-    return format.log2Y() > 0 ? yuv420p : format.log2X() > 0 ? yuv422p : yuv444p;
+    return withModel(format.log2Y() > 0 ? yuv420p : format.log2X() > 0 ? yuv422p : yuv444p, format.model);
 }
 
 std::optional<int> rearrangementCost(const Format& from, const Format& to)
 {
     if (&from == &to) return 0;
     if (isGrey(from) && to.model == interface::Model::mosaic && from.sample == to.sample) return 1;
-    if (from.model != to.model || from.log2X() != to.log2X() || from.log2Y() != to.log2Y()) return {};
+    const bool sameColours = from.model == to.model || (isRgb(from) && isRgb(to));
+    if (!sameColours || from.log2X() != to.log2X() || from.log2Y() != to.log2Y()) return {};
     if (from.layout == Layout::packedBits || (to.layout == Layout::packedBits && to.channels != "RGB")) return {};
     int cost = 1;
     for (char letter : to.channels)

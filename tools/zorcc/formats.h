@@ -9,26 +9,30 @@
 
 namespace zorcc::tool {
 
-// Formats that picture files hold besides those of the library; L is grey.
-inline constexpr Format grey8 = interface::formats::interleaved("grey8", "L", interface::Model::rgb, Sample::u8);
-inline constexpr Format grey16 = interface::formats::interleaved("grey16", "L", interface::Model::rgb, Sample::u16);
-inline constexpr Format greyf = interface::formats::interleaved("greyf", "L", interface::Model::rgb, Sample::f32);
-inline constexpr Format rgb48 = interface::formats::interleaved("rgb48", "RGB", interface::Model::rgb, Sample::u16);
-inline constexpr Format rgba64 = interface::formats::interleaved("rgba64", "RGBA", interface::Model::rgb, Sample::u16);
-inline constexpr Format rgbf = interface::formats::interleaved("rgbf", "RGB", interface::Model::rgb, Sample::f32);
-
 // A format that some function takes or gives; throws UsageError for other names.
 const Format& formatNamed(const std::string& name);
 
 inline bool isGrey(const Format& format) { return format.channels == "L"; }
 inline bool hasAlpha(const Format& format) { return format.channels.find('A') != std::string_view::npos; }
 inline bool isDeep(const Format& format) { return format.sample != Sample::u8; }
-inline bool isRgb(const Format& format) { return format.model == interface::Model::rgb; }
+inline bool isRgb(const Format& format)
+{
+    return format.model == interface::Model::rgb || format.model == interface::Model::grey;
+}
 
 // How a picture file that holds red, green and blue, or grey, of the given sample type says it.
 const Format& pictureFormat(bool grey, bool alpha, Sample sample);
 
-// The planar format, without alpha, of a luma-chroma format's own chroma sampling.
+// A luma-chroma format's twin by another matrix; throws Cause if there is none.
+const Format& withModel(const Format& format, interface::Model model);
+
+// What a plain name such as yuv420p means by the given matrix; formats whose names tell their matrix stay as they are.
+inline const Format& byMatrix(const Format& format, interface::Model matrix)
+{
+    return format.model == interface::Model::yuv ? withModel(format, matrix) : format;
+}
+
+// The planar format, without alpha, of a luma-chroma format's own matrix and chroma sampling.
 const Format& planarYuv(const Format& format);
 
 // What it costs to rearrange pictures of one format into another: 0 for the same, more the more is moved, added or

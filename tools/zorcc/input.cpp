@@ -9,10 +9,11 @@ std::unique_ptr<Reader> openInput(const Input& input, const Format* usual, OddSi
 {
     if (!input.size) {
         if (!input.format.empty()) throw UsageError("--format is for headerless files, with --size WxH");
-        return openReader(input.path);
+        return openReader(input.path, {}, input.matrix);
     }
-    const Format* const format = input.format.empty() ? usual : &formatNamed(input.format);
+    const Format* format = input.format.empty() ? usual : &formatNamed(input.format);
     if (!format) throw UsageError(input.path + ": a headerless file needs --format NAME");
+    if (input.matrix) format = &byMatrix(*format, *input.matrix);
     return openReader(input.path, Headerless{format, *input.size, oddSizes});
 }
 

@@ -100,6 +100,15 @@ void addCommands(CLI::App& app, Options& o)
     command->add_option("OUT", o.convert.out, "result; for several pictures .y4m, .yuv, or frame_%03d.png")->required();
     command->add_option("--to", o.convert.to, "pixel format of OUT, such as yuv420p, yuv422p, yuv444p, yuyv, rgb24")
         ->type_name("NAME");
+    command
+        ->add_option("--matrix", o.convert.in.matrix,
+                     "matrix of .y4m files, and of formats whose names tell none: yuv, bt601, bt709, bt709full")
+        ->type_name("NAME")
+        ->transform(CLI::Transformer(
+            std::map<std::string, zorcc::interface::Model>{{"yuv", zorcc::interface::Model::yuv},
+                                                           {"bt601", zorcc::interface::Model::bt601},
+                                                           {"bt709", zorcc::interface::Model::bt709},
+                                                           {"bt709full", zorcc::interface::Model::bt709full}}));
     addTiming(command, o.convert.timing);
     command->footer(
         "Without --to, RGB into .y4m or .yuv becomes yuv420p and YUV into a picture file rgb24. All pictures of IN "
@@ -107,7 +116,9 @@ void addCommands(CLI::App& app, Options& o)
         "converted. An odd size in a format of shared chroma loses nothing: the last column and row are repeated to\n"
         "complete the last blocks, and cut off on the way back; half of an odd size is rounded up in files. A .y4m "
         "file\n"
-        "keeps the frame rate and colour range of a .y4m IN; otherwise it says 25 pictures a second and full range.\n"
+        "keeps the frame rate of a .y4m IN, otherwise it says 25 pictures a second. Without --matrix a .y4m IN of "
+        "limited\n"
+        "range is taken for bt601, any other for yuv; OUT says the range of its matrix.\n"
         "Examples:\n"
         "  zorcc convert photo.png photo.y4m\n"
         "  zorcc convert clip.y4m frame_%03d.png\n"

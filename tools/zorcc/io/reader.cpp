@@ -59,7 +59,7 @@ std::optional<double> Reader::progress() const
     return 1 - static_cast<double>(*left) / static_cast<double>(*file.size());
 }
 
-std::unique_ptr<Reader> openReader(const std::string& path, const std::optional<Headerless>& layout)
+std::unique_ptr<Reader> openReader(const std::string& path, const std::optional<Headerless>& layout, Matrix matrix)
 {
     if (const auto kind = fileKind(path); kind && isHeaderless(*kind) && !layout)
         throw UsageError(path + ": a headerless file needs --size WxH");
@@ -74,7 +74,7 @@ std::unique_ptr<Reader> openReader(const std::string& path, const std::optional<
         case 'P':
             return std::make_unique<PictureReader>(path, std::move(file), decodePnm, true);
         case 'Y':
-            return y4mReader(path, std::move(file));
+            return y4mReader(path, std::move(file), matrix);
         case EOF:
             throw Cause("the file is empty");
         default:

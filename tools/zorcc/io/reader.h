@@ -47,11 +47,14 @@ struct Headerless {
     OddSizes oddSizes;
 };
 
-// PNG, JPEG, PNM, PFM or Y4M, whatever the file is named; headerless where `layout` says how.
-std::unique_ptr<Reader> openReader(const std::string& path, const std::optional<Headerless>& layout = {});
+using Matrix = std::optional<interface::Model>; // of luma-chroma pictures, where the user says it
+
+// PNG, JPEG, PNM, PFM or Y4M, whatever the file is named; headerless where `layout` says how. `matrix` is for Y4M.
+std::unique_ptr<Reader> openReader(const std::string& path, const std::optional<Headerless>& layout = {},
+                                   Matrix matrix = {});
 
 // The two kinds of openReader() that are defined in files of their own.
 std::unique_ptr<Reader> headerlessReader(const std::string& path, InputFile file, const Headerless& layout);
-std::unique_ptr<Reader> y4mReader(const std::string& path, InputFile file);
+std::unique_ptr<Reader> y4mReader(const std::string& path, InputFile file, Matrix matrix);
 
 } // namespace zorcc::tool

@@ -27,6 +27,20 @@ const Format& formatOfTag(const std::string& tag)
     throw Cause("colour space " + quoted(tag) + " is not supported (420, 422 and 444 with 8 bits are)");
 }
 
+// Where the matrix settles it.
+std::optional<std::string> rangeOf(const Format& format)
+{
+    switch (format.model) {
+    case interface::Model::bt601:
+    case interface::Model::bt709:
+        return "LIMITED";
+    case interface::Model::bt709full:
+        return "FULL";
+    default:
+        return {};
+    }
+}
+
 int side(const std::string& digits)
 {
     int value = 0;
@@ -44,7 +58,7 @@ std::string checkedRate(const std::string& rate)
 
 class Y4mReader : public Reader {
 public:
-    Y4mReader(const std::string& path, InputFile input) : Reader(path, std::move(input))
+    Y4mReader(const std::string& path, InputFile input, Matrix matrix) : Reader(path, std::move(input))
     {
         std::istringstream words(file.readLine(longestLine));
         std::string word;
@@ -65,6 +79,9 @@ public:
                 videoTags.range = word.substr(12);
         }
         if (visible.width == 0 || visible.height == 0) throw Cause("the header does not tell width and height");
+        // The header cannot tell the matrix; limited range is told, and common with BT.601.
+        const bool limited = videoTags.range == "LIMITED";
+        format = &withModel(*format, matrix.value_or(limited ? interface::Model::bt601 : interface::Model::yuv));
         size = wholeBlocks(visible, *format);
     }
 
@@ -90,18 +107,19 @@ private:
 
 } // namespace
 
-std::unique_ptr<Reader> y4mReader(const std::string& path, InputFile file)
+std::unique_ptr<Reader> y4mReader(const std::string& path, InputFile file, Matrix matrix)
 {
-    return std::make_unique<Y4mReader>(path, std::move(file));
+    return std::make_unique<Y4mReader>(path, std::move(file), matrix);
 }
 
 void writeY4mHeader(AtomicFile& file, const Picture& picture, const VideoTags& tags)
 {
     const Format& format = picture.format();
     const std::string sampling = format.log2Y() > 0 ? tags.sampling420 : format.log2X() > 0 ? "422" : "444";
+    const std::string range = rangeOf(format).value_or(tags.range);
     file.print("YUV4MPEG2 W" + std::to_string(picture.visible().width) + " H" +
                std::to_string(picture.visible().height) + " F" + tags.frameRate + " Ip A1:1 C" + sampling +
-               (tags.range.empty() ? "" : " XCOLORRANGE=" + tags.range) + "\n");
+               (range.empty() ? "" : " XCOLORRANGE=" + range) + "\n");
 }
 
 void writeY4mFrame(AtomicFile& file, const Picture& picture)
