@@ -285,6 +285,216 @@ ZOR_API ZorStatus zoriCbYCr422ToBGR_709HDTV_8u_C2C4R(const uint8_t* pSrc, int sr
                                                      ZorSize roiSize, uint8_t aval);
 
 /*
+ * ---- Chroma sampling and plane orders -------------------------------------------------------------------------------
+ *
+ * 8-bit luma-chroma images from one chroma sampling and layout to another. Nothing is computed but averages of chroma;
+ * luma is copied. Layouts:
+ *   C2           packed 4:2:2: YCbCr422 is Y0 Cb Y1 Cr, CbYCr422 is Cb Y0 Cr Y1, YCrCb422 is Y0 Cr Y1 Cb
+ *   P3           planes Y, Cb, Cr, in the YCrCb forms Y, Cr, Cb
+ *   P2           a plane of luma and one of pairs Cb Cr
+ *   422          chroma of width / 2 by height; 420: width / 2 by height / 2; 411: width / 4 by height
+ *   1620         chroma of width / 4 by height / 4
+ * All pointers are checked before the size. Minimum sizes (below: zorStatusBadSize) are those of one block of pixels
+ * that share chroma in either format: 2 x 1 for 422, 2 x 2 where there is 420, 4 x 1 for 411, 4 x 2 for 411 and 420.
+ * Width and height are rounded down to such blocks; what lies beyond is neither read nor written, and the status is
+ * zorStatusOk. Steps are not checked. All of these run on the calling thread unless their group says otherwise.
+ */
+
+/* 4:2:2 to 4:2:0: of every two rows of chroma the first is kept. */
+ZOR_API ZorStatus zoriYCbCr422ToYCbCr420_8u_P3R(const uint8_t* const pSrc[3], const int srcStep[3],
+                                                uint8_t* const pDst[3], const int dstStep[3], ZorSize roiSize);
+ZOR_API ZorStatus zoriYCbCr422ToYCbCr420_8u_P3P2R(const uint8_t* const pSrc[3], const int srcStep[3], uint8_t* pDstY,
+                                                  int dstYStep, uint8_t* pDstCbCr, int dstCbCrStep, ZorSize roiSize);
+ZOR_API ZorStatus zoriYCbCr422ToYCbCr420_8u_C2P3R(const uint8_t* pSrc, int srcStep, uint8_t* const pDst[3],
+                                                  const int dstStep[3], ZorSize roiSize);
+ZOR_API ZorStatus zoriYCrCb422ToYCbCr420_8u_C2P3R(const uint8_t* pSrc, int srcStep, uint8_t* const pDst[3],
+                                                  const int dstStep[3], ZorSize roiSize);
+ZOR_API ZorStatus zoriCbYCr422ToYCbCr420_8u_C2P3R(const uint8_t* pSrc, int srcStep, uint8_t* const pDst[3],
+                                                  const int dstStep[3], ZorSize roiSize);
+
+/* 4:2:0 to 4:2:2: every row of chroma goes to two. */
+ZOR_API ZorStatus zoriYCbCr420ToYCbCr422_8u_P3R(const uint8_t* const pSrc[3], const int srcStep[3],
+                                                uint8_t* const pDst[3], const int dstStep[3], ZorSize roiSize);
+ZOR_API ZorStatus zoriYCbCr420ToYCbCr422_8u_P2P3R(const uint8_t* pSrcY, int srcYStep, const uint8_t* pSrcCbCr,
+                                                  int srcCbCrStep, uint8_t* const pDst[3], const int dstStep[3],
+                                                  ZorSize roiSize);
+ZOR_API ZorStatus zoriYCrCb420ToYCbCr422_8u_P3R(const uint8_t* const pSrc[3], const int srcStep[3],
+                                                uint8_t* const pDst[3], const int dstStep[3], ZorSize roiSize);
+
+/*
+ * 4:2:0 to 4:2:2 with a vertical filter: of chroma rows C[0] .. C[n - 1], row 2k of the result is C[k], row 2k + 1 is
+ * (9 (C[k] + C[k + 1]) - C[k - 1] - C[k + 2] + 8) / 16, rounded down and saturated; rows beyond an edge repeat it.
+ * Minimum 2 x 8; heights are rounded down to a multiple of 8.
+ */
+ZOR_API ZorStatus zoriYCbCr420ToYCbCr422_Filter_8u_P3R(const uint8_t* const pSrc[3], const int srcStep[3],
+                                                       uint8_t* const pDst[3], const int dstStep[3], ZorSize roiSize);
+ZOR_API ZorStatus zoriYCbCr420ToYCbCr422_Filter_8u_P2P3R(const uint8_t* pSrcY, int srcYStep, const uint8_t* pSrcCbCr,
+                                                         int srcCbCrStep, uint8_t* const pDst[3], const int dstStep[3],
+                                                         ZorSize roiSize);
+ZOR_API ZorStatus zoriYCrCb420ToYCbCr422_Filter_8u_P3R(const uint8_t* const pSrc[3], const int srcStep[3],
+                                                       uint8_t* const pDst[3], const int dstStep[3], ZorSize roiSize);
+
+/* 4:2:2 to 4:1:1: of every two columns of chroma the first is kept. */
+ZOR_API ZorStatus zoriYCbCr422ToYCbCr411_8u_P3R(const uint8_t* const pSrc[3], const int srcStep[3],
+                                                uint8_t* const pDst[3], const int dstStep[3], ZorSize roiSize);
+ZOR_API ZorStatus zoriYCbCr422ToYCbCr411_8u_P3P2R(const uint8_t* const pSrc[3], const int srcStep[3], uint8_t* pDstY,
+                                                  int dstYStep, uint8_t* pDstCbCr, int dstCbCrStep, ZorSize roiSize);
+ZOR_API ZorStatus zoriYCbCr422ToYCbCr411_8u_C2P3R(const uint8_t* pSrc, int srcStep, uint8_t* const pDst[3],
+                                                  const int dstStep[3], ZorSize roiSize);
+ZOR_API ZorStatus zoriYCbCr422ToYCbCr411_8u_C2P2R(const uint8_t* pSrc, int srcStep, uint8_t* pDstY, int dstYStep,
+                                                  uint8_t* pDstCbCr, int dstCbCrStep, ZorSize roiSize);
+ZOR_API ZorStatus zoriYCrCb422ToYCbCr411_8u_C2P3R(const uint8_t* pSrc, int srcStep, uint8_t* const pDst[3],
+                                                  const int dstStep[3], ZorSize roiSize);
+ZOR_API ZorStatus zoriCbYCr422ToYCbCr411_8u_C2P3R(const uint8_t* pSrc, int srcStep, uint8_t* const pDst[3],
+                                                  const int dstStep[3], ZorSize roiSize);
+
+/* 4:1:1 to 4:2:2: every column of chroma goes to two. */
+ZOR_API ZorStatus zoriYCbCr411ToYCbCr422_8u_P3R(const uint8_t* const pSrc[3], const int srcStep[3],
+                                                uint8_t* const pDst[3], const int dstStep[3], ZorSize roiSize);
+ZOR_API ZorStatus zoriYCbCr411ToYCbCr422_8u_P2P3R(const uint8_t* pSrcY, int srcYStep, const uint8_t* pSrcCbCr,
+                                                  int srcCbCrStep, uint8_t* const pDst[3], const int dstStep[3],
+                                                  ZorSize roiSize);
+ZOR_API ZorStatus zoriYCbCr411ToYCbCr422_8u_P3C2R(const uint8_t* const pSrc[3], const int srcStep[3], uint8_t* pDst,
+                                                  int dstStep, ZorSize roiSize);
+ZOR_API ZorStatus zoriYCbCr411ToYCbCr422_8u_P2C2R(const uint8_t* pSrcY, int srcYStep, const uint8_t* pSrcCbCr,
+                                                  int srcCbCrStep, uint8_t* pDst, int dstStep, ZorSize roiSize);
+ZOR_API ZorStatus zoriYCbCr411ToYCrCb422_8u_P3R(const uint8_t* const pSrc[3], const int srcStep[3],
+                                                uint8_t* const pDst[3], const int dstStep[3], ZorSize roiSize);
+ZOR_API ZorStatus zoriYCbCr411ToYCrCb422_8u_P3C2R(const uint8_t* const pSrc[3], const int srcStep[3], uint8_t* pDst,
+                                                  int dstStep, ZorSize roiSize);
+
+/*
+ * 4:1:1 to 4:2:0 and back without loss: rows 2k and 2k + 1 of 4:1:1 chroma are the even and the odd columns of row k of
+ * 4:2:0 chroma.
+ */
+ZOR_API ZorStatus zoriYCbCr411ToYCbCr420_8u_P3R(const uint8_t* const pSrc[3], const int srcStep[3],
+                                                uint8_t* const pDst[3], const int dstStep[3], ZorSize roiSize);
+ZOR_API ZorStatus zoriYCbCr411ToYCbCr420_8u_P2P3R(const uint8_t* pSrcY, int srcYStep, const uint8_t* pSrcCbCr,
+                                                  int srcCbCrStep, uint8_t* const pDst[3], const int dstStep[3],
+                                                  ZorSize roiSize);
+ZOR_API ZorStatus zoriYCbCr411ToYCbCr420_8u_P3P2R(const uint8_t* const pSrc[3], const int srcStep[3], uint8_t* pDstY,
+                                                  int dstYStep, uint8_t* pDstCbCr, int dstCbCrStep, ZorSize roiSize);
+ZOR_API ZorStatus zoriYCbCr411ToYCrCb420_8u_P2P3R(const uint8_t* pSrcY, int srcYStep, const uint8_t* pSrcCbCr,
+                                                  int srcCbCrStep, uint8_t* const pDst[3], const int dstStep[3],
+                                                  ZorSize roiSize);
+ZOR_API ZorStatus zoriYCbCr420ToYCbCr411_8u_P2P3R(const uint8_t* pSrcY, int srcYStep, const uint8_t* pSrcCbCr,
+                                                  int srcCbCrStep, uint8_t* const pDst[3], const int dstStep[3],
+                                                  ZorSize roiSize);
+ZOR_API ZorStatus zoriYCbCr420ToYCbCr411_8u_P3P2R(const uint8_t* const pSrc[3], const int srcStep[3], uint8_t* pDstY,
+                                                  int dstYStep, uint8_t* pDstCbCr, int dstCbCrStep, ZorSize roiSize);
+ZOR_API ZorStatus zoriYCrCb420ToYCbCr411_8u_P3P2R(const uint8_t* const pSrc[3], const int srcStep[3], uint8_t* pDstY,
+                                                  int dstYStep, uint8_t* pDstCbCr, int dstCbCrStep, ZorSize roiSize);
+
+/* Layout alone. */
+ZOR_API ZorStatus zoriYCbCr411_8u_P2P3R(const uint8_t* pSrcY, int srcYStep, const uint8_t* pSrcCbCr, int srcCbCrStep,
+                                        uint8_t* const pDst[3], const int dstStep[3], ZorSize roiSize);
+ZOR_API ZorStatus zoriYCbCr411_8u_P3P2R(const uint8_t* const pSrc[3], const int srcStep[3], uint8_t* pDstY,
+                                        int dstYStep, uint8_t* pDstCbCr, int dstCbCrStep, ZorSize roiSize);
+ZOR_API ZorStatus zoriYCbCr420_8u_P2P3R(const uint8_t* pSrcY, int srcYStep, const uint8_t* pSrcCbCr, int srcCbCrStep,
+                                        uint8_t* const pDst[3], const int dstStep[3], ZorSize roiSize);
+ZOR_API ZorStatus zoriYCbCr420_8u_P3P2R(const uint8_t* const pSrc[3], const int srcStep[3], uint8_t* pDstY,
+                                        int dstYStep, uint8_t* pDstCbCr, int dstCbCrStep, ZorSize roiSize);
+ZOR_API ZorStatus zoriYCbCr422_8u_C2P3R(const uint8_t* pSrc, int srcStep, uint8_t* const pDst[3], const int dstStep[3],
+                                        ZorSize roiSize);
+ZOR_API ZorStatus zoriYCrCb422ToYCbCr422_8u_C2P3R(const uint8_t* pSrc, int srcStep, uint8_t* const pDst[3],
+                                                  const int dstStep[3], ZorSize roiSize);
+ZOR_API ZorStatus zoriCbYCr422ToYCbCr422_8u_C2P3R(const uint8_t* pSrc, int srcStep, uint8_t* const pDst[3],
+                                                  const int dstStep[3], ZorSize roiSize);
+ZOR_API ZorStatus zoriYCbCr422ToYCrCb422_8u_C2R(const uint8_t* pSrc, int srcStep, uint8_t* pDst, int dstStep,
+                                                ZorSize roiSize);
+ZOR_API ZorStatus zoriYCbCr422ToYCrCb422_8u_P3C2R(const uint8_t* const pSrc[3], const int srcStep[3], uint8_t* pDst,
+                                                  int dstStep, ZorSize roiSize);
+
+/*
+ * 4:2:0, 1620 and 4:1:1 by interpolation. Fewer samples: every second column, row, or both, from the first on. More:
+ * between two samples lies their average, and between four the average of the averages of the upper two and of the
+ * lower two; the last column and row repeat. Averages round up in the destination columns before 16 * ((n - 1) / 8),
+ * where n is the width of the source's chroma and columns are doubled, or before 8 * (n / 8), where n is the width of
+ * the destination's chroma and only rows are (420 to 411); behind them they round down.
+ * Sizes must be multiples of 4 x 4, for 420 to 411 of 4 x 2: otherwise zorStatusBadSize.
+ */
+ZOR_API ZorStatus zoriYCbCr420To1620_8u_P3R(const uint8_t* const pSrc[3], const int srcStep[3], uint8_t* const pDst[3],
+                                            const int dstStep[3], ZorSize roiSize);
+ZOR_API ZorStatus zoriYCbCr1620To420_8u_P3R(const uint8_t* const pSrc[3], const int srcStep[3], uint8_t* const pDst[3],
+                                            const int dstStep[3], ZorSize roiSize);
+ZOR_API ZorStatus zoriYCbCr411To420_8u_P3R(const uint8_t* const pSrc[3], const int srcStep[3], uint8_t* const pDst[3],
+                                           const int dstStep[3], ZorSize roiSize);
+ZOR_API ZorStatus zoriYCbCr420To411_8u_P3R(const uint8_t* const pSrc[3], const int srcStep[3], uint8_t* const pDst[3],
+                                           const int dstStep[3], ZorSize roiSize);
+
+/*
+ * 4:2:2 to 4:2:0 and back for interlaced images: even and odd rows, which are two fields, stay apart. Minimum 2 x 4.
+ * Widths are rounded down to a multiple of 2, heights to one of 4, and zorStatusOddSize tells so.
+ *   to 4:2:0, rows R to C    C[2m] = (3 R[4m] + R[4m + 2]) / 4,          C[2m + 1] = (R[4m + 1] + 3 R[4m + 3]) / 4
+ *   to 4:2:2, rows C to R    R[4g + 2] = (5 C[2g] + 3 C[2g + 2]) / 8,    R[4g + 3] = (7 C[2g + 1] + C[2g + 3]) / 8,
+ *                            R[4g + 4] = (C[2g] + 7 C[2g + 2]) / 8,      R[4g + 5] = (3 C[2g + 1] + 5 C[2g + 3]) / 8
+ * rounded to nearest, a half upwards; the first two rows of 4:2:2 chroma and the last two are those of 4:2:0. From a
+ * width of 128 and above a height of 128 rows are shared out among the library's threads.
+ */
+ZOR_API ZorStatus zoriCbYCr422ToYCbCr420_Interlace_8u_C2P3R(const uint8_t* pSrc, int srcStep, uint8_t* const pDst[3],
+                                                            const int dstStep[3], ZorSize roiSize);
+ZOR_API ZorStatus zoriYCbCr422To420_Interlace_8u_P3R(const uint8_t* const pSrc[3], const int srcStep[3],
+                                                     uint8_t* const pDst[3], const int dstStep[3], ZorSize roiSize);
+ZOR_API ZorStatus zoriYCbCr420To422_Interlace_8u_P3R(const uint8_t* const pSrc[3], const int srcStep[3],
+                                                     uint8_t* const pDst[3], const int dstStep[3], ZorSize roiSize);
+ZOR_API ZorStatus zoriYCbCr420ToCbYCr422_Interlace_8u_P3C2R(const uint8_t* const pSrc[3], const int srcStep[3],
+                                                            uint8_t* pDst, int dstStep, ZorSize roiSize);
+
+/*
+ * ---- Video layouts and deinterlacing --------------------------------------------------------------------------------
+ *
+ * The layouts of video: NV12 (YCbCr420 P2), YV12 (YCrCb420 P3), YUY2 (YCbCr422 C2), UYVY (CbYCr422 C2). Checks, sizes
+ * and chroma are as above: of 4:2:2 every first row of two is kept, of 4:2:0 every row goes to two.
+ */
+ZOR_API ZorStatus zoriCbYCr422ToYCbCr420_8u_C2P2R(const uint8_t* pSrc, int srcStep, uint8_t* pDstY, int dstYStep,
+                                                  uint8_t* pDstCbCr, int dstCbCrStep, ZorSize roiSize);
+ZOR_API ZorStatus zoriCbYCr422ToYCrCb420_8u_C2P3R(const uint8_t* pSrc, int srcStep, uint8_t* const pDst[3],
+                                                  const int dstStep[3], ZorSize roiSize);
+ZOR_API ZorStatus zoriYCbCr422ToYCbCr420_8u_C2P2R(const uint8_t* pSrc, int srcStep, uint8_t* pDstY, int dstYStep,
+                                                  uint8_t* pDstCbCr, int dstCbCrStep, ZorSize roiSize);
+ZOR_API ZorStatus zoriYCbCr422ToYCrCb420_8u_C2P3R(const uint8_t* pSrc, int srcStep, uint8_t* const pDst[3],
+                                                  const int dstStep[3], ZorSize roiSize);
+ZOR_API ZorStatus zoriYCbCr420ToCbYCr422_8u_P2C2R(const uint8_t* pSrcY, int srcYStep, const uint8_t* pSrcCbCr,
+                                                  int srcCbCrStep, uint8_t* pDst, int dstStep, ZorSize roiSize);
+ZOR_API ZorStatus zoriYCbCr420ToYCbCr422_8u_P2C2R(const uint8_t* pSrcY, int srcYStep, const uint8_t* pSrcCbCr,
+                                                  int srcCbCrStep, uint8_t* pDst, int dstStep, ZorSize roiSize);
+ZOR_API ZorStatus zoriYCbCr420ToYCrCb420_8u_P2P3R(const uint8_t* pSrcY, int srcYStep, const uint8_t* pSrcCbCr,
+                                                  int srcCbCrStep, uint8_t* const pDst[3], const int dstStep[3],
+                                                  ZorSize roiSize);
+ZOR_API ZorStatus zoriYCrCb420ToCbYCr422_8u_P3C2R(const uint8_t* const pSrc[3], const int srcStep[3], uint8_t* pDst,
+                                                  int dstStep, ZorSize roiSize);
+ZOR_API ZorStatus zoriYCrCb420ToYCbCr420_8u_P3P2R(const uint8_t* const pSrc[3], const int srcStep[3], uint8_t* pDstY,
+                                                  int dstYStep, uint8_t* pDstCbCr, int dstCbCrStep, ZorSize roiSize);
+ZOR_API ZorStatus zoriYCrCb420ToYCbCr422_8u_P3C2R(const uint8_t* const pSrc[3], const int srcStep[3], uint8_t* pDst,
+                                                  int dstStep, ZorSize roiSize);
+
+/* Packed to packed: minimum 2 x 1, and any height. */
+ZOR_API ZorStatus zoriYCbCr422ToCbYCr422_8u_C2R(const uint8_t* pSrc, int srcStep, uint8_t* pDst, int dstStep,
+                                                ZorSize roiSize);
+ZOR_API ZorStatus zoriCbYCr422ToYCbCr422_8u_C2R(const uint8_t* pSrc, int srcStep, uint8_t* pDst, int dstStep,
+                                                ZorSize roiSize);
+
+/*
+ * Deinterlacing by a vertical low-pass. Luma row r becomes (Y[r - 1] + 2 Y[r] + Y[r + 1]) / 4, where rows beyond an
+ * edge of the frame repeat it; in the first 8 * (width / 8) columns each of the averages of (Y[r - 1], Y[r]), of (Y[r],
+ * Y[r + 1]) and of both rounds up, behind them the sum is rounded down. The chroma of luma rows 2k and 2k + 1 is the
+ * average of chroma rows k and k + 1 (of the last two rows for the last k; a single row as it is), rounded up where
+ * luma is, otherwise down.
+ *
+ * `slice` tells which part of a frame the images are: 1 the first, 4 a middle one, 16 the last; with all of these bits
+ * (21) they are the whole frame. Any other value converts nothing. Slices have even heights and follow each other
+ * downwards. The first one leaves its last row of luma and its last two rows of chroma to the next one, and so on,
+ * since they depend on rows beyond; so for a middle or last slice the two rows above the images are read and completed,
+ * too. Together slices give the same frame as one call.
+ */
+ZOR_API ZorStatus zoriYCbCr420ToYCbCr422_Filter_8u_P2C2R(const uint8_t* pSrcY, int srcYStep, const uint8_t* pSrcCbCr,
+                                                         int srcCbCrStep, uint8_t* pDst, int dstStep, ZorSize roiSize,
+                                                         int slice);
+ZOR_API ZorStatus zoriYCbCr420ToYCrCb420_Filter_8u_P2P3R(const uint8_t* pSrcY, int srcYStep, const uint8_t* pSrcCbCr,
+                                                         int srcCbCrStep, uint8_t* const pDst[3], const int dstStep[3],
+                                                         ZorSize roiSize, int slice);
+
+/*
  * ---- Demosaicing ----------------------------------------------------------------------------------------------------
  *
  * A Bayer mosaic, one colour sample a pixel in a repeating 2 x 2 cell, to R, G, B in memory order. `grid` names the
@@ -315,13 +525,14 @@ ZOR_API ZorStatus zoriCFAToRGB_16u_C1C3R(const uint16_t* pSrc, ZorRect srcRoi, Z
 
 /*
  * The adaptive homogeneity-directed method (K. Hirakawa and T. W. Parks, 2005); images from 5 x 5. Green at a red or
- * blue pixel is estimated once along the row and once along the column: the average of the two green neighbours, rounded
- * down, plus a quarter, rounded down, of twice the pixel less the pixels of its colour two before and two behind, limited
- * to the range of the two neighbours. Both candidates, with red and blue from interpolated differences to green, are
- * compared in CIE L*a*b* (white D65): the direction that has more neighbours of like lightness and colour around a pixel
- * gives the pixel its green; where they are about even it is the mean of both. The differences of red and blue to that
- * green are interpolated and moved half of the way to their 3 x 3 median. The image is mirrored at its edges.
- * 16-bit results of samples 257 times as large as 8-bit samples are within 2 x 257 of 257 times the 8-bit results.
+ * blue pixel is estimated once along the row and once along the column: the average of the two green neighbours,
+ * rounded down, plus a quarter, rounded down, of twice the pixel less the pixels of its colour two before and two
+ * behind, limited to the range of the two neighbours. Both candidates, with red and blue from interpolated differences
+ * to green, are compared in CIE L*a*b* (white D65): the direction that has more neighbours of like lightness and colour
+ * around a pixel gives the pixel its green; where they are about even it is the mean of both. The differences of red
+ * and blue to that green are interpolated and moved half of the way to their 3 x 3 median. The image is mirrored at its
+ * edges. 16-bit results of samples 257 times as large as 8-bit samples are within 2 x 257 of 257 times the 8-bit
+ * results.
  *
  * `pTmp` is scratch memory: 64 rows of 32 x (w + 32) bytes, `tmpStep` bytes apart, where w is the width of the region's
  * part inside the image. It needs no alignment, is not checked, holds nothing before and nothing of use after the call,

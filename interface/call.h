@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <tuple>
 #include <type_traits>
 
@@ -22,6 +23,7 @@ struct Image {
 struct Extra {
     std::uint8_t alpha = 0;
     ZorBayerGrid grid = zorBayerRGGB;
+    int slice = 21; // of a deinterlacing conversion: the whole frame
 };
 
 // What the binder consumes from: images in order, then the extras.
@@ -34,6 +36,8 @@ struct Call {
     bool inDestination = false;   // which of the two that is; they may be one object
     int plane = 0;                // the plane of it that a single pointer argument named
     bool nullArrays[2] = {};      // pass a null array of planes for the source, the destination
+    bool region = false;          // a region has been passed: the size that follows comes before the images' steps
+    bool sized = false;           // the size has been passed: what follows are extras
 
     int nextSource() { return next(source, false); }
     int nextDestination() { return next(destination, true); }
@@ -85,9 +89,9 @@ template <class T> struct Argument<T* const*> { // plane pointers of a destinati
     operator T* const*() const { return null ? nullptr : value; }
 };
 
-template <> struct Argument<int> { // step of the image, or of the plane, before it
+template <> struct Argument<int> { // step of the image, or of the plane, before it; behind the size the slice
     int value;
-    explicit Argument(Call& call) : value(call.image->step[call.plane]) {}
+    explicit Argument(Call& call) : value(call.sized ? call.extra.slice : call.image->step[call.plane]) {}
     operator int() const { return value; }
 };
 
@@ -99,13 +103,13 @@ template <> struct Argument<const int*> { // steps of the planes before it
 
 template <> struct Argument<ZorSize> {
     ZorSize value;
-    explicit Argument(Call& call) : value(call.size) {}
+    explicit Argument(Call& call) : value(call.size) { call.sized = !call.region; }
     operator ZorSize() const { return value; }
 };
 
 template <> struct Argument<ZorRect> { // the whole image as the region
     ZorRect value;
-    explicit Argument(Call& call) : value{0, 0, call.size.width, call.size.height} {}
+    explicit Argument(Call& call) : value{0, 0, call.size.width, call.size.height} { call.region = true; }
     operator ZorRect() const { return value; }
 };
 
@@ -126,7 +130,8 @@ struct Signature {
     bool steps;                         // takes steps at all; otherwise rows follow each other without gaps
     bool sourceArray, destinationArray; // takes an array of plane pointers
     bool sourceSteps, destinationSteps; // takes a step for every plane; otherwise one step serves all
-    bool scratch;                       // takes scratch memory behind a grid, as plane 1 of the destination
+    bool slice;                         // takes the position of the image in a frame
+    bool scratch;                       // takes scratch memory as well, behind the destination of a region
 };
 
 template <class T> inline constexpr bool isSourceArray = false;
@@ -135,6 +140,9 @@ template <class T> inline constexpr bool isDestinationArray = false;
 template <class T> inline constexpr bool isDestinationArray<T* const*> = !std::is_const_v<T>;
 template <class T> inline constexpr bool isDestination = isDestinationArray<T>;
 template <class T> inline constexpr bool isDestination<T*> = !std::is_const_v<T> || isDestinationArray<T*>;
+template <class T>
+inline constexpr bool isPlane =
+    std::is_pointer_v<T> && !std::is_pointer_v<std::remove_pointer_t<T>> && !std::is_same_v<T, const int*>;
 
 template <auto function> struct Bound;
 
@@ -145,20 +153,34 @@ template <class... Parameters, ZorStatus (*function)(Parameters...)> struct Boun
         return std::apply([](const auto&... argument) { return function(argument...); }, arguments);
     }
 
+    // The call as it stands, to be made as often as wanted without converting arguments again.
+    static std::function<ZorStatus()> prepare(Call& call)
+    {
+        return [arguments = std::tuple<Argument<Parameters>...>{Argument<Parameters>(call)...}] {
+            return std::apply([](const auto&... argument) { return function(argument...); }, arguments);
+        };
+    }
+
     static constexpr Signature signature()
     {
         Signature s{};
-        bool destination = false, mosaic = false;
+        bool destination = false, sized = false, region = false;
+        int planes[2] = {}; // that have a pointer and a step of their own
         auto look = [&]<class T>(std::type_identity<T>) {
+            s.slice |= sized && std::is_same_v<T, int>;
+            region |= std::is_same_v<T, ZorRect>;
+            sized |= std::is_same_v<T, ZorSize> && !region;
             s.steps |= std::is_same_v<T, int> || std::is_same_v<T, const int*>;
             s.sourceArray |= isSourceArray<T>;
             s.destinationArray |= isDestinationArray<T>;
             (destination ? s.destinationSteps : s.sourceSteps) |= std::is_same_v<T, const int*>;
-            s.scratch |= mosaic && isDestination<T>;
-            mosaic |= std::is_same_v<T, ZorBayerGrid>;
+            s.scratch |= region && destination && isDestination<T>;
             destination |= isDestination<T>;
+            planes[destination] += isPlane<T> && !s.scratch;
         };
         (look(std::type_identity<Parameters>{}), ...);
+        s.sourceSteps |= planes[0] > 1;
+        s.destinationSteps |= planes[1] > 1;
         return s;
     }
 };

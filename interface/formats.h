@@ -7,9 +7,9 @@
 
 namespace zorcc::interface {
 
-// Colour models: Bayer mosaics, grey, R'G'B', analogue-television Y'UV, and Y'CbCr by its matrix. In channel strings L
-// stands for grey, U for Cb, V for Cr.
-enum class Model { mosaic, grey, rgb, yuv, bt601, bt709, bt709full };
+// Colour models: Bayer mosaics, grey, R'G'B', analogue-television Y'UV, and Y'CbCr by its matrix, which is anyYcc where
+// samples only change places. In channel strings L stands for grey, U for Cb, V for Cr.
+enum class Model { mosaic, grey, rgb, yuv, bt601, bt709, bt709full, anyYcc };
 
 enum class Sample { u8, u16, s16, s32, f32 };
 
@@ -80,6 +80,12 @@ constexpr Format packed422(std::string_view name, std::string_view channels, Mod
     return {name, channels, model, Sample::u8, Layout::packed422, 1, {{2, 0, 0}}};
 }
 
+// A plane of luma and one of pairs of chroma samples, each for (1 << log2X) x (1 << log2Y) pixels.
+constexpr Format semiPlanar(std::string_view name, std::string_view channels, Model model, int log2X, int log2Y)
+{
+    return {name, channels, model, Sample::u8, Layout::semiPlanar, 2, {{1, 0, 0}, {2, log2X, log2Y}}};
+}
+
 constexpr Format packedBits(std::string_view name, std::string_view channels, Model model)
 {
     return {name, channels, model, Sample::u16, Layout::packedBits, 1, {{1, 0, 0}}};
@@ -130,6 +136,18 @@ inline constexpr Format yuv420p_bt709 = planar("yuv420p_bt709", "YUV", Model::bt
 inline constexpr Format yvu420p_bt709 = planar("yvu420p_bt709", "YVU", Model::bt709, Sample::u8, 1, 1);
 inline constexpr Format yuv420p_bt709full = planar("yuv420p_bt709full", "YUV", Model::bt709full, Sample::u8, 1, 1);
 inline constexpr Format uyvy_bt709full = packed422("uyvy_bt709full", "UYVY", Model::bt709full);
+
+inline constexpr Format i422 = planar("i422", "YUV", Model::anyYcc, Sample::u8, 1, 0);
+inline constexpr Format yv16 = planar("yv16", "YVU", Model::anyYcc, Sample::u8, 1, 0);
+inline constexpr Format i420 = planar("i420", "YUV", Model::anyYcc, Sample::u8, 1, 1);
+inline constexpr Format yv12 = planar("yv12", "YVU", Model::anyYcc, Sample::u8, 1, 1);
+inline constexpr Format i411 = planar("i411", "YUV", Model::anyYcc, Sample::u8, 2, 0);
+inline constexpr Format i410 = planar("i410", "YUV", Model::anyYcc, Sample::u8, 2, 2);
+inline constexpr Format nv12 = semiPlanar("nv12", "YUV", Model::anyYcc, 1, 1);
+inline constexpr Format nv11 = semiPlanar("nv11", "YUV", Model::anyYcc, 2, 0);
+inline constexpr Format yuy2 = packed422("yuy2", "YUYV", Model::anyYcc);
+inline constexpr Format uyvy = packed422("uyvy", "UYVY", Model::anyYcc);
+inline constexpr Format yvyu = packed422("yvyu", "YVYU", Model::anyYcc);
 
 } // namespace formats
 

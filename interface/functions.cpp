@@ -18,7 +18,15 @@ struct Row {
 
 #define ZOR_FAMILY(identifier, text) {text, {}},
 #define ZOR_FUNCTION(function, source, destination, alpha)                                                             \
-    {{}, {#function, {}, &source, &destination, Alpha::alpha, Bound<&function>::signature(), Bound<&function>::call}},
+    {{},                                                                                                               \
+     {#function,                                                                                                       \
+      {},                                                                                                              \
+      &source,                                                                                                         \
+      &destination,                                                                                                    \
+      Alpha::alpha,                                                                                                    \
+      Bound<&function>::signature(),                                                                                   \
+      Bound<&function>::call,                                                                                          \
+      Bound<&function>::prepare}},
 constexpr Row rowTable[] = {
 #include "interface/functions.def"
 };
@@ -56,7 +64,7 @@ constexpr Table table = makeTable();
 
 } // namespace
 
-ZorStatus Function::operator()(const Image& from, const Image& to, ZorSize size, const Extra& extra) const
+Image Function::withScratch(const Image& to, ZorSize size) const
 {
     Image result = to;
     if (signature.scratch) { // what the demosaicing functions ask for
@@ -66,8 +74,7 @@ ZorStatus Function::operator()(const Image& from, const Image& to, ZorSize size,
         memory.resize(std::max(memory.size(), static_cast<std::size_t>(rows) * result.step[1]));
         result.plane[1] = memory.data();
     }
-    Call call{from, result, size, extra};
-    return bound(call);
+    return result;
 }
 
 std::span<const Function> functions() { return table.entry; }

@@ -37,6 +37,61 @@ void run(Join convert, const Image& from, const Image& to, ZorSize size)
             to.step[0], size.width, size.height);
 }
 
+// Between images of separate planes. Planes are given in the order Y, U, V, whatever theirs.
+using SplitPairs = int (*)(const uint8_t*, int, const uint8_t*, int, uint8_t*, int, uint8_t*, int, uint8_t*, int, int,
+                           int);
+using JoinPairs = int (*)(const uint8_t*, int, const uint8_t*, int, const uint8_t*, int, uint8_t*, int, uint8_t*, int,
+                          int, int);
+using Planes = int (*)(const uint8_t*, int, const uint8_t*, int, const uint8_t*, int, uint8_t*, int, uint8_t*, int,
+                       uint8_t*, int, int, int);
+using Pairs = int (*)(const uint8_t*, int, uint8_t*, int, uint8_t*, int, int, int);
+
+void run(SplitPairs convert, const Image& from, const Image& to, ZorSize size)
+{
+    convert(plane(from, 0), from.step[0], plane(from, 1), from.step[1], plane(to, 0), to.step[0], plane(to, 1),
+            to.step[1], plane(to, 2), to.step[2], size.width, size.height);
+}
+
+void run(JoinPairs convert, const Image& from, const Image& to, ZorSize size)
+{
+    convert(plane(from, 0), from.step[0], plane(from, 1), from.step[1], plane(from, 2), from.step[2], plane(to, 0),
+            to.step[0], plane(to, 1), to.step[1], size.width, size.height);
+}
+
+void run(Planes convert, const Image& from, const Image& to, ZorSize size)
+{
+    convert(plane(from, 0), from.step[0], plane(from, 1), from.step[1], plane(from, 2), from.step[2], plane(to, 0),
+            to.step[0], plane(to, 1), to.step[1], plane(to, 2), to.step[2], size.width, size.height);
+}
+
+void run(Pairs convert, const Image& from, const Image& to, ZorSize size)
+{
+    convert(plane(from, 0), from.step[0], plane(to, 0), to.step[0], plane(to, 1), to.step[1], size.width, size.height);
+}
+
+// Luma rows and rows of chroma pairs, interleaved, are packed 4:2:2: even rows, then odd ones.
+int packNV12(const uint8_t* y, int yStep, const uint8_t* pairs, int pairsStep, uint8_t* packed, int packedStep,
+             int width, int height)
+{
+    for (int odd : {0, 1})
+        ::libyuv::MergeUVPlane(y + odd * yStep, 2 * yStep, pairs, pairsStep, packed + odd * packedStep, 2 * packedStep,
+                               width, height / 2);
+    return 0;
+}
+using JoinTwo = int (*)(const uint8_t*, int, const uint8_t*, int, uint8_t*, int, int, int);
+
+void run(JoinTwo convert, const Image& from, const Image& to, ZorSize size)
+{
+    convert(plane(from, 0), from.step[0], plane(from, 1), from.step[1], plane(to, 0), to.step[0], size.width,
+            size.height);
+}
+
+int swapBytes(const uint8_t* from, int fromStep, uint8_t* to, int toStep, int width, int height)
+{
+    ::libyuv::SwapUVPlane(from, fromStep, to, toStep, width, height);
+    return 0;
+}
+
 // Where it has no direct conversion: the way over its four-byte pixels.
 template <class Second> struct ViaARGB {
     Repack first;
@@ -57,10 +112,27 @@ template <class Second> Work prepare(ViaARGB<Second> steps, const Job& job)
     };
 }
 
+// Or over its planar 4:2:0.
+struct ViaI420 {
+    SplitPairs first;
+    Join second;
+};
+
+Work prepare(ViaI420 steps, const Job& job)
+{
+    auto planes = std::make_shared<Picture>(interface::formats::i420, job.size);
+    return [=] {
+        run(steps.first, job.source, planes->image, job.size);
+        run(steps.second, planes->image, job.destination, job.size);
+    };
+}
+
 struct Row {
     std::string_view function;
     const char* name;
-    std::variant<Repack, Split, Join, ViaARGB<Repack>, ViaARGB<Split>> convert;
+    std::variant<Repack, Split, Join, SplitPairs, JoinPairs, Planes, Pairs, JoinTwo, ViaARGB<Repack>, ViaARGB<Split>,
+                 ViaI420>
+        convert;
 };
 
 // Its names give the channels of three- and four-byte pixels from the last byte to the first, but for RAW: R, G, B.
@@ -91,6 +163,29 @@ const Row rows[] = {
      ViaARGB<Repack>{::libyuv::YUY2ToARGB, ::libyuv::ARGBToRAW}},
     {"zoriYCbCr420ToBGR_709CSC_8u_P3C3R", "H420ToRGB24", ::libyuv::H420ToRGB24},
     {"zoriCbYCr422ToBGR_709HDTV_8u_C2C4R", "UYVYToARGB", ::libyuv::UYVYToARGB},
+
+    // Where these drop every second row of chroma it takes the mean of two.
+    {"zoriYCbCr420_8u_P2P3R", "NV12ToI420", ::libyuv::NV12ToI420},
+    {"zoriYCbCr420_8u_P3P2R", "I420ToNV12", ::libyuv::I420ToNV12},
+    {"zoriYCbCr420ToYCrCb420_8u_P2P3R", "NV12ToI420", ::libyuv::NV12ToI420},
+    {"zoriYCrCb420ToYCbCr420_8u_P3P2R", "I420ToNV12", ::libyuv::I420ToNV12},
+    {"zoriYCbCr422ToYCbCr420_8u_P3R", "I422ToI420", ::libyuv::I422ToI420},
+    {"zoriYCbCr420ToYCbCr422_8u_P3R", "I420ToI422", ::libyuv::I420ToI422},
+    {"zoriYCbCr420ToYCbCr422_8u_P2C2R", "NV12ToI420 + I420ToYUY2", ViaI420{::libyuv::NV12ToI420, ::libyuv::I420ToYUY2}},
+    {"zoriYCbCr420ToYCbCr422_8u_P2C2R", "MergeUVPlane", packNV12},
+    {"zoriYCrCb420ToYCbCr422_8u_P3C2R", "I420ToYUY2", ::libyuv::I420ToYUY2},
+    {"zoriYCrCb420ToCbYCr422_8u_P3C2R", "I420ToUYVY", ::libyuv::I420ToUYVY},
+    {"zoriYCbCr422ToYCrCb422_8u_P3C2R", "I422ToYUY2", ::libyuv::I422ToYUY2},
+    {"zoriYCbCr422_8u_C2P3R", "YUY2ToI422", ::libyuv::YUY2ToI422},
+    {"zoriCbYCr422ToYCbCr422_8u_C2P3R", "UYVYToI422", ::libyuv::UYVYToI422},
+    {"zoriYCbCr422ToYCbCr420_8u_C2P3R", "YUY2ToI420", ::libyuv::YUY2ToI420},
+    {"zoriCbYCr422ToYCbCr420_8u_C2P3R", "UYVYToI420", ::libyuv::UYVYToI420},
+    {"zoriYCbCr422ToYCrCb420_8u_C2P3R", "YUY2ToI420", ::libyuv::YUY2ToI420},
+    {"zoriCbYCr422ToYCrCb420_8u_C2P3R", "UYVYToI420", ::libyuv::UYVYToI420},
+    {"zoriYCbCr422ToYCbCr420_8u_C2P2R", "YUY2ToNV12", ::libyuv::YUY2ToNV12},
+    {"zoriCbYCr422ToYCbCr420_8u_C2P2R", "UYVYToNV12", ::libyuv::UYVYToNV12},
+    {"zoriCbYCr422ToYCbCr422_8u_C2R", "SwapUVPlane", swapBytes},
+    {"zoriYCbCr422ToCbYCr422_8u_C2R", "SwapUVPlane", swapBytes},
 };
 
 void useEverything() { ::libyuv::MaskCpuFlags(-1); }

@@ -41,32 +41,33 @@ std::vector<Library> libraries()
 }
 
 // All ways to do the job of `function`: ours on every tier, a memcpy of the same traffic, the peers.
-struct Comparison {
-    Result result;
-    double copy; // Mpx/s
-};
-
-Comparison compare(const Function& function, ZorSize size, const std::vector<const Peer*>& peers, double seconds)
+Result compare(const Function& function, ZorSize size, const std::vector<const Peer*>& peers, double seconds)
 {
     const Picture source(*function.source, size), destination(*function.destination, size);
     const std::size_t copyBytes = trafficBytes(function, size) / 2;
     const Buffer copySource(copyBytes), copyDestination(copyBytes);
     const Job job{function, source.image, destination.image, size};
 
+    const interface::Extra extra;
+    const interface::Image result = function.withScratch(destination.image, size);
     std::vector<Runner> runners;
-    for (const auto& [name, tier] : tiersHere())
-        runners.push_back(
-            {name, [t = tier] { setActiveTier(t); }, [&] { function(job.source, job.destination, size); }});
+    for (const auto& [name, tier] : tiersHere()) {
+        interface::Call call {
+            source.image, result, size, extra
+        };
+        runners.push_back({name, [t = tier] { setActiveTier(t); }, function.prepare(call)});
+    }
     runners.push_back({"memcpy", {}, [&] { std::memcpy(copyDestination.data(), copySource.data(), copyBytes); }});
     for (const Peer* peer : peers) runners.push_back({peer->name, peer->select, peer->prepare(job)});
     race(runners, seconds);
 
     auto speed = [&, runner = runners.begin()]() mutable { return pixels(size) / 1e6 / runner++->seconds; };
-    Comparison comparison{{function.name, size, {}, {}}, 0};
-    for (const auto& [name, tier] : tiersHere()) comparison.result.ours[tier] = speed();
-    comparison.copy = speed();
-    for (const Peer* peer : peers) comparison.result.peers.push_back({peer->name, peer->ssse3Only, speed()});
-    return comparison;
+    Result result{function.name, size, {}, {}};
+    for (const auto& [name, tier] : tiersHere()) result.ours[tier] = speed();
+    const double copy = speed();
+    for (const Peer* peer : peers) result.peers.push_back({peer->name, peer->ssse3Only, speed()});
+    result.peers.push_back({"memcpy", false, copy});
+    return result;
 }
 
 void printRow(const std::string& name, double speed, const std::map<Tier, double>& ours)
@@ -76,9 +77,8 @@ void printRow(const std::string& name, double speed, const std::map<Tier, double
     std::printf("\n");
 }
 
-void print(const Comparison& comparison)
+void print(const Result& result)
 {
-    const Result& result = comparison.result;
     std::printf("%-46.*s %9s", static_cast<int>(result.function.size()), result.function.data(),
                 sizeName(result.size).c_str());
     for (const auto& [tier, our] : result.ours) std::printf(" %8s", nameOf(tier));
@@ -86,7 +86,6 @@ void print(const Comparison& comparison)
     for (const auto& [tier, our] : result.ours) std::printf(" %8.0f", our);
     std::printf("\n");
     for (const PeerSpeed& peer : result.peers) printRow(peer.name, peer.speed, result.ours);
-    printRow("memcpy", comparison.copy, result.ours);
     std::printf("\n");
     std::fflush(stdout);
 }
@@ -110,9 +109,8 @@ bool compareAll(const std::string& filter, double seconds, bool check)
                 if (peer.function == function.name) peers.push_back(&peer);
         if (peers.empty() && !check) continue; // a target may bear on it all the same
         for (ZorSize size : {cachedSize, frameSize}) {
-            const Comparison comparison = compare(function, size, peers, seconds);
-            print(comparison);
-            results.push_back(comparison.result);
+            results.push_back(compare(function, size, peers, seconds));
+            print(results.back());
         }
     }
     if (results.empty()) throw std::runtime_error("no function with a peer matches '" + filter + "'");

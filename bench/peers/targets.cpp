@@ -44,6 +44,20 @@ const Target targets[] = {
     {"zoriYCbCrToRGB_8u_P3R", frameSize, Tier::avx512, 1.3, "zimg 601"},
     {"zoriYCbCr422ToRGB_8u_C2C3R", cachedSize, Tier::avx512, 1.5, "libyuv YUY2ToARGB + ARGBToRAW"},
     {"zoriYCbCr422ToRGB_8u_C2C3R", frameSize, Tier::avx512, 1.3, "libyuv YUY2ToARGB + ARGBToRAW"},
+    {"zoriYCbCr420_8u_P2P3R", cachedSize, Tier::avx512, 1.1, "libyuv NV12ToI420"},
+    {"zoriYCbCr420_8u_P3P2R", cachedSize, Tier::avx512, 1.1, "libyuv I420ToNV12"},
+    {"zoriYCbCr420ToYCbCr422_8u_P2C2R", cachedSize, Tier::avx512, 2, "libyuv NV12ToI420 + I420ToYUY2"},
+    {"zoriYCbCr420ToYCbCr422_8u_P2C2R", cachedSize, Tier::avx512, 1, "libyuv MergeUVPlane"},
+    // Both sides are near what the second-level cache can move here: there is not more to be had.
+    {"zoriYCrCb420ToYCbCr422_8u_P3C2R", cachedSize, Tier::avx512, 1.3, "libyuv I420ToYUY2"},
+    {"zoriYCrCb420ToCbYCr422_8u_P3C2R", cachedSize, Tier::avx512, 1.3, "libyuv I420ToUYVY"},
+    {"zoriYCbCr422ToYCbCr420_8u_C2P3R", cachedSize, Tier::avx512, 1.5, "libyuv YUY2ToI420"},
+    {"zoriCbYCr422ToYCbCr420_8u_C2P3R", cachedSize, Tier::avx512, 1.5, "libyuv UYVYToI420"},
+    {"zoriCbYCr422ToYCbCr420_8u_C2P2R", cachedSize, Tier::avx512, 2, "libyuv UYVYToNV12"},
+    {"zoriYCbCr422_8u_C2P3R", cachedSize, Tier::avx512, 1.5, "libyuv YUY2ToI422"},
+    {"zoriCbYCr422ToYCbCr422_8u_C2P3R", cachedSize, Tier::avx512, 1.5, "libyuv UYVYToI422"},
+    {"zoriCbYCr422ToYCbCr422_8u_C2R", cachedSize, Tier::avx512, 1, "libyuv SwapUVPlane"},
+    {"zoriYCbCr422ToYCbCr420_8u_P3R", cachedSize, Tier::avx512, 1.2, "libyuv I422ToI420"},
     {"zoriCFAToRGB_8u_C1C3R", frameSize, Tier::avx512, 5, "OpenCV BayerRGGB2RGB_EA"},
     {"zoriCFAToRGB_8u_C1C3R", frameSize, Tier::ssse3, 1.5, "OpenCV BayerRGGB2RGB_EA"},
     {"zoriCFAToRGB_16u_C1C3R", frameSize, Tier::avx512, 8, "OpenCV BayerRGGB2RGB_EA"},
@@ -53,6 +67,14 @@ const Target targets[] = {
     {"zoriDemosaicAHD_16u_C1C3R", frameSize, Tier::avx512, 8, "LibRaw AHD"},
     {"zoriDemosaicAHD_16u_C1C3R", frameSize, Tier::ssse3, 3, "LibRaw AHD"},
 };
+
+// Conversions that only move samples: on the best tier multiples of a memcpy beyond the caches, on the lowest multiples
+// of any peer that is held to the same instructions.
+bool movesSamples(std::string_view function)
+{
+    return interface::findFunction(function)->source->model == interface::Model::anyYcc;
+}
+constexpr double moveRatio = 0.9;
 
 // On the lowest tier: multiples of any peer that is held to the same instructions, and Mpx/s of any function but those
 // that do a hundred times the work of a conversion.
@@ -97,8 +119,10 @@ bool checkTargets(const std::vector<Result>& results)
                     judge.judge(result, target.tier, result.ours.at(target.tier) / peer.speed, target.ratio,
                                 "x " + peer.name);
             if (peer.ssse3Only)
-                judge.judge(result, Tier::ssse3, result.ours.at(Tier::ssse3) / peer.speed, ssse3Ratio,
-                            "x " + peer.name);
+                judge.judge(result, Tier::ssse3, result.ours.at(Tier::ssse3) / peer.speed,
+                            movesSamples(result.function) ? moveRatio : ssse3Ratio, "x " + peer.name);
+            if (peer.name == "memcpy" && same(result.size, frameSize) && movesSamples(result.function))
+                judge.judge(result, bestTier(), result.ours.at(bestTier()) / peer.speed, moveRatio, "x memcpy");
         }
         if (same(result.size, cachedSize) && !isSlow(result.function))
             judge.judge(result, Tier::ssse3, result.ours.at(Tier::ssse3), ssse3Speed, "Mpx/s");

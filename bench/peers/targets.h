@@ -23,7 +23,7 @@ struct Result {
     std::string_view function;
     ZorSize size;
     std::map<Tier, double> ours;
-    std::vector<PeerSpeed> peers;
+    std::vector<PeerSpeed> peers; // and a memcpy of the same traffic
 };
 
 // Prints every target that these results bear on, and whether it is met; true if all are.

@@ -4,7 +4,6 @@
 
 #include "demosaic/bayer_columns.h"
 #include "demosaic/bayer_formula.h"
-#include "demosaic/region.h"
 #include "frame/parallel.h"
 
 namespace zorcc::ZORCC_TIER {
@@ -16,16 +15,6 @@ namespace {
 // The outer two columns and rows of the image, its frame, have no neighbours at a distance of two on every side: there
 // green is not directed, and a neighbour outside the image is replaced by the one on the other side of the pixel.
 constexpr int frame = 2;
-
-template <class Sample> struct Job {
-    const Sample* src;
-    ptrdiff_t srcStep;
-    ZorSize size;
-    Region region;
-    Sample* dst;
-    ptrdiff_t dstStep;
-    ZorBayerGrid grid;
-};
 
 ZORCC_INLINE int between(int low, int v, int high) { return v < low ? low : v > high ? high : v; }
 
@@ -55,7 +44,7 @@ public:
         for (int y = y0; y < y1; ++y) {
             load(y + 2);
             fillRow<true>(y, y - 2, y - 1, y, y + 1, y + 2);
-            directFrameColumns(y);
+            plainFrameColumns(y);
         }
     }
 
@@ -146,7 +135,7 @@ private:
     }
 
     // In the columns of the frame green at the sites is not directed.
-    void directFrameColumns(int y)
+    void plainFrameColumns(int y)
     {
         const RowColours colours = rowColours(job.grid, y);
         const auto plain = [&](int column) {

@@ -5,7 +5,6 @@
 #include "demosaic/ahd_samples.h"
 #include "demosaic/ahd_scratch.h"
 #include "demosaic/ahd_stages.h"
-#include "demosaic/region.h"
 #include "frame/parallel.h"
 
 namespace zorcc::ZORCC_TIER {
@@ -52,16 +51,6 @@ struct Lines {
     Ring<1> siteColour, thirdColour;
 };
 constexpr int lineCount = sizeof(Lines) / sizeof(float*);
-
-template <class Sample> struct Job {
-    const Sample* src;
-    ptrdiff_t srcStep;
-    ZorSize size;
-    Region region;
-    Sample* dst;
-    ptrdiff_t dstStep;
-    ZorBayerGrid grid;
-};
 
 // Columns x .. x + width - 1 of the region, and lines for them and for what they depend on.
 template <class Sample> class Strip {

@@ -5,11 +5,22 @@
 
 #include <stddef.h>
 
+#include "demosaic/region.h"
 #include "simd/vec.h"
-#include "zortypes.h"
 
 namespace zorcc::ZORCC_TIER {
 namespace {
+
+// What a driver is to do: fill `dst` with the region of the mosaic.
+template <class Sample> struct Job {
+    const Sample* src;
+    ptrdiff_t srcStep;
+    ZorSize size;
+    Region region;
+    Sample* dst;
+    ptrdiff_t dstStep;
+    ZorBayerGrid grid;
+};
 
 struct RowColours {
     bool red;         // the sites are red, not blue

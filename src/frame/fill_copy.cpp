@@ -50,6 +50,15 @@ void ownccCopy_8u_C1_M7(const uint8_t* src, uint8_t* dst, size_t length, Stores 
         stream(dst, length, [=](size_t i) { return _mm_loadu_si128(vectorAt(src + i)); });
 }
 
+void copyRows(const uint8_t* src, ptrdiff_t srcStep, uint8_t* dst, ptrdiff_t dstStep, size_t width, int height,
+              Stores stores)
+{
+    const ptrdiff_t rowBytes = static_cast<ptrdiff_t>(width);
+    if (srcStep == rowBytes && dstStep == rowBytes)
+        return ownccCopy_8u_C1_M7(src, dst, width * static_cast<size_t>(height), stores);
+    for (ptrdiff_t y = 0; y < height; ++y) ownccCopy_8u_C1_M7(src + y * srcStep, dst + y * dstStep, width, stores);
+}
+
 void owniSet_8u_C1_M7(uint8_t value, uint8_t* dst, size_t length, Stores stores)
 {
     if (stores == Stores::ordinary || length < blockBytes)
@@ -61,9 +70,7 @@ void owniSet_8u_C1_M7(uint8_t value, uint8_t* dst, size_t length, Stores stores)
 ZorStatus zoriCopy_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ZorSize roiSize)
 {
     if (const ZorStatus s = checkImages(interleaved(src), interleaved(dst), roiSize); s != zorStatusOk) return s;
-    for (int y = 0; y < roiSize.height; ++y)
-        ownccCopy_8u_C1_M7(rowAt(src, srcStep, y), rowAt(dst, dstStep, y), static_cast<size_t>(roiSize.width),
-                           Stores::ordinary);
+    copyRows(src, srcStep, dst, dstStep, static_cast<size_t>(roiSize.width), roiSize.height, Stores::ordinary);
     return zorStatusOk;
 }
 

@@ -75,6 +75,7 @@ template <class B, Unit... units> struct Rows {
     using Byte = B;
     static constexpr int planes = sizeof...(units);
     static constexpr Unit unit[] = {units...};
+    static constexpr int pixelsAtOnce = vectorBytes; // what a load gives and a store takes
 
     Byte* plane[planes];
 

@@ -7,10 +7,10 @@
 namespace zorcc::ZORCC_TIER {
 namespace {
 
-// A copy of the first pixels of a row, long enough for a whole vector, with zeros behind them.
+// A copy of the first pixels of a row, long enough for a load or a store, with zeros behind them.
 template <class Layout> class Stage {
 public:
-    // `width` pixels, fewer than a vector holds.
+    // `width` pixels, fewer than a load or a store takes.
     Stage(const Layout& row, int width) : staged(row)
     {
         for (int p = 0; p < Layout::planes; ++p) {
@@ -28,12 +28,18 @@ public:
     }
 
 private:
-    static constexpr int maxBytes = 4; // a pixel
-    alignas(vectorBytes) uint8_t bytes[Layout::planes][maxBytes * vectorBytes] = {};
+    static constexpr ptrdiff_t planeBytes()
+    {
+        ptrdiff_t most = 0;
+        for (const Unit& unit : Layout::unit)
+            if (unit.offset(Layout::pixelsAtOnce) > most) most = unit.offset(Layout::pixelsAtOnce);
+        return most;
+    }
+    alignas(vectorBytes) uint8_t bytes[Layout::planes][planeBytes()] = {};
     Layout staged;
 };
 
-// Converts `width` pixels, fewer than a vector holds.
+// Converts `width` pixels, fewer than a load takes.
 template <class Source, class Formula, class Destination>
 ZORCC_INLINE void convertShortRow(const Source from, const Formula formula, const Destination to, int width)
 {
@@ -44,17 +50,18 @@ ZORCC_INLINE void convertShortRow(const Source from, const Formula formula, cons
 }
 
 // Converts `width` pixels, a multiple of the pixels that share a sample. Source and destination may be the same row of
-// the same layout: the last vector, which overlaps the one before it, is read before anything is written.
+// the same layout: the last load, which overlaps the one before it, is read before anything is written.
 template <class Source, class Formula, class Destination>
 ZORCC_INLINE void convertRow(const Source from, const Formula formula, const Destination to, int width)
 {
-    constexpr int step = vectorBytes;
-    if (width >= step) {
-        const bool rest = width % step != 0;
-        decltype(from.load(0)) last;
-        if (rest) last = from.load(width - step);
+    constexpr int step = Source::pixelsAtOnce;
+    static_assert(step == Destination::pixelsAtOnce);
+    if (width >= step && width % step == 0) {
+        for (int x = 0; x < width; x += step) to.store(x, formula(from.load(x)));
+    } else if (width >= step) {
+        const auto last = from.load(width - step);
         for (int x = 0; x <= width - step; x += step) to.store(x, formula(from.load(x)));
-        if (rest) to.store(width - step, formula(last));
+        to.store(width - step, formula(last));
     } else if (width > 0) {
         convertShortRow(from, formula, to, width);
     }
@@ -66,6 +73,26 @@ ZORCC_INLINE void convertRows(const Image<Source> from, const Formula formula, c
                               int count)
 {
     for (int y = 0; y < count; ++y) convertRow(from[y], formula, to[y], width);
+}
+
+// Whether the rows of an image follow each other without gaps.
+template <class Layout> bool isContiguous(const Image<Layout>& image, int width)
+{
+    for (int p = 0; p < Layout::planes; ++p)
+        if (image.step[p] != Layout::unit[p].offset(width)) return false;
+    return true;
+}
+
+// The same for formulas that do not look beyond a pixel: rows without gaps become one row.
+template <class Source, class Formula, class Destination>
+ZORCC_INLINE void convertImage(const Image<Source> from, const Formula formula, const Image<Destination> to, int width,
+                               int count)
+{
+    const int64_t pixels = static_cast<int64_t>(width) * count;
+    if (pixels <= INT32_MAX && isContiguous(from, width) && isContiguous(to, width))
+        convertRow(from[0], formula, to[0], static_cast<int>(pixels));
+    else
+        convertRows(from, formula, to, width, count);
 }
 
 } // namespace

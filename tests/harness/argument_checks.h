@@ -10,9 +10,11 @@
 namespace zorcc::test {
 
 // Every combination of faulty arguments gives the status of the first failing check, and writes nothing.
-[[nodiscard]] testing::AssertionResult checkFaultyArguments(const interface::Function& function);
+[[nodiscard]] testing::AssertionResult
+checkFaultyArguments(const interface::Function& function,
+                     reference::Checks checks = reference::Checks::imagesSizePlanes);
 
-// Odd sizes give the warning where the case says so, and only there.
+// Sizes below the least one and sizes of broken blocks give what the case says.
 [[nodiscard]] testing::AssertionResult checkOddSizes(const reference::Case& c, const interface::Function& function);
 
 } // namespace zorcc::test

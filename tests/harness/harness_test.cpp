@@ -6,6 +6,7 @@
 
 #include "tests/harness/argument_checks.h"
 #include "tests/harness/arrangements.h"
+#include "tests/reference/sampling.h"
 #include "tests/reference/yuv.h"
 #include "zorcc.h"
 
@@ -284,6 +285,52 @@ ZorStatus forgetsHeight(Src src, int, Dst dst, int, ZorSize size)
 {
     if (!src || !dst) return zorStatusNullPointer;
     return size.width < 1 ? zorStatusBadSize : zorStatusOk;
+}
+
+// Semi-planar to planar, where every pointer comes before the size.
+using reference::Checks;
+constexpr Case semiPlanar{"zoriYCbCr420_8u_P2P3R", reference::moveChroma, OddSize::cutOff, {2, 2}, {2, 2},
+                          Checks::pointersSize};
+
+ZorStatus sizeBeforePlanes(Src y, int yStep, Src pairs, int pairsStep, Dst const dst[3], const int dstStep[3],
+                           ZorSize size)
+{
+    if (!y || !pairs || !dst) return zorStatusNullPointer;
+    if (size.width < 2 || size.height < 2) return zorStatusBadSize;
+    return zoriYCbCr420_8u_P2P3R(y, yStep, pairs, pairsStep, dst, dstStep, size);
+}
+
+ZorStatus forgetsPairs(Src y, int, Src, int, Dst const dst[3], const int*, ZorSize size)
+{
+    if (!y || !dst || !dst[0] || !dst[1] || !dst[2]) return zorStatusNullPointer;
+    return size.width < 2 || size.height < 2 ? zorStatusBadSize : zorStatusOk;
+}
+
+ZorStatus forgetsMinimum(Src y, int yStep, Src pairs, int pairsStep, Dst const dst[3], const int dstStep[3],
+                         ZorSize size)
+{
+    if (size.width == 1 && size.height == 1) return zorStatusOk;
+    return zoriYCbCr420_8u_P2P3R(y, yStep, pairs, pairsStep, dst, dstStep, size);
+}
+
+ZorStatus exchangesPlanes(Src y, int yStep, Src pairs, int pairsStep, Dst const dst[3], const int dstStep[3],
+                          ZorSize size)
+{
+    Dst const exchanged[] = {dst[0], dst[2], dst[1]};
+    const int steps[] = {dstStep[0], dstStep[2], dstStep[1]};
+    return zoriYCbCr420_8u_P2P3R(y, yStep, pairs, pairsStep, exchanged, steps, size);
+}
+
+TEST(Harness, KnowsSemiPlanarImages)
+{
+    const Function& sound = *interface::findFunction(semiPlanar.name);
+    EXPECT_TRUE(sweep(semiPlanar, sound));
+    EXPECT_TRUE(checkFaultyArguments(sound, semiPlanar.checks));
+    EXPECT_TRUE(checkOddSizes(semiPlanar, sound));
+    EXPECT_FALSE(sweep(semiPlanar, withBody(semiPlanar, Bound<exchangesPlanes>::call)));
+    EXPECT_FALSE(checkFaultyArguments(withBody(semiPlanar, Bound<sizeBeforePlanes>::call), semiPlanar.checks));
+    EXPECT_FALSE(checkFaultyArguments(withBody(semiPlanar, Bound<forgetsPairs>::call), semiPlanar.checks));
+    EXPECT_FALSE(checkOddSizes(semiPlanar, withBody(semiPlanar, Bound<forgetsMinimum>::call)));
 }
 
 TEST(Harness, CatchesWrongStatuses)

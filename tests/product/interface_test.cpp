@@ -26,12 +26,13 @@ string_view take(string_view& text, const std::vector<string_view>& words)
 }
 
 const std::vector<string_view> models = {"CFA", "RGB", "BGR", "YUV", "YCbCr", "YCrCb", "CbYCr"};
-const std::vector<string_view> packings = {"422", "420", "411", "565"};
-const std::vector<string_view> variants = {"709CSC_", "709HDTV_", "Filter_"};
+const std::vector<string_view> packings = {"422", "420", "411", "1620", "565"};
+const std::vector<string_view> variants = {"709CSC_", "709HDTV_", "Filter_", "Interlace_"};
 const std::vector<string_view> types = {"8u", "16u", "16s", "32s", "32f"};
 const std::vector<string_view> layouts = {"AC4", "AP4", "C1", "C2", "C3", "C4", "P2", "P3", "P4"};
 
-// zori <model> [packing] To <model> [packing] _ [variant _] <type> [type] _ <layout> [layout] [R]
+// zori <model> [packing] [To [model] [packing]] _ [variant _] <type> [type] _ <layout> [layout] [R]; what is not said
+// of the destination is as in the source
 struct Name {
     string_view model[2], packing[2], type[2], layout[2]; // source, destination
     string_view variant;
@@ -46,10 +47,13 @@ struct Name {
         }
         for (const int i : {0, 1}) {
             if (!model[i].empty()) continue;
+            if (i == 1 && take(text, {"To"}).empty()) break;
             model[i] = take(text, models);
             packing[i] = take(text, packings);
-            known = known && !model[i].empty() && !take(text, {i == 0 ? "To" : "_"}).empty();
         }
+        known = known && !model[0].empty() && !take(text, {"_"}).empty();
+        if (packing[1].empty() && model[1].empty()) packing[1] = packing[0];
+        if (model[1].empty()) model[1] = model[0];
         variant = take(text, variants);
         takePair(text, types, type);
         known = known && !take(text, {"_"}).empty();
@@ -77,9 +81,11 @@ Sample sampleOf(string_view type)
 
 void expectImage(const Name& name, int i, const Format& format, bool array, bool stepOfEachPlane)
 {
-    const bool rgb = name.model[i] == "RGB" || name.model[i] == "BGR";
+    const auto isRgb = [&](int side) { return name.model[side] == "RGB" || name.model[side] == "BGR"; };
+    const bool rgb = isRgb(i);
     const Model model = rgb                          ? Model::rgb
                         : name.model[i] == "CFA"     ? Model::mosaic
+                        : !isRgb(1 - i)              ? Model::anyYcc
                         : name.model[i] == "YUV"     ? Model::yuv
                         : name.variant == "709CSC_"  ? Model::bt709
                         : name.variant == "709HDTV_" ? Model::bt709full
@@ -88,14 +94,16 @@ void expectImage(const Name& name, int i, const Format& format, bool array, bool
     if (rgb) {
         EXPECT_EQ(format.channels.substr(0, 3), name.model[i]);
     }
-    EXPECT_EQ(format.channels[0] == 'U', name.model[i] == "CbYCr");
+    const bool packed422 = name.layout[i] == "C2";
+    EXPECT_EQ(format.channels[0] == 'U', name.model[i] == "CbYCr" && packed422);
     EXPECT_EQ(format.channels[1] == 'V', name.model[i] == "YCrCb");
     EXPECT_EQ(format.layout == Layout::packedBits, name.packing[i] == "565");
-    const bool blocks = name.packing[i] == "420", quads = name.packing[i] == "411";
+    const bool blocks = name.packing[i] == "420", fours = name.packing[i] == "1620";
+    const bool quads = name.packing[i] == "411" || fours;
     const bool shared = blocks || quads || name.packing[i] == "422";
     EXPECT_EQ(format.subsampled(), shared);
     EXPECT_EQ(format.log2X(), quads ? 2 : shared ? 1 : 0);
-    EXPECT_EQ(format.log2Y(), blocks ? 1 : 0);
+    EXPECT_EQ(format.log2Y(), blocks ? 1 : fours ? 2 : 0);
 
     EXPECT_EQ(format.sample, sampleOf(name.type[i]));
 
@@ -111,7 +119,7 @@ void expectImage(const Name& name, int i, const Format& format, bool array, bool
         EXPECT_NE(format.channels.find('A'), string_view::npos);
     }
     EXPECT_EQ(array, planar && layout != "P2");
-    EXPECT_EQ(stepOfEachPlane, array && shared && name.steps);
+    EXPECT_EQ(stepOfEachPlane, planar && shared && name.steps);
 }
 
 TEST(Interface, TableSaysWhatNamesSay)

@@ -13,6 +13,9 @@ LAYOUT = r"AC4|AP4|C[1-4]|P[2-4]"
 def image(role, sample, layout, subsampled, steps):
     """Parameters of one image."""
     const = "const " if role == "Src" else ""
+    if layout == "P2":  # two planes, each with its step
+        return [parameter for plane in ("Y", "CbCr")
+                for parameter in (f"{const}{sample}* p{role}{plane}", f"int {role.lower()}{plane}Step")]
     planes = {"P": layout[-1], "A": "4" if layout == "AP4" else ""}.get(layout[0], "")
     parameters = [f"{const}{sample}* const p{role}[{planes}]" if planes else f"{const}{sample}* p{role}"]
     if steps:
@@ -34,11 +37,12 @@ def expected(name):
     """Parameters of a function up to the size."""
     if mosaic := MOSAIC.fullmatch(name):
         return demosaicing(mosaic[1], TYPES[mosaic[2]])
-    found = re.fullmatch(rf"zori(\w+?)To(\w+?)_({TYPE})({TYPE})?_({LAYOUT})({LAYOUT})?(R?)", name)
+    found = re.fullmatch(rf"zori(\w+?)(?:To(\w+?))?_({TYPE})({TYPE})?_({LAYOUT})({LAYOUT})?(R?)", name)
     if not found:
         return None
     source, destination, from_type, to_type, from_layout, to_layout, steps = found.groups()
-    half = re.compile(r"4(22|20|11)")
+    destination = destination or source
+    half = re.compile(r"4(22|20|11)|1620")
     return (image("Src", TYPES[from_type], from_layout, half.search(source), steps)
             + image("Dst", TYPES[to_type or from_type], to_layout or from_layout, half.search(destination), steps)
             + ["ZorSize roiSize"])

@@ -14,26 +14,41 @@ namespace zorcc::reference {
 using Reference = void (*)(const Pixels& source, Pixels& destination);
 
 enum class OddSize {
-    plain,  // every pixel is converted
-    warning // whole 2 x 2 blocks are converted; zorStatusOddSize when there are pixels beside them
+    plain,   // every pixel is converted
+    warning, // whole blocks are converted; zorStatusOddSize when there are pixels beside them
+    cutOff,  // the same without the warning
+    refused  // nothing is converted unless it is whole blocks: zorStatusBadSize
+};
+
+// In which order arguments are checked.
+enum class Checks {
+    imagesSizePlanes, // the planes of an array after the size
+    pointersSize      // every pointer, then the size
 };
 
 struct Case {
     std::string_view name; // of the exported function
     Reference reference;
     OddSize oddSize = OddSize::plain;
+    ZorSize block = {2, 2}, minimum = {1, 1};
+    Checks checks = Checks::imagesSizePlanes;
 };
+
+inline ZorStatus statusOf(const Case& c, ZorSize size)
+{
+    if (size.width < c.minimum.width || size.height < c.minimum.height) return zorStatusBadSize;
+    if (size.width % c.block.width == 0 && size.height % c.block.height == 0) return zorStatusOk;
+    return c.oddSize == OddSize::warning   ? zorStatusOddSize
+           : c.oddSize == OddSize::refused ? zorStatusBadSize
+                                           : zorStatusOk;
+}
 
 // The pixels of an image that the function may touch.
 inline ZorSize usedSize(const Case& c, ZorSize size)
 {
-    return c.oddSize == OddSize::warning ? ZorSize{size.width & ~1, size.height & ~1} : size;
-}
-
-inline ZorStatus statusOf(const Case& c, ZorSize size)
-{
-    const ZorSize used = usedSize(c, size);
-    return used.width == size.width && used.height == size.height ? zorStatusOk : zorStatusOddSize;
+    if (statusOf(c, size) < 0) return {0, 0};
+    if (c.oddSize == OddSize::plain) return size;
+    return {size.width - size.width % c.block.width, size.height - size.height % c.block.height};
 }
 
 // Writes what the function must write, alpha included, into a destination that holds what it held before.

@@ -24,6 +24,7 @@ std::string_view channelNames(Model model)
     case Model::bt601:
     case Model::bt709:
     case Model::bt709full:
+    case Model::anyYcc:
         return "YUVA";
     }
     throw std::logic_error("unknown colour model");
@@ -75,7 +76,12 @@ Pixels::Pixels(const Format& format, const Image& image, ZorSize imageSize)
             p.bits = fieldOf(format, c).bits;
             break;
         case Layout::semiPlanar:
-            throw std::logic_error("no access to semi-planar images");
+            plane = c == luma ? 0 : 1;
+            p.stride = format.plane[plane].samples;
+            p.offset = c == luma ? 0 : index - 1;
+            p.log2X = format.plane[plane].log2X;
+            p.log2Y = format.plane[plane].log2Y;
+            break;
         }
         p.plane = static_cast<std::uint8_t*>(image.plane[plane]);
         p.step = image.step[plane];

@@ -23,6 +23,9 @@ public:
     // Whether the image stores this channel for the pixel: subsampled images may lack it at an odd end.
     bool has(int channel, int x, int y) const;
 
+    // The pixels that share a sample of the channel.
+    ZorSize shared(int channel) const { return {1 << place[channel].log2X, 1 << place[channel].log2Y}; }
+
     int get(int channel, int x, int y) const;
     void put(int channel, int x, int y, int value);
 

@@ -20,6 +20,10 @@ def psnr(a, b):
     return math.inf if squares == 0 else 10 * math.log10(255 ** 2 * len(a) / squares)
 
 
+# Formats of the functions that take YUV to YUV (layouts_test.py).
+MOVED = {"i422", "yv16", "i420", "yv12", "i411", "i410", "nv12", "nv11", "yuy2", "uyvy", "yvyu"}
+
+
 class List(unittest.TestCase):
     def test_shows_every_row_of_the_table(self):
         table = read(os.path.join(SOURCE, "interface/functions.def")).decode()
@@ -49,6 +53,8 @@ class Call(unittest.TestCase):
             if source.startswith("bayer"):
                 continue  # demosaic_test.py
             with self.subTest(name):
+                if source in MOVED:
+                    continue
                 to_rgb = name.split("_")[0].endswith(("ToRGB", "ToBGR"))
                 if to_rgb and source not in made:
                     # No function makes the format: what is grey must come out grey.

@@ -27,6 +27,13 @@ const Format& usualFormat(const std::string& out, const Format& from)
     }
 }
 
+// The matrix that the format tells.
+Matrix ownMatrix(const Format& format)
+{
+    if (isRgb(format) || format.model == interface::Model::anyYcc) return {};
+    return format.model;
+}
+
 } // namespace
 
 void convert(const ConvertOptions& options)
@@ -36,9 +43,9 @@ void convert(const ConvertOptions& options)
     const auto reader = openInput(options.in, nullptr, OddSizes::roundUp);
     const auto writer = openWriter(options.out, reader->tags());
     Progress progress(*reader);
-    Stats stats;
+    Stats stats, deinterlacingStats;
     ZorSize size{};
-    std::optional<Conversion> conversion;
+    std::optional<Conversion> conversion, deinterlacing;
     const Format* from = nullptr;
     while (auto picture = reader->next()) {
         size = picture->visible();
@@ -46,14 +53,20 @@ void convert(const ConvertOptions& options)
             if (!conversion || from != &picture->format()) {
                 from = &picture->format();
                 const Format& to = asked ? *asked : usualFormat(options.out, *from);
-                const interface::Model own = isRgb(*from) ? interface::Model::yuv : from->model;
-                conversion = findConversion(*from, byMatrix(to, options.in.matrix.value_or(own)));
+                if (options.deinterlace) deinterlacing = findDeinterlacing(*from, to);
+                const Matrix own = options.in.matrix ? options.in.matrix : ownMatrix(*from);
+                conversion = findConversion(deinterlacing ? *deinterlacing->target : *from,
+                                            byMatrix(to, own.value_or(interface::Model::yuv)), own);
             }
+            if (deinterlacing)
+                picture = (*deinterlacing)(std::move(*picture), options.timing.repeat, deinterlacingStats);
             return (*conversion)(std::move(*picture), options.timing.repeat, stats);
         }));
         progress.update();
     }
     writer->commit();
+    if (options.timing.stats && deinterlacing)
+        std::cout << deinterlacingStats.line(std::string(deinterlacing->function->name), size, options.timing.repeat);
     if (options.timing.stats)
         std::cout << (conversion->function
                           ? stats.line(std::string(conversion->function->name), size, options.timing.repeat)

@@ -32,6 +32,7 @@ struct CallOptions {
 struct ConvertOptions {
     Input in;
     std::string out, to;
+    bool deinterlace = false;
     Timing timing;
 };
 

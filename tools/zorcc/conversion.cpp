@@ -37,6 +37,29 @@ ZorSize wholeBlocksOf(const Function& function, ZorSize size)
                        std::max(function.source->log2Y(), function.destination->log2Y()));
 }
 
+// Changes chroma sampling and layout alone.
+bool movesSamples(const Function& function)
+{
+    return function.source->model == interface::Model::anyYcc &&
+           function.destination->model == interface::Model::anyYcc;
+}
+
+// Whether luma and chroma of the function may be by the given matrix.
+bool isOf(const Function& function, std::optional<interface::Model> matrix)
+{
+    if (!matrix) return true;
+    for (const interface::Model model : {function.source->model, function.destination->model})
+        if (isYcc(model) && model != interface::Model::anyYcc && model != *matrix) return false;
+    return true;
+}
+
+// Does it in a way that has to be asked for.
+bool isVariant(const Function& function)
+{
+    return function.signature.slice || function.name.find("_Filter_") != std::string_view::npos ||
+           function.name.find("_Interlace_") != std::string_view::npos;
+}
+
 } // namespace
 
 std::string Stats::line(const std::string& what, ZorSize size, int repeat) const
@@ -78,22 +101,34 @@ Picture Conversion::operator()(Picture picture, int repeat, Stats& stats) const
     return rearranged(std::move(picture), *target, size);
 }
 
-Conversion findConversion(const Format& from, const Format& to)
+Conversion findConversion(const Format& from, const Format& to, std::optional<interface::Model> matrix)
 {
-    if (rearrangementCost(from, to)) return {nullptr, &to};
+    const auto plain = rearrangementCost(from, to);
     const Function* found = nullptr;
-    int lowest = INT_MAX;
+    int lowest = plain ? 2 * *plain : INT_MAX;
     for (const Function& function : interface::functions()) {
+        if (movesSamples(function) ? !isSameModel(from.model, to.model) || isVariant(function) : plain.has_value())
+            continue;
         const auto before = rearrangementCost(from, *function.source);
         const auto after = rearrangementCost(*function.destination, to);
-        if (!before || !after) continue;
+        if (!before || !after || !isOf(function, matrix)) continue;
         const int cost = 2 * (*before + *after) + !function.signature.steps;
         if (cost < lowest) lowest = cost, found = &function;
     }
-    if (!found)
+    if (!found && !plain)
         throw Cause("no function converts " + std::string(from.name) + " to " + std::string(to.name) +
                     " (zorcc list shows what there is)");
     return {found, &to};
+}
+
+Conversion findDeinterlacing(const Format& from, const Format& to)
+{
+    const bool fullHeight = !isRgb(to) && to.log2X() == 1 && to.log2Y() == 0;
+    for (const Function& function : interface::functions())
+        if (function.signature.slice && (function.destination->log2Y() == 0) == fullHeight &&
+            rearrangementCost(from, *function.source))
+            return {&function, function.destination};
+    throw Cause("deinterlacing takes 4:2:0, and the picture is " + std::string(from.name));
 }
 
 } // namespace zorcc::tool

@@ -37,7 +37,11 @@ struct Conversion {
     Picture operator()(Picture picture, int repeat, Stats& stats) const;
 };
 
-// The cheapest conversion, preferring functions with steps; throws Cause if there is none.
-Conversion findConversion(const Format& from, const Format& to);
+// The cheapest conversion, preferring functions with steps; throws Cause if there is none. Formats that go with any
+// matrix are taken for the given one, or for any there is a function for.
+Conversion findConversion(const Format& from, const Format& to, std::optional<interface::Model> matrix = {});
+
+// From 4:2:0 to 4:2:2 or 4:2:0, whichever leads to the format better; throws Cause for other pictures.
+Conversion findDeinterlacing(const Format& from, const Format& to);
 
 } // namespace zorcc::tool

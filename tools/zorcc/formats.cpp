@@ -142,18 +142,29 @@ const Format& withModel(const Format& format, interface::Model model)
     throw Cause(std::string(format.name) + " exists by another matrix only");
 }
 
+bool isSameModel(interface::Model a, interface::Model b)
+{
+    using interface::Model;
+    if (a == Model::anyYcc || b == Model::anyYcc) return isYcc(a) && isYcc(b);
+    const auto isRgb = [](Model model) { return model == Model::rgb || model == Model::grey; };
+    return a == b || (isRgb(a) && isRgb(b));
+}
+
 const Format& planarYuv(const Format& format)
 {
     using namespace interface::formats;
-    return withModel(format.log2Y() > 0 ? yuv420p : format.log2X() > 0 ? yuv422p : yuv444p, format.model);
+    const Format& yuv = format.log2X() > 1 && format.log2Y() == 0 ? i411
+                        : format.log2Y() > 0                      ? yuv420p
+                        : format.log2X() > 0                      ? yuv422p
+                                                                  : yuv444p;
+    return withModel(yuv, format.model);
 }
 
 std::optional<int> rearrangementCost(const Format& from, const Format& to)
 {
     if (&from == &to) return 0;
     if (isGrey(from) && to.model == interface::Model::mosaic && from.sample == to.sample) return 1;
-    const bool sameColours = from.model == to.model || (isRgb(from) && isRgb(to));
-    if (!sameColours || from.log2X() != to.log2X() || from.log2Y() != to.log2Y()) return {};
+    if (!isSameModel(from.model, to.model) || from.log2X() != to.log2X() || from.log2Y() != to.log2Y()) return {};
     if (from.layout == Layout::packedBits || (to.layout == Layout::packedBits && to.channels != "RGB")) return {};
     int cost = 1;
     for (char letter : to.channels)

@@ -32,7 +32,19 @@ inline const Format& byMatrix(const Format& format, interface::Model matrix)
     return format.model == interface::Model::yuv ? withModel(format, matrix) : format;
 }
 
-// The planar format, without alpha, of a luma-chroma format's own matrix and chroma sampling.
+// Whether a model has luma and chroma.
+constexpr bool isYcc(interface::Model model)
+{
+    using interface::Model;
+    return model == Model::yuv || model == Model::bt601 || model == Model::bt709 || model == Model::bt709full ||
+           model == Model::anyYcc;
+}
+
+// Whether values of one model are values of the other: formats whose samples only change places go with any matrix.
+bool isSameModel(interface::Model a, interface::Model b);
+
+// The planar format, without alpha, of a luma-chroma format's own matrix and chroma sampling: 4:4:4, 4:2:2, 4:1:1,
+// otherwise 4:2:0.
 const Format& planarYuv(const Format& format);
 
 // What it costs to rearrange pictures of one format into another: 0 for the same, more the more is moved, added or

@@ -109,6 +109,8 @@ void addCommands(CLI::App& app, Options& o)
                                                            {"bt601", zorcc::interface::Model::bt601},
                                                            {"bt709", zorcc::interface::Model::bt709},
                                                            {"bt709full", zorcc::interface::Model::bt709full}}));
+    command->add_flag("--deinterlace", o.convert.deinterlace,
+                      "smooth each 4:2:0 picture vertically, so that its two fields no longer show as combs");
     addTiming(command, o.convert.timing);
     command->footer(
         "Without --to, RGB into .y4m or .yuv becomes yuv420p and YUV into a picture file rgb24. All pictures of IN "
@@ -123,7 +125,11 @@ void addCommands(CLI::App& app, Options& o)
         "  zorcc convert photo.png photo.y4m\n"
         "  zorcc convert clip.y4m frame_%03d.png\n"
         "  zorcc convert photo.jpg photo.yuv --to yuyv --repeat 20 --stats\n"
-        "  zorcc convert --size 640x480 --format yuyv frame.yuv frame.png");
+        "  zorcc convert --size 640x480 --format yuyv frame.yuv frame.png\n"
+        "Layouts of video, of any matrix, by their usual names: i420 yv12 nv12, i422 yv16 yuy2 uyvy yvyu, i411 nv11, "
+        "i410:\n"
+        "  zorcc convert clip.y4m clip.yuv --to nv12\n"
+        "  zorcc convert --size 720x576 --format nv12 clip.yuv clip.y4m --deinterlace");
     command->callback([&o] { convert(o.convert); });
 
     command = app.add_subcommand("demosaic", "Make a colour picture of a Bayer mosaic");

@@ -10,7 +10,10 @@ using reference::Case;
 
 class Arguments : public testing::TestWithParam<Case> {};
 
-TEST_P(Arguments, FirstFailingCheckDecides) { EXPECT_TRUE(checkFaultyArguments(functionOf(GetParam()))); }
+TEST_P(Arguments, FirstFailingCheckDecides)
+{
+    EXPECT_TRUE(checkFaultyArguments(functionOf(GetParam()), GetParam().checks));
+}
 
 TEST_P(Arguments, OddSizes) { EXPECT_TRUE(checkOddSizes(GetParam(), functionOf(GetParam()))); }
 

@@ -25,7 +25,7 @@ TEST_P(Threads, AnyNumber)
     Checker checker(GetParam(), functionOf(GetParam()));
     for (const int threads : {1, 2, 3, 40}) {
         ASSERT_EQ(zorSetNumThreads(threads), zorStatusOk);
-        for (const ZorSize size : {ZorSize{65, 37}, {641, 203}})
+        for (const ZorSize size : {ZorSize{65, 37}, {641, 203}, {128, 160}})
             ASSERT_TRUE(checker.check({size, {Steps::sample}, {Steps::sample}})) << threads << " threads";
     }
 }

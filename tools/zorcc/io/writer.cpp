@@ -97,6 +97,8 @@ public:
             if (!y4m) return writePlanes(*file, picture);
             if (isRgb(picture.format())) throw Cause("Y4M holds YUV, and the picture is RGB: use .png or .ppm");
             const Format& format = planarYuv(picture.format());
+            if (!rearrangementCost(picture.format(), format))
+                throw Cause("Y4M holds no chroma of " + std::string(picture.format().name) + ": use .yuv");
             picture = rearranged(std::move(picture), format, wholeBlocks(picture.visible(), format));
             if (!first) {
                 first = picture.visible();

@@ -24,7 +24,8 @@ const Format& formatOfTag(const std::string& tag)
         if (tag == name) return yuv420p;
     if (tag == "422") return yuv422p;
     if (tag == "444") return yuv444p;
-    throw Cause("colour space " + quoted(tag) + " is not supported (420, 422 and 444 with 8 bits are)");
+    if (tag == "411") return i411;
+    throw Cause("colour space " + quoted(tag) + " is not supported (420, 411, 422 and 444 with 8 bits are)");
 }
 
 // Where the matrix settles it.
@@ -81,7 +82,7 @@ public:
         if (visible.width == 0 || visible.height == 0) throw Cause("the header does not tell width and height");
         // The header cannot tell the matrix; limited range is told, and common with BT.601.
         const bool limited = videoTags.range == "LIMITED";
-        format = &withModel(*format, matrix.value_or(limited ? interface::Model::bt601 : interface::Model::yuv));
+        format = &byMatrix(*format, matrix.value_or(limited ? interface::Model::bt601 : interface::Model::yuv));
         size = wholeBlocks(visible, *format);
     }
 
@@ -115,7 +116,10 @@ std::unique_ptr<Reader> y4mReader(const std::string& path, InputFile file, Matri
 void writeY4mHeader(AtomicFile& file, const Picture& picture, const VideoTags& tags)
 {
     const Format& format = picture.format();
-    const std::string sampling = format.log2Y() > 0 ? tags.sampling420 : format.log2X() > 0 ? "422" : "444";
+    const std::string sampling = format.log2Y() > 0   ? tags.sampling420
+                                 : format.log2X() > 1 ? "411"
+                                 : format.log2X() > 0 ? "422"
+                                                      : "444";
     const std::string range = rangeOf(format).value_or(tags.range);
     file.print("YUV4MPEG2 W" + std::to_string(picture.visible().width) + " H" +
                std::to_string(picture.visible().height) + " F" + tags.frameRate + " Ip A1:1 C" + sampling +
