@@ -49,11 +49,11 @@ Result compare(const Function& function, ZorSize size, const std::vector<const P
     const Job job{function, source.image, destination.image, size};
 
     const interface::Extra extra;
-    const interface::Image result = function.withScratch(destination.image, size);
+    const interface::Image to = function.withScratch(destination.image, size);
     std::vector<Runner> runners;
     for (const auto& [name, tier] : tiersHere()) {
         interface::Call call {
-            source.image, result, size, extra
+            source.image, to, size, extra
         };
         runners.push_back({name, [t = tier] { setActiveTier(t); }, function.prepare(call)});
     }

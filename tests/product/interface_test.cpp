@@ -41,7 +41,7 @@ struct Name {
     explicit Name(string_view text)
     {
         bool known = !take(text, {"zori"}).empty();
-        if (!take(text, {"DemosaicAHD_"}).empty()) { // what it converts between goes without saying
+        if (!take(text, {"DemosaicAHD"}).empty()) { // what it converts between goes without saying
             model[0] = "CFA";
             model[1] = "RGB";
         }

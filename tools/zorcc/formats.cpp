@@ -106,7 +106,7 @@ const Format& formatNamed(const std::string& name)
     for (const interface::Function& function : interface::functions())
         for (const Format* format : {function.source, function.destination}) {
             if (format->name == name) return *format;
-            const std::string word = " " + std::string(format->name) + ",";
+            const std::string word = std::string(" ").append(format->name).append(","); // g++ 12 warns of operator+
             if (known.find(word) == std::string::npos) known += word;
         }
     known.pop_back();
