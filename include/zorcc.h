@@ -683,6 +683,57 @@ ZOR_API ZorStatus zoriReduceBits_32f16s_C4R(const float* pSrc, int srcStep, int1
 ZOR_API ZorStatus zoriReduceBits_32f16s_AC4R(const float* pSrc, int srcStep, int16_t* pDst, int dstStep,
                                              ZorSize roiSize, int noise, ZorDitherMethod method, int levels);
 
+/*
+ * ---- Demosaicing ----------------------------------------------------------------------------------------------------
+ *
+ * A Bayer mosaic, one colour sample a pixel in a repeating 2 x 2 cell, to R, G, B in memory order. `grid` names the
+ * cell at pixel (0, 0) of the source image, whatever the region. `pSrc` points to pixel (0, 0) of the source image of
+ * `srcSize` pixels; `srcRoi` is the region of it to fill in, and neighbours outside the region but inside the image are
+ * used: the colours of a pixel do not depend on the region. The part of the region that lies outside the image is left
+ * out, and the first destination pixel is the first one inside; a region wholly outside is zorStatusOk, with nothing
+ * written. Statuses, in this order:
+ *   zorStatusNullPointer  source or destination is null
+ *   zorStatusBadSize      the source image is too small
+ *   zorStatusBadArgument  the grid is none of ZorBayerGrid
+ * Steps are not checked.
+ */
+
+/*
+ * Interpolation along the smaller gradient; images from 2 x 2. All averages are rounded half up. At a red or blue pixel
+ * of value X, green is the average of the two neighbours above and below if X differs less from the X two rows up to
+ * the one two rows down than from two columns left to two columns right, of those left and right if more, and of all
+ * four if both are equal; the opposite colour is the average of the four diagonal neighbours. At a green pixel, red and
+ * blue are averages of two neighbours. In the outer two columns and rows of the image green is always the average of
+ * four, and a neighbour outside the image is replaced by the one on the other side of the pixel. `interpolation` is not
+ * looked at. On several threads where at least 192 x 192 pixels of the region lie inside that frame.
+ */
+ZOR_API ZorStatus zoriCFAToRGB_8u_C1C3R(const uint8_t* pSrc, ZorRect srcRoi, ZorSize srcSize, int srcStep,
+                                        uint8_t* pDst, int dstStep, ZorBayerGrid grid, int interpolation);
+ZOR_API ZorStatus zoriCFAToRGB_16u_C1C3R(const uint16_t* pSrc, ZorRect srcRoi, ZorSize srcSize, int srcStep,
+                                         uint16_t* pDst, int dstStep, ZorBayerGrid grid, int interpolation);
+
+/*
+ * The adaptive homogeneity-directed method (K. Hirakawa and T. W. Parks, 2005); images from 5 x 5. Green at a red or
+ * blue pixel is estimated once along the row and once along the column: the average of the two green neighbours,
+ * rounded down, plus a quarter, rounded down, of twice the pixel less the pixels of its colour two before and two
+ * behind, limited to the range of the two neighbours. Both candidates, with red and blue from interpolated differences
+ * to green, are compared in CIE L*a*b* (white D65): the direction that has more neighbours of like lightness and colour
+ * around a pixel gives the pixel its green; where they are about even it is the mean of both. The differences of red
+ * and blue to that green are interpolated and moved half of the way to their 3 x 3 median. The image is mirrored at its
+ * edges. 16-bit results of samples 257 times as large as 8-bit samples are within 2 x 257 of 257 times the 8-bit
+ * results.
+ *
+ * `pTmp` is scratch memory: 64 rows of 32 x (w + 32) bytes, `tmpStep` bytes apart, where w is the width of the region's
+ * part inside the image. It needs no alignment, is not checked, holds nothing before and nothing of use after the call,
+ * and must not be shared with a call that runs at the same time. On several threads where that part is at least
+ * 192 x 192.
+ */
+ZOR_API ZorStatus zoriDemosaicAHD_8u_C1C3R(const uint8_t* pSrc, ZorRect srcRoi, ZorSize srcSize, int srcStep,
+                                           uint8_t* pDst, int dstStep, ZorBayerGrid grid, uint8_t* pTmp, int tmpStep);
+ZOR_API ZorStatus zoriDemosaicAHD_16u_C1C3R(const uint16_t* pSrc, ZorRect srcRoi, ZorSize srcSize, int srcStep,
+                                            uint16_t* pDst, int dstStep, ZorBayerGrid grid, uint16_t* pTmp,
+                                            int tmpStep);
+
 #ifdef __cplusplus
 }
 #endif

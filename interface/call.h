@@ -19,9 +19,10 @@ struct Image {
     int step[maxPlanes] = {};
 };
 
-// Arguments behind the size; each function takes those that its signature asks for.
+// Arguments beside images and size; each function takes those that its signature asks for.
 struct Extra {
     std::uint8_t alpha = 0;
+    ZorBayerGrid grid = zorBayerRGGB;
     int slice = 21; // of a deinterlacing conversion: the whole frame
     int noise = 0;  // of a bit-depth reduction
     int levels = 16;
@@ -40,6 +41,7 @@ struct Call {
     bool nullArrays[2] = {};      // pass a null array of planes for the source, the destination
     bool dithers = false;         // the integers behind the size are noise and levels
     int integers = -1;            // that have been passed behind the size; -1: the size itself has not been passed
+    bool region = false;          // a region has been passed: the size that follows comes before the images' steps
 
     int nextSource() { return next(source, false); }
     int nextDestination() { return next(destination, true); }
@@ -117,8 +119,23 @@ template <> struct Argument<const int*> { // steps of the planes before it
 
 template <> struct Argument<ZorSize> {
     ZorSize value;
-    explicit Argument(Call& call) : value(call.size) { call.integers = 0; }
+    explicit Argument(Call& call) : value(call.size)
+    {
+        if (!call.region) call.integers = 0;
+    }
     operator ZorSize() const { return value; }
+};
+
+template <> struct Argument<ZorRect> { // the whole image as the region
+    ZorRect value;
+    explicit Argument(Call& call) : value{0, 0, call.size.width, call.size.height} { call.region = true; }
+    operator ZorRect() const { return value; }
+};
+
+template <> struct Argument<ZorBayerGrid> {
+    ZorBayerGrid value;
+    explicit Argument(Call& call) : value(call.extra.grid) {}
+    operator ZorBayerGrid() const { return value; }
 };
 
 template <> struct Argument<std::uint8_t> {
@@ -133,6 +150,7 @@ struct Signature {
     bool sourceArray, destinationArray; // takes an array of plane pointers
     bool sourceSteps, destinationSteps; // takes a step for every plane; otherwise one step serves all
     bool slice;                         // takes the position of the image in a frame
+    bool scratch;                       // takes scratch memory as well, behind the destination of a region
 };
 
 template <class T> inline constexpr bool isSourceArray = false;
@@ -169,17 +187,19 @@ template <class... Parameters, ZorStatus (*function)(Parameters...)> struct Boun
     static constexpr Signature signature()
     {
         Signature s{};
-        bool destination = false, sized = false;
+        bool destination = false, sized = false, region = false;
         int planes[2] = {}; // that have a pointer and a step of their own
         auto look = [&]<class T>(std::type_identity<T>) {
             s.slice |= sized && !dithers && std::is_same_v<T, int>;
-            sized |= std::is_same_v<T, ZorSize>;
+            region |= std::is_same_v<T, ZorRect>;
+            sized |= std::is_same_v<T, ZorSize> && !region;
             s.steps |= std::is_same_v<T, int> || std::is_same_v<T, const int*>;
             s.sourceArray |= isSourceArray<T>;
             s.destinationArray |= isDestinationArray<T>;
             (destination ? s.destinationSteps : s.sourceSteps) |= std::is_same_v<T, const int*>;
+            s.scratch |= region && destination && isDestination<T>;
             destination |= isDestination<T>;
-            planes[destination] += isPlane<T>;
+            planes[destination] += isPlane<T> && !s.scratch;
         };
         (look(std::type_identity<Parameters>{}), ...);
         s.sourceSteps |= planes[0] > 1;

@@ -7,10 +7,10 @@
 
 namespace zorcc::interface {
 
-// Colour models: grey, R'G'B', analogue-television Y'UV, Y'CbCr by its matrix, which is anyYcc where samples only
-// change places, and the hexcone models. In channel strings L stands for grey (in those of HLS for lightness), U for
-// Cb, V for Cr (in those of HSV for the value).
-enum class Model { grey, rgb, yuv, bt601, bt709, bt709full, anyYcc, hls, hsv };
+// Colour models: Bayer mosaics, grey, R'G'B', analogue-television Y'UV, Y'CbCr by its matrix, which is anyYcc where
+// samples only change places, and the hexcone models. In channel strings M stands for a mosaic's sample, L for grey (in
+// those of HLS for lightness), U for Cb, V for Cr (in those of HSV for the value).
+enum class Model { mosaic, grey, rgb, yuv, bt601, bt709, bt709full, anyYcc, hls, hsv };
 
 enum class Sample { u8, u16, s16, s32, f32 };
 
@@ -110,6 +110,10 @@ inline constexpr Format grey8 = interleaved("grey8", "L", Model::grey, Sample::u
 inline constexpr Format grey16 = interleaved("grey16", "L", Model::grey, Sample::u16);
 inline constexpr Format grey16s = interleaved("grey16s", "L", Model::grey, Sample::s16);
 inline constexpr Format greyf32 = interleaved("greyf32", "L", Model::grey, Sample::f32);
+
+// One sample a pixel, of the colour that its place in the mosaic tells.
+inline constexpr Format bayer8 = interleaved("bayer8", "M", Model::mosaic, Sample::u8);
+inline constexpr Format bayer16 = interleaved("bayer16", "M", Model::mosaic, Sample::u16);
 
 inline constexpr Format yuv24 = interleaved("yuv24", "YUV", Model::yuv, Sample::u8);
 inline constexpr Format yuva = interleaved("yuva", "YUVA", Model::yuv, Sample::u8);

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "interface/functions.h"
 
+#include <algorithm>
+#include <vector>
+
 namespace zorcc::interface {
 
 namespace {
@@ -60,6 +63,19 @@ constexpr Table makeTable()
 constexpr Table table = makeTable();
 
 } // namespace
+
+Image Function::withScratch(const Image& to, ZorSize size) const
+{
+    Image result = to;
+    if (signature.scratch) { // what the demosaicing functions ask for
+        thread_local std::vector<std::uint8_t> memory;
+        constexpr int rows = 64;
+        result.step[1] = 32 * (size.width + 32);
+        memory.resize(std::max(memory.size(), static_cast<std::size_t>(rows) * result.step[1]));
+        result.plane[1] = memory.data();
+    }
+    return result;
+}
 
 std::span<const Function> functions() { return table.entry; }
 

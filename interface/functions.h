@@ -24,9 +24,14 @@ struct Function {
 
     ZorStatus operator()(const Image& from, const Image& to, ZorSize size, const Extra& extra = {}) const
     {
-        Call call{from, to, size, extra};
+        const Image result = withScratch(to, size);
+        Call call{from, result, size, extra};
         return bound(call);
     }
+
+    // The destination with scratch memory as its plane 1, where the function takes some. The memory belongs to the
+    // calling thread and is good until its next call for a larger size.
+    Image withScratch(const Image& to, ZorSize size) const;
 };
 
 std::span<const Function> functions();

@@ -36,6 +36,9 @@ std::vector<Library> libraries()
     all.push_back(zimg());
 #endif
     all.push_back(ourselves());
+#ifdef ZORCC_PEER_LIBRAW
+    all.push_back(libRaw());
+#endif
     return all;
 }
 
@@ -48,10 +51,11 @@ Result compare(const Function& function, const Variant& variant, ZorSize size, c
     const Buffer copySource(copyBytes), copyDestination(copyBytes);
     const Job job{function, source.image, destination.image, size, variant.arguments};
 
+    const interface::Image to = function.withScratch(destination.image, size);
     std::vector<Runner> runners;
     for (const auto& [name, tier] : tiersHere()) {
         interface::Call call {
-            source.image, destination.image, size, variant.arguments
+            source.image, to, size, variant.arguments
         };
         runners.push_back({name, [t = tier] { setActiveTier(t); }, function.prepare(call)});
     }

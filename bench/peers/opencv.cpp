@@ -33,6 +33,8 @@ const Row rows[] = {
     {"zoriHSVToRGB_8u_C3R", "HSV2RGB_FULL", cv::COLOR_HSV2RGB_FULL},
     {"zoriRGBToHLS_32f_C3R", "RGB2HLS", cv::COLOR_RGB2HLS},
     {"zoriHLSToRGB_32f_C3R", "HLS2RGB", cv::COLOR_HLS2RGB},
+    {"zoriCFAToRGB_8u_C1C3R", "BayerRGGB2RGB_EA", cv::COLOR_BayerRGGB2RGB_EA},
+    {"zoriCFAToRGB_16u_C1C3R", "BayerRGGB2RGB_EA", cv::COLOR_BayerRGGB2RGB_EA},
 };
 
 // A matrix over our memory. It takes planar 4:2:0 as one matrix half as high again, the planes behind one another.
@@ -40,7 +42,9 @@ cv::Mat matrix(const Format& format, const Image& image, ZorSize size)
 {
     if (format.layout == Layout::planar)
         return {size.height * 3 / 2, size.width, CV_8UC1, image.plane[0], static_cast<size_t>(image.step[0])};
-    const int depth = format.sample == interface::Sample::f32 ? CV_32F : CV_8U;
+    const int depth = format.sample == interface::Sample::f32   ? CV_32F
+                      : format.sample == interface::Sample::u16 ? CV_16U
+                                                                : CV_8U;
     return {size.height, size.width, CV_MAKETYPE(depth, format.plane[0].samples), image.plane[0],
             static_cast<size_t>(image.step[0])};
 }

@@ -41,6 +41,7 @@ Library libyuv();
 Library swscale();
 Library openCV();
 Library zimg();
+Library libRaw();
 
 // Our own functions, to be held against each other.
 Library ourselves();

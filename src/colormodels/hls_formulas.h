@@ -19,7 +19,7 @@ template <class Sample> struct RgbToHls {
         const Hexcone<Sample> cone(r, g, b);
         const V most = cone.most, least = cone.least, one = V{} + 1;
         // Half of the sum, rounded down; the sum, or what is missing to twice the greatest sample where that is less.
-        const V lightness = ~average(~most, ~least);
+        const V lightness = ~averageUp(~most, ~least);
         const V divisor = minimum(addSaturate(most, least), addSaturate(~most, ~least));
 
         const auto chroma = toFloat(widen(maximum(cone.chroma, one))), limit = toFloat(widen(maximum(divisor, one)));

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "frame/parallel.h"
 
+#include <limits.h>
 #include <omp.h>
 #include <stdint.h>
 
@@ -42,12 +43,18 @@ void rowsAlways(int height, FunctionRef<void(int)> row) { forEach(threadsHere(),
 
 void bandsAboveThreshold(int width, int height, FunctionRef<void(int, int)> band)
 {
-    const int bands = width >= minBandedSize && height >= minBandedSize ? threadsHere() : 1;
+    bandsAboveThreshold(width, height, INT_MAX, [&](int, int first, int count) { band(first, count); });
+}
+
+void bandsAboveThreshold(int width, int height, int mostBands, FunctionRef<void(int, int, int)> band)
+{
+    const int threads = width >= minBandedSize && height >= minBandedSize ? threadsHere() : 1;
+    const int bands = threads < mostBands ? threads : mostBands;
     const int share = height / bands;
     forEach(bands, bands, [&](int index) {
         const int first = index * share;
         const int count = index == bands - 1 ? height - first : share;
-        if (count > 0) band(first, count);
+        if (count > 0) band(index, first, count);
     });
 }
 

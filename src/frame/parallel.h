@@ -27,6 +27,10 @@ void rowsAlways(int height, FunctionRef<void(int y)> row);
 // of rows, but the last also takes the remainder. Bands without rows are left out.
 void bandsAboveThreshold(int width, int height, FunctionRef<void(int firstRow, int rowCount)> band);
 
+// The same with at most `mostBands` bands, for drivers whose bands need memory of their own; `index` counts them.
+void bandsAboveThreshold(int width, int height, int mostBands,
+                         FunctionRef<void(int index, int firstRow, int rowCount)> band);
+
 // Groups of four rows, for fields of two rows that are filtered across group borders.
 struct GroupBand {
     int firstGroup, groupCount;

@@ -229,15 +229,26 @@ template <class V> ZORCC_INLINE void deinterleave3(const uint8_t* p, V (&channel
             _mm512_mask_mov_epi8(_mm512_mask_mov_epi8(v[0], thirdOf<size>(c, 1), v[1]), thirdOf<size>(c, 2), v[2]));
 }
 
-template <Columns columns, class V> ZORCC_INLINE void interleave3(uint8_t* p, const V (&channel)[3])
+template <int size>
+ZORCC_INLINE void weaveThirds(uint8_t* p, const __m512i (&channel)[3], const uint8_t (&scatter)[3][64])
 {
-    constexpr int size = sampleSize<V>;
     __m512i v[3];
-    for (int c = 0; c < 3; ++c)
-        v[c] = _mm512_permutexvar_epi8(reg(load(thirds<size>.scatter[(int)columns][c])), (__m512i)channel[c]);
+    for (int c = 0; c < 3; ++c) v[c] = _mm512_permutexvar_epi8(reg(load(scatter[c])), channel[c]);
     for (int k = 0; k < 3; ++k)
         store(p + 64 * k, (u8v)_mm512_mask_mov_epi8(_mm512_mask_mov_epi8(v[0], thirdOf<size>(1, k), v[1]),
                                                     thirdOf<size>(2, k), v[2]));
+}
+
+ZORCC_INLINE void interleave3(uint8_t* p, const u8v (&channel)[3], const uint8_t (&scatter)[3][64])
+{
+    weaveThirds<1>(p, {reg(channel[0]), reg(channel[1]), reg(channel[2])}, scatter);
+}
+
+template <Columns columns, class V> ZORCC_INLINE void interleave3(uint8_t* p, const V (&channel)[3])
+{
+    constexpr int size = sampleSize<V>;
+    weaveThirds<size>(p, {(__m512i)channel[0], (__m512i)channel[1], (__m512i)channel[2]},
+                      thirds<size>.scatter[(int)columns]);
 }
 
 #else

@@ -124,6 +124,8 @@ ZORCC_INLINE s16v addOneWhere(s16v v, u16v a, u16v b)
 ZORCC_INLINE u8v averageUp(u8v a, u8v b) { return (u8v)ZORCC_MM(avg_epu8)(reg(a), reg(b)); }
 ZORCC_INLINE u8v averageDown(u8v a, u8v b) { return averageUp(a, b) - ((a ^ b) & 1); }
 
+ZORCC_INLINE u16v averageUp(u16v a, u16v b) { return (u16v)ZORCC_MM(avg_epu16)(reg(a), reg(b)); }
+
 // ---- saturation ----------------------------------------------------------------------------------------------------
 
 ZORCC_INLINE u8v addSaturate(u8v a, u8v b) { return (u8v)ZORCC_MM(adds_epu8)(reg(a), reg(b)); }
@@ -142,10 +144,6 @@ ZORCC_INLINE u16v maximum(u16v a, u16v b) { return b + subSaturate(a, b); }
 ZORCC_INLINE u16v minimum(u16v a, u16v b) { return (u16v)ZORCC_MM(min_epu16)(reg(a), reg(b)); }
 ZORCC_INLINE u16v maximum(u16v a, u16v b) { return (u16v)ZORCC_MM(max_epu16)(reg(a), reg(b)); }
 #endif
-
-// floor((a + b + 1) / 2)
-ZORCC_INLINE u8v average(u8v a, u8v b) { return (u8v)ZORCC_MM(avg_epu8)(reg(a), reg(b)); }
-ZORCC_INLINE u16v average(u16v a, u16v b) { return (u16v)ZORCC_MM(avg_epu16)(reg(a), reg(b)); }
 
 ZORCC_INLINE u8v clamp(u8v v, int low, int high)
 {

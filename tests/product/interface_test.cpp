@@ -25,7 +25,7 @@ string_view take(string_view& text, const std::vector<string_view>& words)
     return {};
 }
 
-const std::vector<string_view> models = {"RGB", "BGR", "YUV", "YCbCr", "YCrCb", "CbYCr", "HLS", "HSV"};
+const std::vector<string_view> models = {"CFA", "RGB", "BGR", "YUV", "YCbCr", "YCrCb", "CbYCr", "HLS", "HSV"};
 const std::vector<string_view> packings = {"422", "420", "411", "1620", "565"};
 const std::vector<string_view> variants = {"709CSC_", "709HDTV_", "Filter_", "Interlace_"};
 const std::vector<string_view> types = {"8u", "16u", "16s", "32s", "32f"};
@@ -44,7 +44,12 @@ struct Name {
     {
         bool known = !take(text, {"zori"}).empty();
         reduction = !take(text, {"ReduceBits_"}).empty();
+        if (!take(text, {"DemosaicAHD"}).empty()) { // what it converts between goes without saying
+            model[0] = "CFA";
+            model[1] = "RGB";
+        }
         for (int i = 0; i < 2 && !reduction; ++i) {
+            if (!model[i].empty()) continue;
             if (i == 1 && take(text, {"To"}).empty()) break;
             model[i] = take(text, models);
             packing[i] = take(text, packings);
@@ -83,6 +88,7 @@ void expectImage(const Name& name, int i, const Format& format, bool array, bool
     const bool rgb = isRgb(i);
     const Model model = name.reduction               ? (format.channels.size() == 1 ? Model::grey : Model::rgb)
                         : rgb                        ? Model::rgb
+                        : name.model[i] == "CFA"     ? Model::mosaic
                         : !isRgb(1 - i)              ? Model::anyYcc
                         : name.model[i] == "YUV"     ? Model::yuv
                         : name.model[i] == "HLS"     ? Model::hls

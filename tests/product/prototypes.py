@@ -24,6 +24,15 @@ def image(role, sample, layout, subsampled, steps):
     return parameters
 
 
+MOSAIC = re.compile(r"zori(CFAToRGB|DemosaicAHD)_(\w+?)_C1C3R")
+
+
+def demosaicing(method, sample):
+    scratch = [f"{sample}* pTmp", "int tmpStep"] if method == "DemosaicAHD" else ["int interpolation"]
+    return [f"const {sample}* pSrc", "ZorRect srcRoi", "ZorSize srcSize", "int srcStep", f"{sample}* pDst",
+            "int dstStep", "ZorBayerGrid grid"] + scratch
+
+
 def expected(name):
     """Parameters of a function up to the size, of a bit-depth reduction all."""
     reduction = re.fullmatch(rf"zoriReduceBits_({TYPE})({TYPE})?_({LAYOUT})R", name)
@@ -32,6 +41,8 @@ def expected(name):
         return (image("Src", TYPES[from_type], layout, False, True)
                 + image("Dst", TYPES[to_type or from_type], layout, False, True)
                 + ["ZorSize roiSize", "int noise", "ZorDitherMethod method", "int levels"])
+    if mosaic := MOSAIC.fullmatch(name):
+        return demosaicing(mosaic[1], TYPES[mosaic[2]])
     found = re.fullmatch(rf"zori(\w+?)(?:To(\w+?))?_({TYPE})({TYPE})?_({LAYOUT})({LAYOUT})?(R?)", name)
     if not found:
         return None

@@ -14,6 +14,8 @@ namespace {
 std::string_view channelNames(Model model)
 {
     switch (model) {
+    case Model::mosaic:
+        return "M";
     case Model::grey:
         return "L";
     case Model::rgb:
@@ -49,7 +51,7 @@ Pixels::Pixels(const Format& format, const Image& image, ZorSize imageSize)
     : size(imageSize), sampleType(format.sample), sampleBytes(interface::sampleBytes(format.sample))
 {
     const std::string_view names = channelNames(format.model);
-    for (int c = 0; c < channels; ++c) {
+    for (int c = 0; c < static_cast<int>(names.size()); ++c) {
         const std::size_t position = format.channels.find(names[c]);
         Place& p = place[c];
         p.present = position != std::string_view::npos;

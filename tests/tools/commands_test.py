@@ -48,7 +48,7 @@ class Call(unittest.TestCase):
     def test_every_function_there_and_back(self):
         """Each function's result, converted back or compared as it is, is the picture it came from."""
         write_ppm("smooth.ppm", 64, 48, smooth(64, 48))
-        conversions = [row for row in functions() if "To" in row[0]]
+        conversions = [row for row in functions() if "To" in row[0] and not row[1].startswith("bayer")]
         made = {destination for name, source, destination in conversions}
         for name, source, destination in conversions:
             with self.subTest(name):

@@ -36,6 +36,7 @@ def prepare():
     frame_header = jpeg.index(b"\xff\xc0")
     write("large.jpg", jpeg[:frame_header + 5] + b"\xff\xff\xff\xff" + jpeg[frame_header + 9:])
     write("big.ppm", b"P6 %d %d 255\n" % (HUGE, HUGE))
+    write("tiny.pgm", b"P5 4 4 255\n" + bytes(16))
     write("large.ppm", b"P6 100000 100000 255\n")
     write("overflow.ppm", b"P6 99999999999999999999 1 255\n")
     write("565.raw", bytes(8))
@@ -128,6 +129,9 @@ CASES = [
     ("compare good.y4m two.y4m", FAILED, "good.y4m: has only 1 picture"),
     ("compare good.png missing.png", FAILED, "missing.png: No such file"),
     ("sheet out.png good.png missing.png", FAILED, "missing.png: No such file"),
+    ("demosaic good.png out.png", FAILED, "good.png: the file holds rgb24, but a mosaic is a grey PGM"),
+    ("demosaic tiny.pgm out.png", FAILED, "tiny.pgm: zoriDemosaicAHD_8u_C1C3R: the picture is too small"),
+    ("demosaic missing.pgm out.png", FAILED, "missing.pgm: No such file"),
     ("chart out.y4m", FAILED, "out.y4m: Y4M holds YUV"),
     (f"chart out.png --size {HUGE}x{HUGE}", FAILED, "out.png: "),
     ("list nothing_of_the_kind", FAILED, "nothing_of_the_kind: "),
@@ -154,6 +158,8 @@ CASES = [
     ("call zoriNothing good.png out.png", USAGE, "no function zoriNothing"),
     (f"call {C3} good.png", USAGE, "OUT"),
     (f"call {C3} good.png y.pgm u.pgm", USAGE, "name one file, or 3"),
+    ("demosaic tiny.pgm out.png --grid rgb", USAGE, "--grid"),
+    ("demosaic tiny.pgm out.png --method best", USAGE, "--method"),
     ("chart out.gif", USAGE, "out.gif"),
     ("sheet out.png", USAGE, "IN"),
 ]

@@ -43,12 +43,20 @@ struct ReduceOptions {
     Timing timing;
 };
 
+struct DemosaicOptions {
+    std::string in, out;
+    ZorBayerGrid grid = zorBayerRGGB;
+    bool gradient = false; // instead of the adaptive method
+    Timing timing;
+};
+
 void list(const std::string& pattern);
 void call(const CallOptions& options);
 void convert(const ConvertOptions& options);
 void reduce(const ReduceOptions& options);
 void chart(const std::string& out, ZorSize size);
 void compare(const std::string& a, const std::string& b);
+void demosaic(const DemosaicOptions& options);
 void sheet(const std::string& out, const std::vector<std::string>& in);
 
 // The input of call and convert; a headerless one is of the format `usual` if the user names none.

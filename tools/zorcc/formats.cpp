@@ -113,7 +113,7 @@ const Format& formatNamed(const std::string& name)
     for (const interface::Function& function : interface::functions())
         for (const Format* format : {function.source, function.destination}) {
             if (format->name == name) return *format;
-            const std::string word = " " + std::string(format->name) + ",";
+            const std::string word = std::string(" ").append(format->name).append(","); // g++ 12 warns of operator+
             if (known.find(word) == std::string::npos) known += word;
         }
     known.pop_back();
@@ -170,6 +170,7 @@ const Format& planarYuv(const Format& format)
 std::optional<int> rearrangementCost(const Format& from, const Format& to)
 {
     if (&from == &to) return 0;
+    if (isGrey(from) && to.model == interface::Model::mosaic && from.sample == to.sample) return 1;
     if (!isSameModel(from.model, to.model) || from.log2X() != to.log2X() || from.log2Y() != to.log2Y()) return {};
     if (from.layout == Layout::packedBits || (to.layout == Layout::packedBits && to.channels != "RGB")) return {};
     int cost = 1;

@@ -3,6 +3,7 @@
 #include <charconv>
 #include <cstring>
 #include <iostream>
+#include <map>
 
 #include <CLI/CLI.hpp>
 
@@ -64,6 +65,7 @@ struct Options {
     CallOptions call;
     ConvertOptions convert;
     ReduceOptions reduce;
+    DemosaicOptions demosaic;
     std::string chartOut, sheetOut, compareA, compareB;
     ZorSize chartSize = {1280, 720};
     std::vector<std::string> sheetIn;
@@ -160,6 +162,24 @@ void addCommands(CLI::App& app, Options& o)
                     "  zorcc reduce photo.png poster.png --levels 4\n"
                     "  zorcc reduce deep.png photo.png --levels 256 --dither ordered --noise 20");
     command->callback([&o] { reduce(o.reduce); });
+
+    command = app.add_subcommand("demosaic", "Make a colour picture of a Bayer mosaic");
+    command->add_option("IN", o.demosaic.in, "grey PGM or PNG file with one colour sample a pixel, 8 or 16 bits")
+        ->required();
+    command->add_option("OUT", o.demosaic.out, "PNG, PPM, JPEG or PFM file")->required();
+    const std::map<std::string, ZorBayerGrid> grids = {
+        {"bggr", zorBayerBGGR}, {"rggb", zorBayerRGGB}, {"gbrg", zorBayerGBRG}, {"grbg", zorBayerGRBG}};
+    command->add_option("--grid", o.demosaic.grid, "colours of the first 2x2 pixels, row by row; rggb if not given")
+        ->transform(CLI::CheckedTransformer(grids, CLI::ignore_case).description("rggb|bggr|gbrg|grbg"));
+    const std::map<std::string, bool> methods = {{"gradient", true}, {"ahd", false}};
+    command
+        ->add_option("--method", o.demosaic.gradient,
+                     "interpolation along the smaller gradient, or the slower "
+                     "adaptive homogeneity-directed one; ahd if not given")
+        ->transform(CLI::CheckedTransformer(methods, CLI::ignore_case).description("gradient|ahd"));
+    addTiming(command, o.demosaic.timing);
+    command->footer("Example:\n  zorcc demosaic raw.pgm picture.png --grid rggb --method ahd");
+    command->callback([&o] { demosaic(o.demosaic); });
 
     command = app.add_subcommand("chart", "Draw the test picture");
     command->add_option("OUT", o.chartOut, "PNG, JPEG, PPM or PFM file")->required();

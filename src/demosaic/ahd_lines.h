@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: MIT
+// Loops along lines of floats. They run over whole vectors; a line has room for a vector at both ends, and what is
+// computed beyond its ends is not used.
+#pragma once
+
+#include "simd/floats.h"
+
+namespace zorcc::ZORCC_TIER {
+namespace {
+
+// A stage is a function of its own, so that its loop has all registers to itself.
+#define ZORCC_STAGE static __attribute__((noinline))
+
+ZORCC_INLINE f32v at(const float* p, int i) { return load<f32v>(p + i); }
+
+template <class Body> ZORCC_INLINE void alongLine(int length, Body body)
+{
+    for (int i = 0; i < length; i += floatsPerVector) body(i);
+}
+
+// Each element's left neighbour; `before` is the vector before.
+ZORCC_INLINE f32v leftOf(f32v before, f32v here)
+{
+#if defined(ZORCC_TIER_avx512)
+    return (f32v)_mm512_alignr_epi32((Register)here, (Register)before, 15);
+#elif defined(ZORCC_TIER_avx2)
+    const Register middle = _mm256_permute2x128_si256((Register)before, (Register)here, 0x21);
+    return (f32v)_mm256_alignr_epi8((Register)here, middle, 12);
+#else
+    return (f32v)_mm_alignr_epi8((Register)here, (Register)before, 12);
+#endif
+}
+
+// Each element's right neighbour; `behind` is the vector behind.
+ZORCC_INLINE f32v rightOf(f32v here, f32v behind)
+{
+#if defined(ZORCC_TIER_avx512)
+    return (f32v)_mm512_alignr_epi32((Register)behind, (Register)here, 1);
+#elif defined(ZORCC_TIER_avx2)
+    const Register middle = _mm256_permute2x128_si256((Register)here, (Register)behind, 0x21);
+    return (f32v)_mm256_alignr_epi8(middle, (Register)here, 4);
+#else
+    return (f32v)_mm_alignr_epi8((Register)behind, (Register)here, 4);
+#endif
+}
+
+template <int count> struct Values {
+    f32v v[count];
+};
+
+// Calls body(i, left, here, right) with the values at i and at their neighbours. value(i) gives Values for any i from a
+// vector before the line to one behind it, and is called once for each.
+template <class Value, class Body> ZORCC_INLINE void alongNeighbours(int length, Value value, Body body)
+{
+    auto before = value(-floatsPerVector), here = value(0);
+    for (int i = 0; i < length; i += floatsPerVector) {
+        const auto behind = value(i + floatsPerVector);
+        decltype(before) left, right;
+        for (size_t k = 0; k < sizeof here / sizeof(f32v); ++k) {
+            left.v[k] = leftOf(before.v[k], here.v[k]);
+            right.v[k] = rightOf(here.v[k], behind.v[k]);
+        }
+        body(i, left, here, right);
+        for (size_t k = 0; k < sizeof here / sizeof(f32v); ++k) { // one by one: see homogeneity()
+            before.v[k] = here.v[k];
+            here.v[k] = behind.v[k];
+        }
+    }
+}
+
+} // namespace
+} // namespace zorcc::ZORCC_TIER

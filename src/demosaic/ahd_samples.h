@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: MIT
+// From rows of the mosaic to lines of floats, and from lines to rows of the result.
+#pragma once
+
+#include "demosaic/mosaic.h"
+#include "simd/floats.h"
+#include "simd/interleave16.h"
+
+namespace zorcc::ZORCC_TIER {
+namespace {
+
+ZORCC_INLINE f32v loadFloats(const uint8_t* p)
+{
+#if defined(ZORCC_TIER_avx512)
+    return toFloat((s32v)_mm512_cvtepu8_epi32(_mm_loadu_si128((const __m128i*)p)));
+#elif defined(ZORCC_TIER_avx2)
+    return toFloat((s32v)_mm256_cvtepu8_epi32(_mm_loadl_epi64((const __m128i*)p)));
+#else
+    const __m128i zero = _mm_setzero_si128();
+    return toFloat((s32v)_mm_unpacklo_epi16(_mm_unpacklo_epi8(_mm_loadu_si32(p), zero), zero));
+#endif
+}
+ZORCC_INLINE f32v loadFloats(const uint16_t* p)
+{
+#if defined(ZORCC_TIER_avx512)
+    return toFloat((s32v)_mm512_cvtepu16_epi32(_mm256_loadu_si256((const __m256i*)p)));
+#elif defined(ZORCC_TIER_avx2)
+    return toFloat((s32v)_mm256_cvtepu16_epi32(_mm_loadu_si128((const __m128i*)p)));
+#else
+    return toFloat((s32v)_mm_unpacklo_epi16(_mm_loadl_epi64((const __m128i*)p), _mm_setzero_si128()));
+#endif
+}
+
+// `count` samples of a row of `width`, from column x on, which like the last may lie outside.
+template <class Sample> void loadLine(const Sample* row, int width, int x, int count, float* line)
+{
+    int i = 0;
+    for (; i < count && x + i < 0; ++i) line[i] = row[mirrored(x + i, width)];
+    for (; i <= count - floatsPerVector && x + i <= width - floatsPerVector; i += floatsPerVector)
+        store(line + i, loadFloats(row + x + i));
+    for (; i < count; ++i) line[i] = row[mirrored(x + i, width)];
+}
+
+// Rounded to nearest (halves up) and saturated.
+ZORCC_INLINE s32v rounded(const float* p) { return truncate(load<f32v>(p) + 0.5f); }
+
+template <class V> ZORCC_INLINE V loadRounded(const float* p)
+{
+    constexpr int n = floatsPerVector;
+    if constexpr (sizeof(V{}[0]) == 1) {
+        const u8v v = narrowToU8({{rounded(p), rounded(p + n), rounded(p + 2 * n), rounded(p + 3 * n)}});
+#if defined(ZORCC_TIER_avx512)
+        return (u8v)_mm512_permutexvar_epi32(_mm512_setr_epi32(0, 4, 8, 12, 1, 5, 9, 13, 2, 6, 10, 14, 3, 7, 11, 15),
+                                             reg(v));
+#elif defined(ZORCC_TIER_avx2)
+        return (u8v)_mm256_permutevar8x32_epi32(reg(v), _mm256_setr_epi32(0, 4, 1, 5, 2, 6, 3, 7));
+#else
+        return v;
+#endif
+    } else {
+        const u16v v = narrowToU16({{rounded(p), rounded(p + n)}});
+#if defined(ZORCC_TIER_avx512)
+        return (u16v)_mm512_permutexvar_epi64(_mm512_setr_epi64(0, 2, 4, 6, 1, 3, 5, 7), reg(v));
+#elif defined(ZORCC_TIER_avx2)
+        return (u16v)_mm256_permute4x64_epi64(reg(v), 0xd8);
+#else
+        return v;
+#endif
+    }
+}
+
+ZORCC_INLINE void storeRgb(uint8_t* p, const u8v (&rgb)[3]) { interleave3<Columns::inOrder>(p, rgb); }
+ZORCC_INLINE void storeRgb(uint16_t* p, const u16v (&rgb)[3]) { interleave3(p, rgb); }
+
+// Pixels i .. i + vectorBytes / sizeof(Sample) - 1 from a line for each channel.
+template <class Sample> ZORCC_INLINE void storeVector(const float* const (&channel)[3], int i, Sample* dst)
+{
+    using V = Vec<Sample>;
+    storeRgb(dst, {loadRounded<V>(channel[0] + i), loadRounded<V>(channel[1] + i), loadRounded<V>(channel[2] + i)});
+}
+
+// The first `count` pixels. What lies behind them in the lines is not read: there may be no memory for a vector.
+template <class Sample> void storePixels(const float* const (&channel)[3], int count, Sample* dst)
+{
+    constexpr int lanes = vectorBytes / sizeof(Sample);
+    int i = 0;
+    for (; i <= count - lanes; i += lanes) storeVector(channel, i, dst + 3 * i);
+    if (i == count) return;
+    float staged[3][lanes] = {};
+    Sample result[3 * lanes];
+    for (int c = 0; c < 3; ++c)
+        __builtin_memcpy(staged[c], channel[c] + i, static_cast<size_t>(count - i) * sizeof(float));
+    storeVector({staged[0], staged[1], staged[2]}, 0, result);
+    __builtin_memcpy(dst + 3 * i, result, 3 * static_cast<size_t>(count - i) * sizeof(Sample));
+}
+
+} // namespace
+} // namespace zorcc::ZORCC_TIER

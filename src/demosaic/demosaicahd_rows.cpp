@@ -1,0 +1,182 @@
+// SPDX-License-Identifier: MIT
+// Row drivers of the adaptive homogeneity-directed demosaicing, compiled once for every tier.
+#include <stddef.h>
+
+#include "demosaic/ahd_samples.h"
+#include "demosaic/ahd_scratch.h"
+#include "demosaic/ahd_stages.h"
+#include "frame/parallel.h"
+
+namespace zorcc::ZORCC_TIER {
+
+#include "demosaic/demosaicahd_rows.h"
+
+namespace {
+
+// What a pixel depends on: the median looks at neighbours, a difference is a tent over neighbours, the choice sums
+// over neighbours, nearness is to neighbours, a candidate's differences are tents, and green looks two pixels far.
+constexpr int reach = 1 + 1 + 1 + 1 + 1 + 2;
+
+// The strip of columns that is worked on at a time: its lines stay in the first-level cache.
+constexpr int stripWidth = 256;
+
+// Lines of both candidates.
+struct LabRing {
+    Ring<2> light, red, blue;
+
+    LabLines operator[](int row) const { return {light[row], red[row], blue[row]}; }
+};
+
+struct DistanceRing {
+    Ring<2> light, colour;
+
+    DistanceLines operator[](int row) const { return {light[row], colour[row]}; }
+};
+
+struct Candidate {
+    Ring<4> differences;
+    LabRing lab;
+    DistanceRing down; // to the row below
+
+    JudgedRow judged(int row) const { return {lab[row], lab[row + 1], down[row - 1], down[row]}; }
+};
+
+// All lines of a strip. How many rows of each are kept follows from Strip::step.
+struct Lines {
+    Ring<8> samples;
+    Candidate candidate[2]; // across: along the row; down: along the column
+    Ring<3> near;
+    Ring<3> green, differences; // of the choice
+    Ring<3> red, blue;          // differences everywhere
+    Ring<1> siteColour, thirdColour;
+};
+constexpr int lineCount = sizeof(Lines) / sizeof(float*);
+
+// Columns x .. x + width - 1 of the region, and lines for them and for what they depend on.
+template <class Sample> class Strip {
+public:
+    Strip(const Job<Sample>& work, const Scratch& scratch, int firstLine, int firstColumn, int columns)
+        : job(work), x(firstColumn), width(columns), length(lineLength(columns))
+    {
+        float* all[lineCount];
+        for (int i = 0; i < lineCount; ++i) all[i] = scratch.line(firstLine + i);
+        __builtin_memcpy(&lines, all, sizeof lines);
+    }
+
+    static int lineLength(int columns) { return (columns + 2 * reach + 15) / 16 * 16; }
+
+    // Rows y0 .. y1 - 1 of the result.
+    void run(int y0, int y1)
+    {
+        top = y0 - reach;
+        for (int i = 0; i < y1 - y0 + 2 * reach; ++i) step(i);
+    }
+
+private:
+    const Job<Sample> job;
+    const int x, width, length;
+    int top = 0; // the image row of row 0
+    Lines lines;
+
+    // Brings in row i and takes everything that now can be done one row further.
+    void step(int i)
+    {
+        loadLine(sampleAt(job.src, job.srcStep, 0, mirrored(top + i, job.size.height)), job.size.width, x - reach,
+                 width + 2 * reach, lines.samples[i]);
+        if (i >= 4) estimateGreen(i - 2);
+        if (i >= 6) judge(i - 3);
+        if (i == 7) measure(i - 4);
+        if (i >= 8) compare(i - 4);
+        if (i >= 10) chooseGreen(i - 5);
+        if (i >= 12) interpolateColours(i - 6);
+        if (i >= 14) finish(i - 7);
+    }
+
+    RowColours coloursOf(int row) const { return rowColours(job.grid, top + row); }
+    s32v sitesOf(int row) const { return alternate<s32v>(coloursOf(row).sitesAreOdd != (((x - reach) & 1) != 0)); }
+
+    Samples samplesAround(int row) const
+    {
+        return {{lines.samples[row - 2], lines.samples[row - 1], lines.samples[row], lines.samples[row + 1],
+                 lines.samples[row + 2]}};
+    }
+    void estimateGreen(int row)
+    {
+        greenDifferences(samplesAround(row), sitesOf(row), lines.candidate[0].differences[row],
+                         lines.candidate[1].differences[row], length);
+    }
+
+    // Homogeneity is judged on a scale of 16 bits, so that 8-bit pictures are treated as the same at 16 bits would be.
+    void judge(int row)
+    {
+        constexpr float scale = sizeof(Sample) == 1 ? 257.f : 1.f;
+        const auto convert = coloursOf(row).red ? candidateLab<true> : candidateLab<false>;
+        for (const Candidate& c : lines.candidate)
+            convert(lines.samples[row], c.differences.around(row), scale, c.lab[row], length);
+    }
+
+    // The first row that has one below it.
+    void measure(int row)
+    {
+        for (const Candidate& c : lines.candidate) distancesDown(c.lab[row], c.lab[row + 1], c.down[row], length);
+    }
+
+    void compare(int row)
+    {
+        homogeneity(lines.candidate[0].judged(row), lines.candidate[1].judged(row), lines.near[row], length);
+    }
+
+    void chooseGreen(int row)
+    {
+        choose(lines.near.around(row), samplesAround(row), sitesOf(row), lines.candidate[0].differences[row],
+               lines.candidate[1].differences[row], lines.green[row], lines.differences[row], length);
+    }
+
+    void interpolateColours(int row)
+    {
+        const bool red = coloursOf(row).red;
+        chroma(lines.differences.around(row), (red ? lines.red : lines.blue)[row], (red ? lines.blue : lines.red)[row],
+               length);
+    }
+
+    void finish(int row)
+    {
+        const bool red = coloursOf(row).red;
+        smooth((red ? lines.red : lines.blue).around(row), lines.siteColour[0], length);
+        smooth((red ? lines.blue : lines.red).around(row), lines.thirdColour[0], length);
+        addGreen(lines.samples[row], lines.differences[row], sitesOf(row), lines.siteColour[0], lines.thirdColour[0],
+                 length);
+        const float *const site = lines.siteColour[0] + reach, *const third = lines.thirdColour[0] + reach;
+        storePixels({red ? site : third, lines.green[row] + reach, red ? third : site}, width,
+                    sampleAt(job.dst, job.dstStep, 3 * (x - job.region.x0), top + row - job.region.y0));
+    }
+};
+
+template <class Sample> void demosaicAhd(const Job<Sample>& job, void* buffer, ptrdiff_t bufferStep)
+{
+    const Region region = job.region;
+    const auto stripAt = [&](int x) { return region.x1 - x < stripWidth ? region.x1 - x : stripWidth; };
+    const Scratch scratch(buffer, bufferStep, region.x1 - region.x0, Strip<Sample>::lineLength(stripAt(region.x0)));
+    bandsAboveThreshold(region.x1 - region.x0, region.y1 - region.y0, scratch.lines() / lineCount,
+                        [&](int band, int first, int count) {
+                            const int y0 = region.y0 + first;
+                            for (int x = region.x0; x < region.x1; x += stripWidth)
+                                Strip<Sample>(job, scratch, band * lineCount, x, stripAt(x)).run(y0, y0 + count);
+                        });
+}
+
+} // namespace
+
+void myDemosaicAHD_8u_C1C3R(const uint8_t* src, ptrdiff_t srcStep, ZorSize size, Region region, uint8_t* dst,
+                            ptrdiff_t dstStep, ZorBayerGrid grid, void* scratch, ptrdiff_t scratchStep)
+{
+    demosaicAhd(Job<uint8_t>{src, srcStep, size, region, dst, dstStep, grid}, scratch, scratchStep);
+}
+
+void myDemosaicAHD_16u_C1C3R(const uint16_t* src, ptrdiff_t srcStep, ZorSize size, Region region, uint16_t* dst,
+                             ptrdiff_t dstStep, ZorBayerGrid grid, void* scratch, ptrdiff_t scratchStep)
+{
+    demosaicAhd(Job<uint16_t>{src, srcStep, size, region, dst, dstStep, grid}, scratch, scratchStep);
+}
+
+} // namespace zorcc::ZORCC_TIER
