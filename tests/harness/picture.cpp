@@ -29,6 +29,25 @@ Picture readPng(const std::string& path)
     return picture;
 }
 
+namespace {
+
+// A byte, in the range of the image's samples; packed bits take bytes.
+void put(Pixels& to, int channel, int x, int y, const interface::Format& format, int byte)
+{
+    switch (format.sample) {
+    case interface::Sample::u16:
+        return to.put(channel, x, y, format.layout == interface::Layout::packedBits ? byte : 257 * byte);
+    case interface::Sample::s16:
+        return to.put(channel, x, y, 257 * byte - 32768);
+    case interface::Sample::f32:
+        return to.putFloat(channel, x, y, static_cast<float>(byte) / 255);
+    default:
+        return to.put(channel, x, y, byte);
+    }
+}
+
+} // namespace
+
 void fill(TestImage& image, const Picture& picture)
 {
     Picture colours = picture;
@@ -45,7 +64,7 @@ void fill(TestImage& image, const Picture& picture)
     for (int y = 0; y < image.usedSize().height; ++y)
         for (int x = 0; x < image.usedSize().width; ++x)
             for (int c = 0; c < reference::channels; ++c)
-                if (to.has(c, x, y)) to.put(c, x, y, from.get(c, x, y));
+                if (to.has(c, x, y)) put(to, c, x, y, image.format(), from.get(c, x, y));
 }
 
 Clip readY4m(const std::string& path)

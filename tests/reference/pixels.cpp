@@ -112,6 +112,7 @@ int Pixels::get(int channel, int x, int y) const
 {
     const std::uint8_t* const sample = at(channel, x, y);
     if (sampleBytes == 1) return *sample;
+    if (sampleBytes > 2) throw std::logic_error("reference: not an integer sample");
     std::uint16_t word;
     std::memcpy(&word, sample, sizeof word);
     if (sampleType == Sample::s16) return static_cast<std::int16_t>(word);
@@ -122,6 +123,7 @@ int Pixels::get(int channel, int x, int y) const
 void Pixels::put(int channel, int x, int y, int value)
 {
     std::uint8_t* const sample = at(channel, x, y);
+    if (sampleBytes > 2) throw std::logic_error("reference: not an integer sample");
     if (sampleType == Sample::s16 && value >= -32768 && value <= 32767) {
         const auto word = static_cast<std::int16_t>(value);
         std::memcpy(sample, &word, sizeof word);
