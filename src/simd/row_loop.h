@@ -89,10 +89,11 @@ ZORCC_INLINE void convertImage(const Image<Source> from, const Formula formula, 
                                int count)
 {
     const int64_t pixels = static_cast<int64_t>(width) * count;
-    if (pixels <= INT32_MAX && isContiguous(from, width) && isContiguous(to, width))
-        convertRow(from[0], formula, to[0], static_cast<int>(pixels));
-    else
-        convertRows(from, formula, to, width, count);
+    if (pixels <= INT32_MAX && isContiguous(from, width) && isContiguous(to, width)) {
+        width = static_cast<int>(pixels);
+        count = 1;
+    }
+    convertRows(from, formula, to, width, count);
 }
 
 } // namespace
