@@ -588,8 +588,7 @@ ZOR_API ZorStatus zoriHLSToBGR_8u_P3R(const uint8_t* const pSrc[3], int srcStep,
                                       ZorSize roiSize);
 
 /*
- * ---- Bit-depth reduction
- * ---------------------------------------------------------------------------------------------
+ * ---- Bit-depth reduction -------------------------------------------------------------------------------------------
  *
  * Quantises the samples of a colour or grey image to `levels` equally spaced values from black to white, and converts
  * them to the destination's sample type (two types joined: source, destination). Black and white are 0 and 255 in 8u, 0

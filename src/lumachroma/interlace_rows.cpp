@@ -31,8 +31,7 @@ template <int a, int b, int shift> struct Mix {
 
 using Copy = Mix<8, 0, 3>;
 
-// ---- 4:2:2 to 4:2:0: of each field's row pair in four rows, the outer row counts 3, the inner 1
-// -----------------------
+// ---- 4:2:2 to 4:2:0: of each field's row pair in four rows, the outer row counts 3, the inner 1 --------------------
 
 // Calls mixed(formula, chroma row, upper 4:2:2 row), the lower one being two further down.
 template <class Mixed> void eachRowOf420(const GroupBand& band, Mixed mixed)
@@ -53,8 +52,7 @@ template <class Formula> struct UnpackMixed {
     }
 };
 
-// ---- 4:2:0 to 4:2:2: each row lies between two of its field, at eighths of their distance
-// ----------------------------
+// ---- 4:2:0 to 4:2:2: each row lies between two of its field, at eighths of their distance --------------------------
 
 // Calls mixed(formula, 4:2:2 row, upper, lower chroma row). Bands overlap by half a group: the first two rows and the
 // last two are copies, and four rows between them belong together.

@@ -68,8 +68,7 @@ void rgbFrom422(const Image<Source> ycc, const Formula formula, const Image<Dest
     }
 }
 
-// ---- 4:1:1: the last one to three pixels of a row share its last chroma sample, or 128 where there is none
-// ------------
+// ---- 4:1:1: the last one to three pixels of a row share its last chroma sample, or 128 where there is none ---------
 
 template <class Formula, class Destination>
 void rgbFrom411(const Image<Planar411<In>> ycc, const Formula formula, const Image<Destination> rgb, int width,
@@ -87,8 +86,7 @@ void rgbFrom411(const Image<Planar411<In>> ycc, const Formula formula, const Ima
     }
 }
 
-// ---- 4:2:0: whole 2 x 2 blocks
-// ----------------------------------------------------------------------------------------
+// ---- 4:2:0: whole 2 x 2 blocks -------------------------------------------------------------------------------------
 
 template <class Source, class Formula>
 void rgbTo420(const Image<Source> rgb, const Formula formula, uint8_t* const* dst, const PlaneSteps& dstStep, int width,

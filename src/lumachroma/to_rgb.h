@@ -49,8 +49,7 @@ private:
         s16v c[3];
     };
 
-    // ---- 4:4:4, from zipped bytes
-    // ------------------------------------------------------------------------------------
+    // ---- 4:4:4, from zipped bytes ----------------------------------------------------------------------------------
 
     static constexpr int yWhole = wholePart(k.y), yPart = signedPart(k.y);
     static_assert(yWhole == 1);
@@ -83,8 +82,7 @@ private:
         return times<whole>(v - 128) + ((s16v)weigh<w, constant>(yv, uv) >> 8);
     }
 
-    // ---- luma of weight 1
-    // -----------------------------------------------------------------------------------------------
+    // ---- luma of weight 1 ------------------------------------------------------------------------------------------
 
     // A channel is luma plus the floor of its chroma products.
     ZORCC_INLINE Triple offsets(u8v uv)
@@ -128,8 +126,7 @@ private:
         return rgb;
     }
 
-    // ---- shared chroma, luma scaled
-    // ------------------------------------------------------------------------------------
+    // ---- shared chroma, luma scaled --------------------------------------------------------------------------------
 
     // Luma and chroma products are 16.16 fixed point in two halves. Even and odd columns are apart, so that the chroma
     // of a pair of columns stands in the lane of both.

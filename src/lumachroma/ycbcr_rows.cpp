@@ -20,8 +20,7 @@ using PlanarInverse = YccToRgb<ycbcr::bt601PlanarToRgb>;
 using PackedInverse = YccToRgb<ycbcr::bt601PackedToRgb>;
 using Inverse411 = YccToRgb<ycbcr::bt601ToRgb411>;
 
-// ---- 4:2:0 with filtered chroma
-// -----------------------------------------------------------------------------------------
+// ---- 4:2:0 with filtered chroma ------------------------------------------------------------------------------------
 
 constexpr int tileChroma = 512; // chroma samples of a row that are upsampled at a time
 
