@@ -28,17 +28,18 @@ constexpr int placeOf(int column, Columns columns)
 // From two vectors that follow each other in memory.
 ZORCC_INLINE void toBlocks(const u8v (&memory)[2], u8v (&v)[2])
 {
-    for (int k = 0; k < 2; ++k) {
 #if defined(ZORCC_TIER_avx512)
-        const __m512i quads =
-            _mm512_setr_epi64(2 * k, 2 * k + 1, 4 + 2 * k, 5 + 2 * k, 8 + 2 * k, 9 + 2 * k, 12 + 2 * k, 13 + 2 * k);
-        v[k] = (u8v)_mm512_permutex2var_epi64(reg(memory[0]), quads, reg(memory[1]));
+    const __m512i even = _mm512_setr_epi64(0, 1, 4, 5, 8, 9, 12, 13),
+                  odd = _mm512_setr_epi64(2, 3, 6, 7, 10, 11, 14, 15);
+    v[0] = (u8v)_mm512_permutex2var_epi64(reg(memory[0]), even, reg(memory[1]));
+    v[1] = (u8v)_mm512_permutex2var_epi64(reg(memory[0]), odd, reg(memory[1]));
 #elif defined(ZORCC_TIER_avx2)
-        v[k] = (u8v)_mm256_permute2x128_si256(reg(memory[0]), reg(memory[1]), k == 0 ? 0x20 : 0x31);
+    v[0] = (u8v)_mm256_permute2x128_si256(reg(memory[0]), reg(memory[1]), 0x20);
+    v[1] = (u8v)_mm256_permute2x128_si256(reg(memory[0]), reg(memory[1]), 0x31);
 #else
-        v[k] = memory[k];
+    v[0] = memory[0];
+    v[1] = memory[1];
 #endif
-    }
 }
 
 template <int count> ZORCC_INLINE void loadBlocks(const uint8_t* p, u8v (&v)[count])
@@ -386,6 +387,14 @@ template <class V> ZORCC_INLINE void deinterleave4(const uint8_t* p, V (&channel
     for (int k = 0; k < 4; ++k) channel[k] = (V)v[k];
 }
 
+#if defined(ZORCC_TIER_avx512)
+// The bytes of the first three of every four samples.
+template <int size>
+inline constexpr __mmask64 firstThree = size == 1   ? 0x7777777777777777u
+                                        : size == 2 ? 0x3f3f3f3f3f3f3f3fu
+                                                    : 0x0fff0fff0fff0fffu;
+#endif
+
 // With keepFourth channel 3 is zero, and the fourth sample of every pixel stays as it is in memory.
 template <bool keepFourth, class V> ZORCC_INLINE void interleave4(uint8_t* p, const V (&channel)[4])
 {
@@ -393,12 +402,9 @@ template <bool keepFourth, class V> ZORCC_INLINE void interleave4(uint8_t* p, co
 #if defined(ZORCC_TIER_avx512)
     __m512i v[4] = {(__m512i)channel[0], (__m512i)channel[1], (__m512i)channel[2], (__m512i)channel[3]};
     transposeBlocks(v);
-    constexpr __mmask64 written = !keepFourth ? ~__mmask64{}
-                                  : size == 1 ? 0x7777777777777777u
-                                  : size == 2 ? 0x3f3f3f3f3f3f3f3fu
-                                              : 0x0fff0fff0fff0fffu;
     for (int k = 0; k < 4; ++k)
-        _mm512_mask_storeu_epi8(p + 64 * k, written, _mm512_permutexvar_epi8(reg(load(quarters<size>.scatter)), v[k]));
+        _mm512_mask_storeu_epi8(p + 64 * k, keepFourth ? firstThree<size> : ~__mmask64{},
+                                _mm512_permutexvar_epi8(reg(load(quarters<size>.scatter)), v[k]));
 #else
     using Pairs = Vec<std::conditional_t<size == 1, uint16_t, std::conditional_t<size == 2, uint32_t, uint64_t>>>;
     const Pairs low01 = (Pairs)zipLow(channel[0], channel[1]), low23 = (Pairs)zipLow(channel[2], channel[3]);

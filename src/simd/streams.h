@@ -201,8 +201,8 @@ private:
     // How many vectors the planes before p have.
     static constexpr int vectorsBefore(int p)
     {
-        int before = 0;
-        for (int q = 0; q < p; ++q) before += static_cast<int>(Streams::unit[q].offset(pixels) / vectorBytes);
+        int before = 0, q = 0;
+        ((before += q++ < p ? static_cast<int>(units.offset(pixels) / vectorBytes) : 0), ...);
         return before;
     }
 

@@ -105,7 +105,7 @@ Conversion findConversion(const Format& from, const Format& to, std::optional<in
 {
     const auto plain = rearrangementCost(from, to);
     const Function* found = nullptr;
-    int lowest = plain ? 2 * *plain : INT_MAX;
+    int lowest = plain ? 16 * *plain : INT_MAX;
     for (const Function& function : interface::functions()) {
         if (movesSamples(function) ? !isSameModel(from.model, to.model) || isVariant(function) : plain.has_value())
             continue;
