@@ -3,7 +3,7 @@
 set(ZORCC_TIERS ssse3 avx2 avx512)
 set(ZORCC_TIER_FLAGS_ssse3 -mssse3)
 set(ZORCC_TIER_FLAGS_avx2 -mavx2)
-set(ZORCC_TIER_FLAGS_avx512 -mavx512f -mavx512bw -mavx512dq -mavx512vl -mavx512vbmi -mavx512vnni)
+set(ZORCC_TIER_FLAGS_avx512 -mavx512f -mavx512bw -mavx512dq -mavx512vl -mavx512vbmi -mavx512vnni -mgfni)
 
 # Adds the row files to `target`, in one object library a tier.
 function(zorcc_add_tiers target)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Row drivers of the RGB and HLS conversions, compiled once for every tier.
-#include "colormodels/hls_formulas.h"
+#include "colormodels/hls_from_rgb.h"
+#include "colormodels/hls_to_rgb.h"
 #include "colormodels/interleaved_rows.h"
 
 namespace zorcc::ZORCC_TIER {

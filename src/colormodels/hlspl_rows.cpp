@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Row drivers of the BGR and HLS conversions from or to planes, compiled once for every tier.
-#include "colormodels/hls_formulas.h"
+#include "colormodels/hls_from_rgb.h"
+#include "colormodels/hls_to_rgb.h"
 #include "simd/alpha_along.h"
 #include "simd/layouts_444.h"
 #include "simd/threaded_rows.h"

@@ -3,6 +3,7 @@
 // operation in the order in which the model defines it, every division exact.
 #pragma once
 
+#include "colormodels/byte_hexcone.h"
 #include "colormodels/hexcone.h"
 #include "colormodels/ranges.h"
 
@@ -14,23 +15,33 @@ enum class Conversion { truncating, rounding };
 template <class Sample, Conversion conversion> struct RgbToHsv {
     using V = Vec<Sample>;
 
-    Samples<Sample> operator()(const Samples<Sample>& rgb) const
+    struct Prepared {
+        V most, chroma;
+        V fall; // the middle channel below the largest
+        V order;
+    };
+
+    Prepared prepare(const Samples<Sample>& rgb) const
     {
         const auto [r, g, b] = rgb.c[0];
         const Hexcone<Sample> cone(r, g, b);
+        return {cone.most, cone.chroma, cone.most - cone.middle, cone.order};
+    }
+
+    Samples<Sample> operator()(const Prepared& of) const
+    {
         const V one = V{} + 1;
-        const auto chroma = toFloat(widen(maximum(cone.chroma, one))), most = toFloat(widen(maximum(cone.most, one)));
+        const auto chroma = toFloat(widen(maximum(of.chroma, one))), most = toFloat(widen(maximum(of.most, one)));
         // Hue in sixths is 0, 2 or 4 by the largest channel, plus the distance of one of the others from it, less that
         // of the other, in units of chroma. The greater distance is 1. With the other one, q, that is (1, 3 or 5) - q
-        // in even sextants, and ((0, 2 or 4) + q) - 1 in odd ones.
-        const V fall = cone.most - cone.middle, even = ~lookUp(oddByOrder, cone.order);
-        const auto distance = scaleDifference<1>((fall ^ even) - even, even & (V)(fall != 0));
-        const auto start = lookUp(bySextant<float>(1, 2, 3, 4, 5, redRising), cone.order);
-        const auto correction = lookUp(bySextant<float>(0, -1, 0, -1, 0, redCorrection), cone.order);
+        // in even sextants, here the size of q less that, and ((0, 2 or 4) + q) - 1 in odd ones. Grey has a q of 0.
+        const auto distance = toFloat(widen(of.fall));
+        const auto start = lookUp(bySextant<float>(-1, 2, -3, 4, -5, redRising), of.order);
+        const auto correction = lookUp(bySextant<float>(0, -1, 0, -1, 0, redCorrection), of.order);
         Widened<partsOf<Sample>> h, s;
         for (int p = 0; p < partsOf<Sample>; ++p) {
             const f32v d = chroma.part[p];
-            const f32v sixths = start.part[p] + distance.part[p] / d + correction.part[p];
+            const f32v sixths = absolute(start.part[p] + distance.part[p] / d) + correction.part[p];
             const f32v hue = sixths * Range<Sample>::sextant;
             if constexpr (wraps)
                 h.part[p] = convert(hue < 0 ? hue + Range<Sample>::most : hue);
@@ -38,8 +49,7 @@ template <class Sample, Conversion conversion> struct RgbToHsv {
                 h.part[p] = convert(hue);
             s.part[p] = convert(d / most.part[p] * Range<Sample>::most);
         }
-        const V grey = (V)(cone.chroma == 0);
-        return {{{narrow<Sample>(h) & ~grey, narrow<Sample>(s) & ~grey, cone.most}}};
+        return {{{narrow<Sample>(h), narrow<Sample>(s) & ~(V)(of.chroma == 0), of.most}}};
     }
 
 private:
@@ -51,6 +61,26 @@ private:
 
     ZORCC_INLINE s32v convert(f32v v) { return conversion == Conversion::truncating ? truncate(v) : roundToEven(v); }
 };
+
+#if defined(ZORCC_TIER_avx512)
+template <> struct RgbToHsv<uint8_t, Conversion::truncating> {
+    Hexcone<uint8_t> prepare(const Samples<uint8_t>& rgb) const { return {rgb.c[0][0], rgb.c[0][1], rgb.c[0][2]}; }
+
+    Samples<uint8_t> operator()(const Hexcone<uint8_t>& cone) const
+    {
+        return {{{hueOf(cone, fallsShort), ratio(cone.chroma, cone.most), cone.most}}};
+    }
+
+private:
+    static constexpr FallsShort fallsShort{[](int sextant, int v, int d) {
+        const float distance = static_cast<float>(sextant % 2 ? v : d - v) / static_cast<float>(d);
+        const float sixths =
+            sextant % 2 ? static_cast<float>(sextant + 1) + distance - 1 : static_cast<float>(sextant) + 1 - distance;
+        const float hue = (sextant == 5 ? distance - 1 : sixths) * 42.5f;
+        return hue < 0 ? hue + 255 : hue;
+    }};
+};
+#endif
 
 template <class Sample> struct HsvToRgb {
     using V = Vec<Sample>;
@@ -73,24 +103,10 @@ template <class Sample> struct HsvToRgb {
             falling.part[p] = roundToEven(most - step);
             rising.part[p] = roundToEven(least + step);
         }
-        // The channel between rises in the even sextants and falls in the odd ones. Every channel is never below the
-        // lowest.
-        const V i = narrow<Sample>(sextant), bottom = narrow<Sample>(low);
+        // The channel between rises in the even sextants and falls in the odd ones.
+        const V i = narrow<Sample>(sextant);
         const V middle = select(lookUp(oddSextants, i), narrow<Sample>(falling), narrow<Sample>(rising));
-        const auto choose = [&](const Table<uint8_t>& isTop, const Table<uint8_t>& isMiddle) {
-            return maximum(maximum(lookUp(isTop, i) & v, lookUp(isMiddle, i) & middle), bottom);
-        };
-        return {{{choose(sextants(5, 0), sextants(1, 4)), choose(sextants(1, 2), sextants(0, 3)),
-                  choose(sextants(3, 4), sextants(2, 5))}}};
-    }
-
-private:
-    // The two as a mask.
-    static constexpr Table<uint8_t> sextants(int one, int other)
-    {
-        Table<uint8_t> table{};
-        table.of[one] = table.of[other] = 255;
-        return table;
+        return fromHexcone<Sample>(i, v, middle, narrow<Sample>(low));
     }
 };
 

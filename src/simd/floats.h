@@ -30,9 +30,27 @@ ZORCC_INLINE s32v roundToEven(f32v v) { return (s32v)ZORCC_MM(cvtps_epi32)(reg(v
 ZORCC_INLINE f32v minimum(f32v a, f32v b) { return (f32v)ZORCC_MM(min_ps)(reg(a), reg(b)); }
 ZORCC_INLINE f32v maximum(f32v a, f32v b) { return (f32v)ZORCC_MM(max_ps)(reg(a), reg(b)); }
 
+ZORCC_INLINE f32v absolute(f32v v) { return (f32v)((s32v)v & 0x7fffffff); }
+
 // Per lane: a where the mask (a comparison's answer: 0 or -1) is set, otherwise b.
 ZORCC_INLINE f32v select(s32v mask, f32v a, f32v b) { return mask ? a : b; }
 ZORCC_INLINE s32v select(s32v mask, s32v a, s32v b) { return mask ? a : b; }
+
+// v / divisor, rounded as a division does, for 60 and 360: v times the reciprocal in two parts, of which the second
+// makes up for what the first lacks, is the quotient for every significand. Quotients that are too small to have all
+// digits are rare.
+template <int divisor> ZORCC_INLINE f32v divideBy(f32v v)
+{
+    static_assert(divisor == 60 || divisor == 360);
+#if defined(ZORCC_TIER_avx512)
+    constexpr float most = static_cast<float>(1.0 / divisor), rest = static_cast<float>(1.0 / divisor - double{most});
+    constexpr int subnormal = 0x20;
+    const __m512 quotient = _mm512_fmadd_ps(reg(v), reg(fillFloat(most)), reg(v * rest));
+    if (!_mm512_fpclass_ps_mask(quotient, subnormal)) [[likely]]
+        return (f32v)quotient;
+#endif
+    return v / float{divisor};
+}
 
 // ---- from samples to 32 bits and back ------------------------------------------------------------------------------
 

@@ -206,7 +206,8 @@ ZORCC_INLINE void permuteThirds(const int32_t (&first)[3][16], const int32_t (&s
 
 ZORCC_INLINE void deinterleave3(const uint8_t* p, Vec<float> (&channel)[3])
 {
-    const __m512 v[3] = {_mm512_loadu_ps(p), _mm512_loadu_ps(p + 64), _mm512_loadu_ps(p + 128)};
+    __m512 v[3] = {_mm512_loadu_ps(p), _mm512_loadu_ps(p + 64), _mm512_loadu_ps(p + 128)};
+    for (__m512& loaded : v) asm("" : "+v"(loaded));
     __m512 to[3];
     permuteThirds(floatThirds.sort[0], floatThirds.sort[1], v, to);
     for (int c = 0; c < 3; ++c) channel[c] = (Vec<float>)to[c];
@@ -223,7 +224,8 @@ template <Columns columns> ZORCC_INLINE void interleave3(uint8_t* p, const Vec<f
 template <class V> ZORCC_INLINE void deinterleave3(const uint8_t* p, V (&channel)[3])
 {
     constexpr int size = sampleSize<V>;
-    const __m512i v[3] = {reg(load(p)), reg(load(p + 64)), reg(load(p + 128))};
+    __m512i v[3] = {reg(load(p)), reg(load(p + 64)), reg(load(p + 128))};
+    for (__m512i& loaded : v) asm("" : "+v"(loaded));
     for (int c = 0; c < 3; ++c)
         channel[c] = (V)_mm512_permutexvar_epi8(
             reg(load(thirds<size>.sort[c])),

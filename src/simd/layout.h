@@ -62,6 +62,22 @@ template <int rows> struct Subsampled {
     u8v chroma;
 };
 
+// Most formulas turn pixels into pixels; some work in two steps, what comes before their divisions and the rest.
+template <class Formula, class Loaded>
+concept worksInTwoSteps = requires(const Formula& formula, const Loaded& pixels)
+{
+    formula.prepare(pixels);
+};
+
+// What the formula is called with.
+template <class Formula, class Loaded> ZORCC_INLINE auto prepared(const Formula& formula, const Loaded& pixels)
+{
+    if constexpr (worksInTwoSteps<Formula, Loaded>)
+        return formula.prepare(pixels);
+    else
+        return pixels;
+}
+
 // ---- where the bytes are --------------------------------------------------------------------------------------------
 
 using In = const uint8_t;

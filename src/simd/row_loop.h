@@ -45,8 +45,28 @@ ZORCC_INLINE void convertShortRow(const Source from, const Formula formula, cons
 {
     const Stage<Source> source(from, width);
     const Stage<Destination> destination(to, width); // with what a store keeps
-    destination.row().store(0, formula(source.row().load(0)));
+    destination.row().store(0, formula(prepared(formula, source.row().load(0))));
     destination.copyTo(to, width);
+}
+
+// Converts `width` pixels, a multiple of a load's and at least one.
+template <class Source, class Formula, class Destination>
+ZORCC_INLINE void convertVectors(const Source from, const Formula formula, const Destination to, int width)
+{
+    constexpr int step = Source::pixelsAtOnce;
+    if constexpr (worksInTwoSteps<Formula, decltype(from.load(0))>) {
+        // The first step for the next vector stands before the second for this one, so that the processor, which does
+        // not look far ahead, finds work while divisions last.
+        auto next = formula.prepare(from.load(0));
+        for (int x = step; x < width; x += step) {
+            const auto current = next;
+            next = formula.prepare(from.load(x));
+            to.store(x - step, formula(current));
+        }
+        to.store(width - step, formula(next));
+    } else {
+        for (int x = 0; x < width; x += step) to.store(x, formula(from.load(x)));
+    }
 }
 
 // Converts `width` pixels, a multiple of the pixels that share a sample. Source and destination may be the same row of
@@ -56,14 +76,14 @@ ZORCC_INLINE void convertRow(const Source from, const Formula formula, const Des
 {
     constexpr int step = Source::pixelsAtOnce;
     static_assert(step == Destination::pixelsAtOnce);
-    if (width >= step && width % step == 0) {
-        for (int x = 0; x < width; x += step) to.store(x, formula(from.load(x)));
-    } else if (width >= step) {
-        const auto last = from.load(width - step);
-        for (int x = 0; x <= width - step; x += step) to.store(x, formula(from.load(x)));
+    if (width < step) {
+        if (width > 0) convertShortRow(from, formula, to, width);
+    } else if (width % step == 0) {
+        convertVectors(from, formula, to, width);
+    } else {
+        const auto last = prepared(formula, from.load(width - step));
+        convertVectors(from, formula, to, width - width % step);
         to.store(width - step, formula(last));
-    } else if (width > 0) {
-        convertShortRow(from, formula, to, width);
     }
 }
 

@@ -10,7 +10,7 @@ Tier bestTier()
     // These queries cover the operating system's side, too: whether it saves the wide registers.
     if (__builtin_cpu_supports("avx512f") && __builtin_cpu_supports("avx512bw") && __builtin_cpu_supports("avx512dq") &&
         __builtin_cpu_supports("avx512vl") && __builtin_cpu_supports("avx512vbmi") &&
-        __builtin_cpu_supports("avx512vnni"))
+        __builtin_cpu_supports("avx512vnni") && __builtin_cpu_supports("gfni"))
         return Tier::avx512;
     return __builtin_cpu_supports("avx2") ? Tier::avx2 : Tier::ssse3;
 }

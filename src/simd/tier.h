@@ -8,7 +8,7 @@ namespace zorcc {
 enum class Tier {
     ssse3, // 128 bits: what every processor that the library supports has
     avx2,  // 256 bits
-    avx512 // 512 bits: F, BW, DQ, VL, VBMI, VNNI
+    avx512 // 512 bits: F, BW, DQ, VL, VBMI, VNNI, GFNI
 };
 
 const char* nameOf(Tier tier);

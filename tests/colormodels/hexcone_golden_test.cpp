@@ -7,6 +7,7 @@
 #include <array>
 #include <cmath>
 #include <limits>
+#include <random>
 #include <vector>
 
 #include "tests/harness/tiers.h"
@@ -103,18 +104,45 @@ TEST(Golden, Words)
 
 TEST(Golden, Floats)
 {
-    const float epsilon = 1.1920929e-7f;
+    const float epsilon = 1.1920929e-7f, least = std::numeric_limits<float>::denorm_min();
     expectGolden<float>({
         {zoriRGBToHLS_32f_C3R, {1, 0, 0}, {0, 0.5f, 1}},
         {zoriRGBToHLS_32f_C3R, {0, 0, 1}, {240.0f / 360, 0.5f, 1}},
         {zoriRGBToHLS_32f_C3R, {0.75f, 0.25f, 0.5f}, {330.0f / 360, 0.5f, 0.5f}},
         {zoriRGBToHLS_32f_C3R, {epsilon, 0, 0}, {0, epsilon / 2, 0}}, // still grey
         {zoriRGBToHLS_32f_C3R, {2 * epsilon, 0, 0}, {0, epsilon, 1}},
+        // Hues of half and of one and a half times the least float are rounded to even.
+        {zoriRGBToHLS_32f_C3R, {1, 3 * least, 0}, {0, 0.5f, 1}},
+        {zoriRGBToHLS_32f_C3R, {1, 9 * least, 0}, {2 * least, 0.5f, 1}},
         {zoriHLSToRGB_32f_C3R, {0, 0.5f, 1}, {1, 0, 0}},
         {zoriHLSToRGB_32f_C3R, {1, 0.5f, 1}, {1, 0, 0}}, // 480 degrees for red are 120
         {zoriHLSToRGB_32f_C3R, {0.3f, 0.7f, 0}, {0.7f, 0.7f, 0.7f}},
         {zoriHLSToRGB_32f_C3R, {0.5f, 0.25f, 0.5f}, {0.125f, 0.375f, 0.375f}},
     });
+}
+
+// Colours outside the range, as wide gamuts and overshoots have them, and back.
+TEST(Floats, SameOnEveryTierOutsideTheRange)
+{
+    std::mt19937 random(5);
+    std::uniform_real_distribution<float> value(-2, 3);
+    std::vector<Colour<float>> colours(5000);
+    for (Colour<float>& colour : colours)
+        for (float& channel : colour) channel = value(random);
+    std::vector<std::vector<Colour<float>>> results;
+    for (const Tier tier : tiersHere()) {
+        const OnTier chosen(tier);
+        const auto hls = convert<float>(zoriRGBToHLS_32f_C3R, colours);
+        const auto rgb = convert<float>(zoriHLSToRGB_32f_C3R, hls);
+        for (const auto& result : {hls, rgb}) results.push_back(result);
+        EXPECT_EQ(results[results.size() - 2], results[0]) << nameOf(tier);
+        EXPECT_EQ(results.back(), results[1]) << nameOf(tier);
+        for (std::size_t i = 0; i < colours.size(); ++i) {
+            if (std::abs(hls[i][2]) > 100) continue; // a sum near 0 or 2 has lost the digits
+            for (std::size_t c = 0; c < 3; ++c)
+                ASSERT_NEAR(rgb[i][c], colours[i][c], 2e-4f) << nameOf(tier) << ", colour " << i;
+        }
+    }
 }
 
 // What is no number stays in its pixel.

@@ -1,0 +1,121 @@
+// SPDX-License-Identifier: MIT
+// Hue and saturation of bytes without floats and without divisions, for the tier that shifts and looks up bytes. All of
+// a vector's bytes at once: the divisor and what is divided are both doubled until the divisor is in 128..255, and the
+// product with the reciprocal of that, from a table, is exact.
+#pragma once
+
+#include "colormodels/hexcone.h"
+
+#if defined(ZORCC_TIER_avx512)
+namespace zorcc::ZORCC_TIER {
+namespace {
+
+// A word for every byte from 128 to 255, as two tables of bytes.
+struct WordsByByte {
+    alignas(64) uint8_t low[128], high[128];
+
+    template <class Word> constexpr explicit WordsByByte(Word word) : low{}, high{}
+    {
+        for (int i = 0; i < 128; ++i) {
+            low[i] = static_cast<uint8_t>(word(128 + i) & 0xff);
+            high[i] = static_cast<uint8_t>(word(128 + i) >> 8);
+        }
+    }
+};
+
+constexpr int quotientUp(int a, int b) { return (a + b - 1) / b; }
+
+// Bits 16 to 31 of x times 65536 a / b, rounded up, are x a / b, rounded down: for x and b up to 255 the error of less
+// than x / 65536 is less than what any fraction with the denominator b lacks to the next integer.
+constexpr WordsByByte in85ths{[](int divisor) { return quotientUp(65536 * 85, divisor); }};
+constexpr WordsByByte beyondOne{[](int divisor) { return quotientUp(65536 * (255 - divisor), divisor); }};
+
+// Bytes to divide by, 0 too: whatever is divided by it is 0 then.
+class Divisors {
+public:
+    [[gnu::always_inline]] explicit Divisors(u8v divisor)
+    {
+        const u8v mirrored = (u8v)_mm512_gf2p8affine_epi64_epi8(reg(divisor), _mm512_set1_epi64(0x8040201008040201), 0);
+        scale = mirrored & -mirrored; // the lowest bit set mirrors the highest
+        index = scaled(divisor);
+        upper = _mm512_test_epi8_mask(reg(index), reg(fill8(64)));
+    }
+
+    // What is divided, not above the divisor, times the same power of two.
+    u8v scaled(u8v v) const { return (u8v)_mm512_gf2p8mul_epi8(reg(v), reg(scale)); }
+
+    // 16 bits before the point and 16 behind it, of which the first 16 are kept: of v, a word for each byte in zip
+    // order, times the divisor's word.
+    void multiply(u16v (&v)[2], const WordsByByte& words) const
+    {
+        const u8v low = lookUp(words.low), high = lookUp(words.high);
+        v[0] = mulHigh(v[0], (u16v)zipLow(low, high));
+        v[1] = mulHigh(v[1], (u16v)zipHigh(low, high));
+    }
+
+private:
+    u8v lookUp(const uint8_t (&table)[128]) const
+    {
+        const __m512i lower = _mm512_permutexvar_epi8(reg(index), reg(load(table)));
+        return (u8v)_mm512_mask_permutexvar_epi8(lower, upper, reg(index), reg(load(table + 64)));
+    }
+
+    u8v scale, index;
+    __mmask64 upper;
+};
+
+// 255 v / divisor, rounded down.
+ZORCC_INLINE u8v ratio(u8v v, u8v divisor)
+{
+    const Divisors by(divisor);
+    const u8v scaled = by.scaled(v), none = {};
+    u16v rest[2] = {(u16v)zipLow(scaled, none), (u16v)zipHigh(scaled, none)};
+    by.multiply(rest, beyondOne);
+    return scaled + packUnsigned((s16v)rest[0], (s16v)rest[1]);
+}
+
+// Where the model's own floats come out below the next byte although the exact hue is that byte. It can be only where
+// the hue is a multiple of 1/85 of a sextant, and is the same for all colours of that hue. By half of the 85ths, those
+// of even sextants rounded down, those of odd ones up: a bit for every sextant.
+struct FallsShort {
+    alignas(64) uint8_t sextants[64];
+
+    // `hue(sextant, v, d)`: the model's hue of v / d of a sextant, 0 to 255.
+    template <class Hue> constexpr explicit FallsShort(Hue hue) : sextants{}
+    {
+        for (int s = 0; s < 6; ++s)
+            for (int v = s % 2; v <= 85; v += 2)
+                if (static_cast<int>(hue(s, v, 85)) < (85 * s + v) / 2)
+                    sextants[(v + 1) / 2] = static_cast<uint8_t>(sextants[(v + 1) / 2] | 1 << s);
+    }
+};
+
+// The hue of the sextant and of the share of it, v / chroma, rounded down to a byte.
+ZORCC_INLINE u8v hueOf(const Hexcone<uint8_t>& cone, const FallsShort& fallsShort)
+{
+    const u8v even = ~lookUp(oddByOrder, cone.order);
+    const u8v v = select(even, cone.middle - cone.least, cone.most - cone.middle);
+    const Divisors by(cone.chroma);
+    const u8v scaled = by.scaled(v), none = {};
+    // Of 256 v, so that the result has eight bits behind the point. They are zero where v / chroma is a multiple of
+    // 1/85: the error is below one in 256 and other quotients are further than that from the integer below.
+    u16v share[2] = {(u16v)zipLow(none, scaled), (u16v)zipHigh(none, scaled)};
+    by.multiply(share, in85ths);
+    const u8v whole = packUnsigned((s16v)(share[0] >> 8), (s16v)(share[1] >> 8)),
+              fraction = packUnsigned((s16v)(share[0] & 0xff), (s16v)(share[1] & 0xff));
+    // Half of (85 sextant + whole): an odd sextant leaves a half, which rounds up. In even ones the average is 128
+    // more.
+    const u8v half = averageUp(whole, even);
+    const u8v hue = half + lookUp(bySextant<uint8_t>(128, 42, 128 + 85, 127, 128 + 170 - 256, 212, 128), cone.order);
+
+    const u8v candidates = (u8v)_mm512_permutexvar_epi8(reg(half), reg(load(fallsShort.sextants)));
+    const u8v sextant = lookUp(bySextant<uint8_t>(1, 2, 4, 8, 16, 32), cone.order);
+    __mmask64 less = _mm512_testn_epi8_mask(reg(fraction), reg(fraction));
+    less = _mm512_mask_test_epi8_mask(less, reg(candidates), reg(sextant));
+    less = _mm512_mask_test_epi8_mask(less, reg(whole ^ even), reg(fill8(1)));
+    return (u8v)_mm512_mask_sub_epi8(reg(hue), less, reg(hue), reg(fill8(1)));
+}
+
+} // namespace
+} // namespace zorcc::ZORCC_TIER
+#endif
