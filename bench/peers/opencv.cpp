@@ -49,6 +49,10 @@ cv::Mat matrix(const Format& format, const Image& image, ZorSize size)
             static_cast<size_t>(image.step[0])};
 }
 
+void useEverything() { cv::setUseOptimized(true); }
+// Debian's build takes no more than SSE3 for granted.
+void useSSE3Only() { cv::setUseOptimized(false); }
+
 } // namespace
 
 Library openCV()
@@ -61,7 +65,9 @@ Library openCV()
             const cv::Mat to = matrix(*job.function.destination, job.destination, job.size);
             return [=] { cv::cvtColor(from, to, code); };
         };
-        library.peers.push_back({row.function, std::string("OpenCV ") + row.name, prepare});
+        const std::string name = std::string("OpenCV ") + row.name;
+        library.peers.push_back({row.function, name, prepare, useEverything, false});
+        library.peers.push_back({row.function, name + ", SSE3 only", prepare, useSSE3Only, true});
     }
     return library;
 }
