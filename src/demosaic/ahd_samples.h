@@ -4,7 +4,7 @@
 
 #include "demosaic/mosaic.h"
 #include "simd/floats.h"
-#include "simd/interleave16.h"
+#include "simd/interleave.h"
 
 namespace zorcc::ZORCC_TIER {
 namespace {
@@ -69,14 +69,12 @@ template <class V> ZORCC_INLINE V loadRounded(const float* p)
     }
 }
 
-ZORCC_INLINE void storeRgb(uint8_t* p, const u8v (&rgb)[3]) { interleave3<Columns::inOrder>(p, rgb); }
-ZORCC_INLINE void storeRgb(uint16_t* p, const u16v (&rgb)[3]) { interleave3(p, rgb); }
-
 // Pixels i .. i + vectorBytes / sizeof(Sample) - 1 from a line for each channel.
 template <class Sample> ZORCC_INLINE void storeVector(const float* const (&channel)[3], int i, Sample* dst)
 {
-    using V = Vec<Sample>;
-    storeRgb(dst, {loadRounded<V>(channel[0] + i), loadRounded<V>(channel[1] + i), loadRounded<V>(channel[2] + i)});
+    Vec<Sample> rgb[3];
+    for (int c = 0; c < 3; ++c) rgb[c] = loadRounded<Vec<Sample>>(channel[c] + i);
+    interleave3<Columns::inOrder>((uint8_t*)dst, rgb);
 }
 
 // The first `count` pixels. What lies behind them in the lines is not read: there may be no memory for a vector.
