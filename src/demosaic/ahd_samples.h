@@ -3,33 +3,11 @@
 #pragma once
 
 #include "demosaic/mosaic.h"
-#include "simd/floats.h"
 #include "simd/interleave.h"
+#include "simd/widening_loads.h"
 
 namespace zorcc::ZORCC_TIER {
 namespace {
-
-ZORCC_INLINE f32v loadFloats(const uint8_t* p)
-{
-#if defined(ZORCC_TIER_avx512)
-    return toFloat((s32v)_mm512_cvtepu8_epi32(_mm_loadu_si128((const __m128i*)p)));
-#elif defined(ZORCC_TIER_avx2)
-    return toFloat((s32v)_mm256_cvtepu8_epi32(_mm_loadl_epi64((const __m128i*)p)));
-#else
-    const __m128i zero = _mm_setzero_si128();
-    return toFloat((s32v)_mm_unpacklo_epi16(_mm_unpacklo_epi8(_mm_loadu_si32(p), zero), zero));
-#endif
-}
-ZORCC_INLINE f32v loadFloats(const uint16_t* p)
-{
-#if defined(ZORCC_TIER_avx512)
-    return toFloat((s32v)_mm512_cvtepu16_epi32(_mm256_loadu_si256((const __m256i*)p)));
-#elif defined(ZORCC_TIER_avx2)
-    return toFloat((s32v)_mm256_cvtepu16_epi32(_mm_loadu_si128((const __m128i*)p)));
-#else
-    return toFloat((s32v)_mm_unpacklo_epi16(_mm_loadl_epi64((const __m128i*)p), _mm_setzero_si128()));
-#endif
-}
 
 // `count` samples of a row of `width`, from column x on, which like the last may lie outside.
 template <class Sample> void loadLine(const Sample* row, int width, int x, int count, float* line)
@@ -37,7 +15,7 @@ template <class Sample> void loadLine(const Sample* row, int width, int x, int c
     int i = 0;
     for (; i < count && x + i < 0; ++i) line[i] = row[mirrored(x + i, width)];
     for (; i <= count - floatsPerVector && x + i <= width - floatsPerVector; i += floatsPerVector)
-        store(line + i, loadFloats(row + x + i));
+        store(line + i, toFloat(loadIntegers(row + x + i)));
     for (; i < count; ++i) line[i] = row[mirrored(x + i, width)];
 }
 
