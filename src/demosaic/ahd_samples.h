@@ -36,14 +36,7 @@ template <class V> ZORCC_INLINE V loadRounded(const float* p)
         return v;
 #endif
     } else {
-        const u16v v = narrowToU16({{rounded(p), rounded(p + n)}});
-#if defined(ZORCC_TIER_avx512)
-        return (u16v)_mm512_permutexvar_epi64(_mm512_setr_epi64(0, 2, 4, 6, 1, 3, 5, 7), reg(v));
-#elif defined(ZORCC_TIER_avx2)
-        return (u16v)_mm256_permute4x64_epi64(reg(v), 0xd8);
-#else
-        return v;
-#endif
+        return orderHalves(narrowToU16({{rounded(p), rounded(p + n)}}));
     }
 }
 

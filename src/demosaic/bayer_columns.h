@@ -8,30 +8,11 @@
 namespace zorcc::ZORCC_TIER {
 namespace {
 
-// Per block: the elements of even places, then those of odd places.
-ZORCC_INLINE u8v unzipBlocks(u8v v) { return unzipHalves(v); }
-ZORCC_INLINE u16v unzipBlocks(u16v v)
-{
-    return (u16v)shuffle((u8v)v, fillBlock(_mm_setr_epi8(0, 1, 4, 5, 8, 9, 12, 13, 2, 3, 6, 7, 10, 11, 14, 15)));
-}
-
-// Lower halves of all blocks, then upper halves.
-ZORCC_INLINE u64v orderHalves(u64v v)
-{
-#if defined(ZORCC_TIER_avx512)
-    return (u64v)_mm512_permutexvar_epi64(_mm512_setr_epi64(0, 2, 4, 6, 1, 3, 5, 7), reg(v));
-#elif defined(ZORCC_TIER_avx2)
-    return (u64v)_mm256_permute4x64_epi64(reg(v), 0xd8);
-#else
-    return v;
-#endif
-}
-
 // Two vectors of samples to one of every other column each.
 template <class Sample> ZORCC_INLINE void splitColumns(const Sample* p, Sample* first, Sample* second)
 {
     using V = Vec<Sample>;
-    const u64v a = (u64v)unzipBlocks(load<V>(p)), b = (u64v)unzipBlocks(load<V>(p + vectorBytes / sizeof(Sample)));
+    const u64v a = (u64v)unzipHalves(load<V>(p)), b = (u64v)unzipHalves(load<V>(p + vectorBytes / sizeof(Sample)));
     store(first, orderHalves(zipLow(a, b)));
     store(second, orderHalves(zipHigh(a, b)));
 }

@@ -122,15 +122,15 @@ ZORCC_INLINE u8v loadQuarters(const uint8_t* low, const uint8_t* high)
 
 ZORCC_INLINE void storeHalves(uint8_t* low, uint8_t* high, u8v v)
 {
+    const Register both = reg(orderHalves(v));
 #if defined(ZORCC_TIER_avx512)
-    const __m512i both = _mm512_permutexvar_epi64(_mm512_setr_epi64(0, 2, 4, 6, 1, 3, 5, 7), reg(v));
     _mm256_storeu_si256((__m256i*)low, _mm512_castsi512_si256(both));
     _mm256_storeu_si256((__m256i*)high, _mm512_extracti64x4_epi64(both, 1));
 #elif defined(ZORCC_TIER_avx2)
-    _mm256_storeu2_m128i((__m128i*)high, (__m128i*)low, _mm256_permute4x64_epi64(reg(v), 0xd8));
+    _mm256_storeu2_m128i((__m128i*)high, (__m128i*)low, both);
 #else
-    _mm_storel_epi64((__m128i*)low, reg(v));
-    _mm_storel_epi64((__m128i*)high, _mm_unpackhi_epi64(reg(v), reg(v)));
+    _mm_storel_epi64((__m128i*)low, both);
+    _mm_storel_epi64((__m128i*)high, _mm_unpackhi_epi64(both, both));
 #endif
 }
 
@@ -140,9 +140,15 @@ ZORCC_INLINE u8v zipHalves(u8v v)
     return shuffle(v, fillBlock(_mm_setr_epi8(0, 8, 1, 9, 2, 10, 3, 11, 4, 12, 5, 13, 6, 14, 7, 15)));
 }
 
+// Per block: the elements of even places, then those of odd places.
 ZORCC_INLINE u8v unzipHalves(u8v v)
 {
     return shuffle(v, fillBlock(_mm_setr_epi8(0, 2, 4, 6, 8, 10, 12, 14, 1, 3, 5, 7, 9, 11, 13, 15)));
+}
+
+ZORCC_INLINE u16v unzipHalves(u16v v)
+{
+    return (u16v)shuffle((u8v)v, fillBlock(_mm_setr_epi8(0, 1, 4, 5, 8, 9, 12, 13, 2, 3, 6, 7, 10, 11, 14, 15)));
 }
 
 // ---- three channels -------------------------------------------------------------------------------------------------
