@@ -25,7 +25,7 @@ constexpr Case planar420{"zoriRGBToYUV420_8u_C3P3R", reference::rgbToYuvBlocksQ1
 constexpr Case toInterleaved{"zoriYUV420ToRGB_8u_P3C3R", reference::subsampledYuvToRgb, OddSize::warning};
 
 // A function of the library with another body.
-Function withBody(const Case& c, ZorStatus (*body)(interface::Call&))
+Function withBody(const Case& c, ZorStatus (*body)(const interface::Call&))
 {
     Function function = *interface::findFunction(c.name);
     function.bound = body;
