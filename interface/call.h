@@ -27,12 +27,11 @@ struct Image {
     int step[maxPlanes] = {};
 };
 
-// The arguments of a call; images and extras outlive it.
+// The arguments of a call.
 struct Call {
-    const Image& source;
-    const Image& destination;
+    Image source, destination;
     ZorSize size;
-    const Extra& extra;
+    Extra extra;
     bool nullArrays[2] = {}; // pass a null array of planes for the source, the destination
 };
 
@@ -128,7 +127,7 @@ template <auto function> struct Bound;
 template <class... T, ZorStatus (*function)(T...)> struct Bound<function> {
     static ZorStatus call(const Call& call) { return bind(call)(); }
 
-    // The call as it stands, to be made as often as wanted without converting arguments again.
+    // The call, to be made as often as wanted without converting arguments again. It outlives what this gives.
     static std::function<ZorStatus()> prepare(const Call& call) { return bind(call); }
 
     static constexpr Signature signature()

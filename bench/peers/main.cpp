@@ -51,9 +51,8 @@ Result compare(const Function& function, const Variant& variant, ZorSize size, c
     const Buffer copySource(copyBytes), copyDestination(copyBytes);
     const Job job{function, source.image, destination.image, size, variant.arguments};
 
-    const interface::Extra extra = function.withScratch(variant.arguments, size);
     const interface::Call call {
-        source.image, destination.image, size, extra
+        source.image, destination.image, size, function.withScratch(variant.arguments, size)
     };
     std::vector<Runner> runners;
     for (const auto& [name, tier] : tiersHere())
