@@ -115,9 +115,10 @@ template <class T, Parameter p, class Extras> auto argument(const Call& call)
     if constexpr (p.takes == Takes::planes) return PlaneArray<T>(image, call.nullArrays[p.ofDestination]);
     if constexpr (p.takes == Takes::step) return image.step[p.number];
     if constexpr (p.takes == Takes::steps) return static_cast<T>(image.step);
-    if constexpr (p.takes == Takes::region) return ZorRect{0, 0, call.size.width, call.size.height}; // all of the image
+    if constexpr (p.takes == Takes::region)
+        return call.extra.region.value_or(ZorRect{0, 0, call.size.width, call.size.height});
     if constexpr (p.takes == Takes::size) return call.size;
-    if constexpr (p.takes == Takes::extra) return static_cast<T>(call.extra.*std::get<p.number>(membersOf(Extras{})));
+    if constexpr (p.takes == Takes::extra) return call.extra.*std::get<p.number>(membersOf(Extras{}));
 }
 
 // ---- functions ------------------------------------------------------------------------------------------------------
@@ -161,7 +162,8 @@ private:
         return [&]<std::size_t... i>(std::index_sequence<i...>)
         {
             return [arguments = std::tuple{argument<T, parameters[i], Taken>(call)...}] {
-                return std::apply([](const auto&... argument) { return function(argument...); }, arguments);
+                return std::apply([](const auto&... argument) { return function(static_cast<T>(argument)...); },
+                                  arguments);
             };
         }
         (std::index_sequence_for<T...>{});

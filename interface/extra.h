@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <tuple>
 #include <type_traits>
 
@@ -16,8 +17,9 @@ struct Extra {
     int noise = 0;  // of a bit-depth reduction
     int levels = 16;
     ZorDitherMethod method = zorDitherMethodNone;
-    ZorBayerGrid grid = zorBayerRGGB;
+    int grid = zorBayerRGGB; // as a number, which may be one that the type does not name
     int interpolation = 0;
+    std::optional<ZorRect> region = std::nullopt; // of the source; all of it if there is none
     void* scratch = nullptr;
     int scratchStep = 0;
 };
