@@ -64,17 +64,16 @@ constexpr Table table = makeTable();
 
 } // namespace
 
-Image Function::withScratch(const Image& to, ZorSize size) const
+Extra Function::withScratch(Extra extra, ZorSize size) const
 {
-    Image result = to;
     if (signature.scratch) { // what the demosaicing functions ask for
         thread_local std::vector<std::uint8_t> memory;
         constexpr int rows = 64;
-        result.step[1] = 32 * (size.width + 32);
-        memory.resize(std::max(memory.size(), static_cast<std::size_t>(rows) * result.step[1]));
-        result.plane[1] = memory.data();
+        extra.scratchStep = 32 * (size.width + 32);
+        memory.resize(std::max(memory.size(), static_cast<std::size_t>(rows) * extra.scratchStep));
+        extra.scratch = memory.data();
     }
-    return result;
+    return extra;
 }
 
 std::span<const Function> functions() { return table.entry; }

@@ -19,19 +19,17 @@ struct Function {
     const Format* destination;
     Alpha alpha;
     Signature signature;
-    ZorStatus (*bound)(Call&);
-    std::function<ZorStatus()> (*prepare)(Call&);
+    ZorStatus (*bound)(const Call&);
+    std::function<ZorStatus()> (*prepare)(const Call&);
 
     ZorStatus operator()(const Image& from, const Image& to, ZorSize size, const Extra& extra = {}) const
     {
-        const Image result = withScratch(to, size);
-        Call call{from, result, size, extra};
-        return bound(call);
+        return bound({from, to, size, withScratch(extra, size)});
     }
 
-    // The destination with scratch memory as its plane 1, where the function takes some. The memory belongs to the
-    // calling thread and is good until its next call for a larger size.
-    Image withScratch(const Image& to, ZorSize size) const;
+    // With scratch memory where the function takes some. It belongs to the calling thread and is good until the
+    // thread's next call for a larger size.
+    Extra withScratch(Extra extra, ZorSize size) const;
 };
 
 std::span<const Function> functions();

@@ -51,14 +51,12 @@ Result compare(const Function& function, const Variant& variant, ZorSize size, c
     const Buffer copySource(copyBytes), copyDestination(copyBytes);
     const Job job{function, source.image, destination.image, size, variant.arguments};
 
-    const interface::Image to = function.withScratch(destination.image, size);
+    const interface::Call call {
+        source.image, destination.image, size, function.withScratch(variant.arguments, size)
+    };
     std::vector<Runner> runners;
-    for (const auto& [name, tier] : tiersHere()) {
-        interface::Call call {
-            source.image, to, size, variant.arguments
-        };
+    for (const auto& [name, tier] : tiersHere())
         runners.push_back({name, [t = tier] { setActiveTier(t); }, function.prepare(call)});
-    }
     runners.push_back({"memcpy", {}, [&] { std::memcpy(copyDestination.data(), copySource.data(), copyBytes); }});
     for (const Peer* peer : peers) runners.push_back({peer->name, peer->select, peer->prepare(job)});
     race(runners, seconds);

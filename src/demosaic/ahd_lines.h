@@ -3,7 +3,7 @@
 // computed beyond its ends is not used.
 #pragma once
 
-#include "simd/floats.h"
+#include "simd/neighbours.h"
 
 namespace zorcc::ZORCC_TIER {
 namespace {
@@ -16,32 +16,6 @@ ZORCC_INLINE f32v at(const float* p, int i) { return load<f32v>(p + i); }
 template <class Body> ZORCC_INLINE void alongLine(int length, Body body)
 {
     for (int i = 0; i < length; i += floatsPerVector) body(i);
-}
-
-// Each element's left neighbour; `before` is the vector before.
-ZORCC_INLINE f32v leftOf(f32v before, f32v here)
-{
-#if defined(ZORCC_TIER_avx512)
-    return (f32v)_mm512_alignr_epi32((Register)here, (Register)before, 15);
-#elif defined(ZORCC_TIER_avx2)
-    const Register middle = _mm256_permute2x128_si256((Register)before, (Register)here, 0x21);
-    return (f32v)_mm256_alignr_epi8((Register)here, middle, 12);
-#else
-    return (f32v)_mm_alignr_epi8((Register)here, (Register)before, 12);
-#endif
-}
-
-// Each element's right neighbour; `behind` is the vector behind.
-ZORCC_INLINE f32v rightOf(f32v here, f32v behind)
-{
-#if defined(ZORCC_TIER_avx512)
-    return (f32v)_mm512_alignr_epi32((Register)behind, (Register)here, 1);
-#elif defined(ZORCC_TIER_avx2)
-    const Register middle = _mm256_permute2x128_si256((Register)here, (Register)behind, 0x21);
-    return (f32v)_mm256_alignr_epi8(middle, (Register)here, 4);
-#else
-    return (f32v)_mm_alignr_epi8((Register)behind, (Register)here, 4);
-#endif
 }
 
 template <int count> struct Values {

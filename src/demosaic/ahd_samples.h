@@ -3,33 +3,11 @@
 #pragma once
 
 #include "demosaic/mosaic.h"
-#include "simd/floats.h"
-#include "simd/interleave16.h"
+#include "simd/interleave.h"
+#include "simd/widening_loads.h"
 
 namespace zorcc::ZORCC_TIER {
 namespace {
-
-ZORCC_INLINE f32v loadFloats(const uint8_t* p)
-{
-#if defined(ZORCC_TIER_avx512)
-    return toFloat((s32v)_mm512_cvtepu8_epi32(_mm_loadu_si128((const __m128i*)p)));
-#elif defined(ZORCC_TIER_avx2)
-    return toFloat((s32v)_mm256_cvtepu8_epi32(_mm_loadl_epi64((const __m128i*)p)));
-#else
-    const __m128i zero = _mm_setzero_si128();
-    return toFloat((s32v)_mm_unpacklo_epi16(_mm_unpacklo_epi8(_mm_loadu_si32(p), zero), zero));
-#endif
-}
-ZORCC_INLINE f32v loadFloats(const uint16_t* p)
-{
-#if defined(ZORCC_TIER_avx512)
-    return toFloat((s32v)_mm512_cvtepu16_epi32(_mm256_loadu_si256((const __m256i*)p)));
-#elif defined(ZORCC_TIER_avx2)
-    return toFloat((s32v)_mm256_cvtepu16_epi32(_mm_loadu_si128((const __m128i*)p)));
-#else
-    return toFloat((s32v)_mm_unpacklo_epi16(_mm_loadl_epi64((const __m128i*)p), _mm_setzero_si128()));
-#endif
-}
 
 // `count` samples of a row of `width`, from column x on, which like the last may lie outside.
 template <class Sample> void loadLine(const Sample* row, int width, int x, int count, float* line)
@@ -37,7 +15,7 @@ template <class Sample> void loadLine(const Sample* row, int width, int x, int c
     int i = 0;
     for (; i < count && x + i < 0; ++i) line[i] = row[mirrored(x + i, width)];
     for (; i <= count - floatsPerVector && x + i <= width - floatsPerVector; i += floatsPerVector)
-        store(line + i, loadFloats(row + x + i));
+        store(line + i, toFloat(loadIntegers(row + x + i)));
     for (; i < count; ++i) line[i] = row[mirrored(x + i, width)];
 }
 
@@ -58,25 +36,16 @@ template <class V> ZORCC_INLINE V loadRounded(const float* p)
         return v;
 #endif
     } else {
-        const u16v v = narrowToU16({{rounded(p), rounded(p + n)}});
-#if defined(ZORCC_TIER_avx512)
-        return (u16v)_mm512_permutexvar_epi64(_mm512_setr_epi64(0, 2, 4, 6, 1, 3, 5, 7), reg(v));
-#elif defined(ZORCC_TIER_avx2)
-        return (u16v)_mm256_permute4x64_epi64(reg(v), 0xd8);
-#else
-        return v;
-#endif
+        return orderHalves(narrowToU16({{rounded(p), rounded(p + n)}}));
     }
 }
-
-ZORCC_INLINE void storeRgb(uint8_t* p, const u8v (&rgb)[3]) { interleave3<Columns::inOrder>(p, rgb); }
-ZORCC_INLINE void storeRgb(uint16_t* p, const u16v (&rgb)[3]) { interleave3(p, rgb); }
 
 // Pixels i .. i + vectorBytes / sizeof(Sample) - 1 from a line for each channel.
 template <class Sample> ZORCC_INLINE void storeVector(const float* const (&channel)[3], int i, Sample* dst)
 {
-    using V = Vec<Sample>;
-    storeRgb(dst, {loadRounded<V>(channel[0] + i), loadRounded<V>(channel[1] + i), loadRounded<V>(channel[2] + i)});
+    Vec<Sample> rgb[3];
+    for (int c = 0; c < 3; ++c) rgb[c] = loadRounded<Vec<Sample>>(channel[c] + i);
+    interleave3<Columns::inOrder>((uint8_t*)dst, rgb);
 }
 
 // The first `count` pixels. What lies behind them in the lines is not read: there may be no memory for a vector.

@@ -3,66 +3,47 @@
 // to memory. In planes the sites of a mosaic fill whole vectors.
 #pragma once
 
-#include "simd/interleave16.h"
+#include "simd/interleave.h"
 
 namespace zorcc::ZORCC_TIER {
 namespace {
-
-// Per block: the elements of even places, then those of odd places.
-ZORCC_INLINE u8v unzipBlocks(u8v v) { return unzipHalves(v); }
-ZORCC_INLINE u16v unzipBlocks(u16v v)
-{
-    return (u16v)shuffle((u8v)v, fillBlock(_mm_setr_epi8(0, 1, 4, 5, 8, 9, 12, 13, 2, 3, 6, 7, 10, 11, 14, 15)));
-}
-
-// Lower halves of all blocks, then upper halves.
-ZORCC_INLINE u64v orderHalves(u64v v)
-{
-#if defined(ZORCC_TIER_avx512)
-    return (u64v)_mm512_permutexvar_epi64(_mm512_setr_epi64(0, 2, 4, 6, 1, 3, 5, 7), reg(v));
-#elif defined(ZORCC_TIER_avx2)
-    return (u64v)_mm256_permute4x64_epi64(reg(v), 0xd8);
-#else
-    return v;
-#endif
-}
 
 // Two vectors of samples to one of every other column each.
 template <class Sample> ZORCC_INLINE void splitColumns(const Sample* p, Sample* first, Sample* second)
 {
     using V = Vec<Sample>;
-    const u64v a = (u64v)unzipBlocks(load<V>(p)), b = (u64v)unzipBlocks(load<V>(p + vectorBytes / sizeof(Sample)));
+    const u64v a = (u64v)unzipHalves(load<V>(p)), b = (u64v)unzipHalves(load<V>(p + vectorBytes / sizeof(Sample)));
     store(first, orderHalves(zipLow(a, b)));
     store(second, orderHalves(zipHigh(a, b)));
 }
 
 #if defined(ZORCC_TIER_avx512)
 
-// Where the pixels of the half vectors `first` and `second` go (see Thirds, WordThirds).
-struct ColumnThirds {
-    alignas(64) uint8_t bytes[3][64];
-    alignas(64) uint16_t words[3][32];
+// Where the pixels of the half vectors `first` and `second` go (see Thirds).
+template <int size> struct ColumnThirds {
+    alignas(64) uint8_t scatter[3][64];
 
-    constexpr ColumnThirds() : bytes{}, words{}
+    constexpr ColumnThirds() : scatter{}
     {
-        for (int n = 0; n < 192; ++n) bytes[n % 3][n % 64] = static_cast<uint8_t>(n / 3 / 2 + n / 3 % 2 * 32);
-        for (int n = 0; n < 96; ++n) words[n % 3][n % 32] = static_cast<uint16_t>(n / 3 / 2 + n / 3 % 2 * 16);
+        constexpr int lanes = 64 / size;
+        for (int n = 0; n < 3 * lanes; ++n)
+            for (int i = 0; i < size; ++i)
+                scatter[n % 3][n % lanes * size + i] =
+                    static_cast<uint8_t>(placeOf(n / 3, Columns::evenThenOdd, lanes) * size + i);
     }
 };
-constexpr ColumnThirds columnThirds;
+template <int size> constexpr ColumnThirds<size> columnThirds;
 
 template <class V> ZORCC_INLINE void joinColumns(auto* p, const V (&first)[3], const V (&second)[3])
 {
-    constexpr int lanes = vectorBytes / sizeof(V{}[0]);
+    constexpr int size = sampleSize<V>;
     for (int half = 0; half < 2; ++half) {
         V v[3];
         for (int c = 0; c < 3; ++c)
             v[c] = half == 0 ? (V)_mm512_inserti64x4(reg(first[c]), _mm512_castsi512_si256(reg(second[c])), 1)
                              : (V)_mm512_shuffle_i64x2(reg(first[c]), reg(second[c]), 0xee);
-        if constexpr (lanes == 64)
-            interleave3(p + half * 3 * lanes, v, columnThirds.bytes);
-        else
-            interleave3(p + half * 3 * lanes, v, columnThirds.words);
+        weaveThirds<size>((uint8_t*)p + half * 3 * vectorBytes, {reg(v[0]), reg(v[1]), reg(v[2])},
+                          columnThirds<size>.scatter);
     }
 }
 
@@ -77,22 +58,12 @@ template <class V> ZORCC_INLINE void joinColumns(auto* p, const V (&first)[3], c
         v[0][c] = (u8v)zipLow((u64v)first[c], (u64v)second[c]);
         v[1][c] = (u8v)zipHigh((u64v)first[c], (u64v)second[c]);
     }
-    uint8_t* const to = (uint8_t*)p;
     for (int half = 0; half < 2; ++half)
         for (int k = 0; k < 3; ++k) {
             const auto piece = [&](int c) {
-                if constexpr (sizeof(V{}[0]) == 1)
-                    return shuffleTable(v[half][c], thirds<1>.scatter[(int)Columns::evenThenOdd][c][k]);
-                else
-                    return shuffleTable(v[half][c], wordThirds.scatter[(int)Columns::evenThenOdd][c][k]);
+                return shuffleTable(v[half][c], thirds<sampleSize<V>>.scatter[(int)Columns::evenThenOdd][c][k]);
             };
-            const u8v pixels = piece(0) | piece(1) | piece(2);
-    #if defined(ZORCC_TIER_avx2)
-            _mm256_storeu2_m128i((__m128i*)(to + 96 + 48 * half + 16 * k), (__m128i*)(to + 48 * half + 16 * k),
-                                 reg(pixels));
-    #else
-            store(to + 48 * half + 16 * k, pixels);
-    #endif
+            storeBlocksOf<6>((uint8_t*)p, 3 * half + k, piece(0) | piece(1) | piece(2));
         }
 }
 

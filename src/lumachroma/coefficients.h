@@ -2,12 +2,9 @@
 // How coefficient sets between RGB and luma-chroma models are written down. Units are 1/65536 unless stated.
 #pragma once
 
-namespace zorcc {
+#include "simd/channel_weights.h"
 
-// Weights of R, G and B (or of any three channels) in a sum.
-struct Weights {
-    int r, g, b;
-};
+namespace zorcc {
 
 // From luma and two chroma channels, the first of which drives B and the second R. Each channel is its weighted sum
 // plus a constant, shifted down by 16, saturated to 0..255.

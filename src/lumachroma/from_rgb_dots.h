@@ -2,7 +2,7 @@
 // RGB to luma and chroma by dot products, on the tier that has them: every sum as it is written down, in 32 bits.
 #pragma once
 
-#include "lumachroma/coefficients.h"
+#include "simd/channel_weights.h"
 #include "simd/layouts_444.h"
 
 #if defined(ZORCC_TIER_avx512)

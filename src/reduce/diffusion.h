@@ -12,6 +12,7 @@
 
 #include "reduce/reduction.h"
 #include "reduce/transpose.h"
+#include "simd/neighbours.h"
 
 namespace zorcc::ZORCC_TIER {
 namespace {
@@ -65,8 +66,8 @@ template <class Weights> struct Errors {
     [[gnu::always_inline]] void handDown(int s, int lane)
     {
         const auto fromAbove = [&](const float* errors, float first) {
-            return shiftIn(lane > 0 ? load<f32v>(errors + lane - floatsPerVector) : fillFloat(first),
-                           load<f32v>(errors + lane));
+            return leftOf(lane > 0 ? load<f32v>(errors + lane - floatsPerVector) : fillFloat(first),
+                          load<f32v>(errors + lane));
         };
         store(above[0][s + 2 * ahead] + lane, fromAbove(own[s + 1], incoming[0][s]));
         if constexpr (rowsAbove > 1)

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "reduce/reduction.h"
-#include "simd/floats.h"
+#include "simd/widening_loads.h"
 
 namespace zorcc::ZORCC_TIER {
 namespace {
@@ -12,30 +12,6 @@ constexpr int lanes = floatsPerVector;
 constexpr int signedBias = 32768; // signed samples stand for a value that is so much greater
 
 // ---- load: values from 0 to the type's full scale -------------------------------------------------------------------
-
-ZORCC_INLINE s32v loadIntegers(const uint8_t* p)
-{
-#if defined(ZORCC_TIER_avx512)
-    return (s32v)_mm512_cvtepu8_epi32(_mm_loadu_si128((const __m128i*)p));
-#elif defined(ZORCC_TIER_avx2)
-    return (s32v)_mm256_cvtepu8_epi32(_mm_loadl_epi64((const __m128i*)p));
-#else
-    int four;
-    __builtin_memcpy(&four, p, sizeof four);
-    return widen((u8v)_mm_cvtsi32_si128(four)).part[0];
-#endif
-}
-
-ZORCC_INLINE s32v loadIntegers(const uint16_t* p)
-{
-#if defined(ZORCC_TIER_avx512)
-    return (s32v)_mm512_cvtepu16_epi32(_mm256_loadu_si256((const __m256i*)p));
-#elif defined(ZORCC_TIER_avx2)
-    return (s32v)_mm256_cvtepu16_epi32(_mm_loadu_si128((const __m128i*)p));
-#else
-    return widen((u16v)_mm_loadl_epi64((const __m128i*)p)).part[0];
-#endif
-}
 
 // The least one has the same bits as the unsigned word of the middle.
 ZORCC_INLINE s32v loadIntegers(const int16_t* p) { return loadIntegers((const uint16_t*)p) ^ signedBias; }

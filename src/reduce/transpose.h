@@ -36,18 +36,5 @@ ZORCC_INLINE void transpose(f32v (&row)[floatsPerVector])
     }
 }
 
-// The last lane of `before`, then all but the last of v.
-ZORCC_INLINE f32v shiftIn(f32v before, f32v v)
-{
-#if defined(ZORCC_TIER_avx512)
-    return (f32v)_mm512_alignr_epi32((__m512i)v, (__m512i)before, 15);
-#elif defined(ZORCC_TIER_avx2)
-    const __m256i middle = _mm256_permute2x128_si256((__m256i)before, (__m256i)v, 0x21);
-    return (f32v)_mm256_alignr_epi8((__m256i)v, middle, 12);
-#else
-    return (f32v)_mm_alignr_epi8((__m128i)v, (__m128i)before, 12);
-#endif
-}
-
 } // namespace
 } // namespace zorcc::ZORCC_TIER

@@ -13,14 +13,14 @@ namespace {
 // The order of the columns in a channel vector.
 enum class Columns {
     inOrder,
-    evenThenOdd // per block the eight even columns, then the odd ones
+    evenThenOdd // per block the even columns, then the odd ones
 };
 
-// Where in a vector the given column is.
-constexpr int placeOf(int column, Columns columns)
+// Where the given column is in a vector whose blocks hold `count` columns each.
+constexpr int placeOf(int column, Columns columns, int count)
 {
-    const int inBlock = column % 16;
-    return columns == Columns::inOrder ? column : column - inBlock + inBlock / 2 + inBlock % 2 * 8;
+    const int inBlock = column % count;
+    return columns == Columns::inOrder ? column : column - inBlock + inBlock / 2 + inBlock % 2 * (count / 2);
 }
 
 // ---- blocks: block b of v[k] is block b * count + k of memory ------------------------------------------------------
@@ -57,6 +57,18 @@ template <int count> ZORCC_INLINE void loadBlocks(const uint8_t* p, u8v (&v)[cou
 #endif
 }
 
+#if !defined(ZORCC_TIER_avx512)
+// Vector k alone.
+template <int count> ZORCC_INLINE void storeBlocksOf(uint8_t* p, int k, u8v v)
+{
+    #if defined(ZORCC_TIER_avx2)
+    _mm256_storeu2_m128i((__m128i*)(p + 16 * (count + k)), (__m128i*)(p + 16 * k), reg(v));
+    #else
+    store(p + 16 * k, v);
+    #endif
+}
+#endif
+
 template <int count> ZORCC_INLINE void storeBlocks(uint8_t* p, const u8v (&v)[count])
 {
     for (int k = 0; k < count; ++k) {
@@ -65,10 +77,8 @@ template <int count> ZORCC_INLINE void storeBlocks(uint8_t* p, const u8v (&v)[co
         const __m512i quads =
             _mm512_setr_epi64(4 * k, 4 * k + 1, 8 + 4 * k, 9 + 4 * k, 4 * k + 2, 4 * k + 3, 10 + 4 * k, 11 + 4 * k);
         store(p + 64 * k, (u8v)_mm512_permutex2var_epi64(reg(v[0]), quads, reg(v[1])));
-#elif defined(ZORCC_TIER_avx2)
-        _mm256_storeu2_m128i((__m128i*)(p + 16 * (count + k)), (__m128i*)(p + 16 * k), reg(v[k]));
 #else
-        store(p + 16 * k, v[k]);
+        storeBlocksOf<count>(p, k, v[k]);
 #endif
     }
 }
@@ -112,15 +122,15 @@ ZORCC_INLINE u8v loadQuarters(const uint8_t* low, const uint8_t* high)
 
 ZORCC_INLINE void storeHalves(uint8_t* low, uint8_t* high, u8v v)
 {
+    const Register both = reg(orderHalves(v));
 #if defined(ZORCC_TIER_avx512)
-    const __m512i both = _mm512_permutexvar_epi64(_mm512_setr_epi64(0, 2, 4, 6, 1, 3, 5, 7), reg(v));
     _mm256_storeu_si256((__m256i*)low, _mm512_castsi512_si256(both));
     _mm256_storeu_si256((__m256i*)high, _mm512_extracti64x4_epi64(both, 1));
 #elif defined(ZORCC_TIER_avx2)
-    _mm256_storeu2_m128i((__m128i*)high, (__m128i*)low, _mm256_permute4x64_epi64(reg(v), 0xd8));
+    _mm256_storeu2_m128i((__m128i*)high, (__m128i*)low, both);
 #else
-    _mm_storel_epi64((__m128i*)low, reg(v));
-    _mm_storel_epi64((__m128i*)high, _mm_unpackhi_epi64(reg(v), reg(v)));
+    _mm_storel_epi64((__m128i*)low, both);
+    _mm_storel_epi64((__m128i*)high, _mm_unpackhi_epi64(both, both));
 #endif
 }
 
@@ -130,14 +140,20 @@ ZORCC_INLINE u8v zipHalves(u8v v)
     return shuffle(v, fillBlock(_mm_setr_epi8(0, 8, 1, 9, 2, 10, 3, 11, 4, 12, 5, 13, 6, 14, 7, 15)));
 }
 
+// Per block: the elements of even places, then those of odd places.
 ZORCC_INLINE u8v unzipHalves(u8v v)
 {
     return shuffle(v, fillBlock(_mm_setr_epi8(0, 2, 4, 6, 8, 10, 12, 14, 1, 3, 5, 7, 9, 11, 13, 15)));
 }
 
+ZORCC_INLINE u16v unzipHalves(u16v v)
+{
+    return (u16v)shuffle((u8v)v, fillBlock(_mm_setr_epi8(0, 1, 4, 5, 8, 9, 12, 13, 2, 3, 6, 7, 10, 11, 14, 15)));
+}
+
 // ---- three channels -------------------------------------------------------------------------------------------------
 //
-// `size` is that of a sample in bytes. The order of columns is a choice for bytes only.
+// `size` is that of a sample in bytes.
 
 template <class V> inline constexpr int sampleSize = sizeof(V{}[0]);
 
@@ -157,8 +173,8 @@ template <int size> struct Thirds {
                 const int position = n % (64 / size) * size + i;
                 sort[n % 3][n / 3 * size + i] = static_cast<uint8_t>(position);
                 for (int columns = 0; columns < 2; ++columns)
-                    scatter[columns][n % 3][position] = static_cast<uint8_t>(
-                        placeOf(n / 3, size == 1 ? Columns(columns) : Columns::inOrder) * size + i);
+                    scatter[columns][n % 3][position] =
+                        static_cast<uint8_t>(placeOf(n / 3, Columns(columns), 16 / size) * size + i);
             }
     }
 };
@@ -242,11 +258,6 @@ ZORCC_INLINE void weaveThirds(uint8_t* p, const __m512i (&channel)[3], const uin
                                                     thirdOf<size>(2, k), v[2]));
 }
 
-ZORCC_INLINE void interleave3(uint8_t* p, const u8v (&channel)[3], const uint8_t (&scatter)[3][64])
-{
-    weaveThirds<1>(p, {reg(channel[0]), reg(channel[1]), reg(channel[2])}, scatter);
-}
-
 template <Columns columns, class V> ZORCC_INLINE void interleave3(uint8_t* p, const V (&channel)[3])
 {
     constexpr int size = sampleSize<V>;
@@ -270,7 +281,7 @@ template <int size> struct Thirds {
                     const int n = (3 * (i / size) + c) * size + i % size, m = (16 * k + i) / size;
                     sort[c][k][i] = static_cast<uint8_t>(n / 16 == k ? n % 16 : 0x80);
                     for (int columns = 0; columns < 2; ++columns) {
-                        const int place = placeOf(m / 3, size == 1 ? Columns(columns) : Columns::inOrder);
+                        const int place = placeOf(m / 3, Columns(columns), 16 / size);
                         scatter[columns][c][k][i] = static_cast<uint8_t>(m % 3 == c ? place * size + i % size : 0x80);
                     }
                 }

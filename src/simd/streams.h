@@ -128,14 +128,10 @@ template <int bytes, int odd> ZORCC_INLINE u8v everySecondOf(u8v a, u8v b)
         chosen = odd ? packUnsigned((s16v)((u16v)a >> 8), (s16v)((u16v)b >> 8))
                      : packUnsigned((s16v)a & 0xff, (s16v)b & 0xff);
     } else {
-        const u8v sort = fillBlock(_mm_setr_epi8(0, 1, 4, 5, 8, 9, 12, 13, 2, 3, 6, 7, 10, 11, 14, 15));
-        const u64v first = (u64v)shuffle(a, sort), second = (u64v)shuffle(b, sort);
+        const u64v first = (u64v)unzipHalves((u16v)a), second = (u64v)unzipHalves((u16v)b);
         chosen = (u8v)(odd ? zipHigh(first, second) : zipLow(first, second));
     }
-    #if defined(ZORCC_TIER_avx2)
-    chosen = (u8v)_mm256_permute4x64_epi64(reg(chosen), 0xd8);
-    #endif
-    return chosen;
+    return orderHalves(chosen);
 #endif
 }
 

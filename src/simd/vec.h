@@ -185,6 +185,18 @@ template <class V> ZORCC_INLINE V zipHigh(V a, V b)
         return (V)ZORCC_MM(unpackhi_epi64)(reg(a), reg(b));
 }
 
+// The lower halves of all blocks, then the upper halves: the way back from per block to the whole vector behind a pack.
+template <class V> ZORCC_INLINE V orderHalves(V v)
+{
+#if defined(ZORCC_TIER_avx512)
+    return (V)_mm512_permutexvar_epi64(_mm512_setr_epi64(0, 2, 4, 6, 1, 3, 5, 7), reg(v));
+#elif defined(ZORCC_TIER_avx2)
+    return (V)_mm256_permute4x64_epi64(reg(v), 0xd8);
+#else
+    return v;
+#endif
+}
+
 // The lower and the upper byte of every pair.
 ZORCC_INLINE s16v firstOfPairs(u8v pairs) { return (s16v)pairs & 0xff; }
 ZORCC_INLINE s16v secondOfPairs(u8v pairs) { return (s16v)((u16v)pairs >> 8); }

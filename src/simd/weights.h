@@ -3,7 +3,7 @@
 // are in units of 1/65536.
 #pragma once
 
-#include "lumachroma/coefficients.h"
+#include "simd/channel_weights.h"
 #include "simd/vec.h"
 
 namespace zorcc::ZORCC_TIER {

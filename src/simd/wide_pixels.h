@@ -266,11 +266,7 @@ private:
 };
 
 // One channel in order.
-ZORCC_INLINE u8v saturate(const s16v (&v)[2])
-{
-    const __m512i order = _mm512_setr_epi64(0, 2, 4, 6, 1, 3, 5, 7);
-    return (u8v)_mm512_permutexvar_epi64(order, reg(packUnsigned(v[0], v[1])));
-}
+ZORCC_INLINE u8v saturate(const s16v (&v)[2]) { return orderHalves(packUnsigned(v[0], v[1])); }
 
 } // namespace
 } // namespace zorcc::ZORCC_TIER

@@ -2,8 +2,6 @@
 // Results worked out by hand from the formulas, and what the edges of their ranges give.
 #include <gtest/gtest.h>
 
-#include <omp.h>
-
 #include <array>
 #include <cmath>
 #include <limits>
@@ -12,7 +10,6 @@
 
 #include "tests/harness/tiers.h"
 #include "zorcc.h"
-#include "zorcore.h"
 
 namespace zorcc::test {
 namespace {
@@ -182,20 +179,6 @@ TEST(Floats, RampsByDivision)
         const float unit = std::nextafter(green, 2.0f) - green;
         ASSERT_LE(std::abs(result[i][1] - green), 2 * unit) << h << " " << l << " " << s;
     }
-}
-
-// Inside a parallel region of the caller, too.
-TEST(HexconeThreads, NestedRegions)
-{
-    const int before = ownGetNumThreads();
-    ASSERT_EQ(zorSetNumThreads(4), zorStatusOk);
-    const std::vector<Colour<std::uint8_t>> row(9001, {200, 90, 70});
-    const auto expected = convert<std::uint8_t>(zoriRGBToHSV_8u_C3R, row);
-    std::vector<Colour<std::uint8_t>> results[3];
-#pragma omp parallel for num_threads(3)
-    for (int i = 0; i < 3; ++i) results[i] = convert<std::uint8_t>(zoriRGBToHSV_8u_C3R, row);
-    for (const auto& result : results) EXPECT_EQ(result, expected);
-    ASSERT_EQ(zorSetNumThreads(before), zorStatusOk);
 }
 
 } // namespace

@@ -3,11 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstring>
 #include <set>
 #include <vector>
 
-#include "interface/functions.h"
 #include "tests/demosaic/mosaic_checker.h"
 #include "tests/harness/tiers.h"
 
@@ -31,22 +29,14 @@ protected:
     std::vector<std::uint16_t> destination = std::vector<std::uint16_t>(3 * side * side, 0xabcd);
     std::vector<std::uint8_t> scratch = std::vector<std::uint8_t>(scratchRows * scratchRowBytes(side));
 
-    struct Faults {
-        bool noSource = false, noDestination = false;
-        ZorSize size = {side, side};
-        int grid = zorBayerRGGB;
-        ZorRect region = {0, 0, side, side};
+    const interface::Call sound {
+        {{source.data()}, {2 * side}}, {{destination.data()}, {6 * side}}, {side, side},
+        {
+            .scratch = scratch.data(), .scratchStep = scratchRowBytes(side)
+        }
     };
 
-    ZorStatus call(const Faults& f)
-    {
-        ZorBayerGrid grid;
-        static_assert(sizeof grid == sizeof f.grid);
-        std::memcpy(&grid, &f.grid, sizeof grid); // a value that the type does not name
-        return method.call(f.noSource ? nullptr : source.data(), f.region, f.size, 2 * side,
-                           f.noDestination ? nullptr : destination.data(), 6 * side, grid, scratch.data(),
-                           scratchRowBytes(side));
-    }
+    ZorStatus call(const interface::Call& arguments) const { return method.function().bound(arguments); }
 
     bool untouched() const
     {
@@ -68,14 +58,21 @@ TEST_P(DemosaicArguments, FirstFailingCheckDecides)
                                                : badGrid                 ? zorStatusBadArgument
                                                                          : zorStatusOk;
                     if (expected == zorStatusOk) continue;
-                    EXPECT_EQ(call({noSource, noDestination, size, grid}), expected);
+                    interface::Call faulty = sound;
+                    if (noSource) faulty.source.plane[0] = nullptr;
+                    if (noDestination) faulty.destination.plane[0] = nullptr;
+                    faulty.size = size;
+                    faulty.extra.grid = grid;
+                    EXPECT_EQ(call(faulty), expected);
                     ASSERT_TRUE(untouched());
                 }
 }
 
 TEST_P(DemosaicArguments, SmallestImage)
 {
-    EXPECT_EQ(call({.size = {method.minSize, method.minSize}}), zorStatusOk);
+    interface::Call smallest = sound;
+    smallest.size = {method.minSize, method.minSize};
+    EXPECT_EQ(call(smallest), zorStatusOk);
     EXPECT_FALSE(untouched());
 }
 
@@ -83,7 +80,11 @@ TEST_P(DemosaicArguments, EmptyRegionsAreNoError)
 {
     const ZorRect regions[] = {{side, 0, 4, 4}, {0, side, 4, 4}, {-4, 0, 4, 4},
                                {0, -9, 4, 4},   {2, 2, 0, 4},    {2, 2, 4, -1}};
-    for (const ZorRect& region : regions) EXPECT_EQ(call({.region = region}), zorStatusOk);
+    for (const ZorRect& region : regions) {
+        interface::Call empty = sound;
+        empty.extra.region = region;
+        EXPECT_EQ(call(empty), zorStatusOk);
+    }
     EXPECT_TRUE(untouched());
 }
 

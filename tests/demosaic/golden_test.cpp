@@ -27,20 +27,16 @@ using Rgb = std::array<int, 3>;
 Picture run(const Method& method, const Mosaic& mosaic)
 {
     const auto [width, height] = mosaic.size;
-    const int bytes = method.bits / 8;
+    const interface::Function& function = method.function();
     TestImage source, destination;
-    source.arrange(method.source(), mosaic.size, mosaic.size, {}, StepArguments::one);
-    destination.arrange(method.destination(), mosaic.size, mosaic.size, {}, StepArguments::one);
-    reference::Pixels from(method.source(), source.image(), mosaic.size);
+    source.arrange(*function.source, mosaic.size, mosaic.size, {}, StepArguments::one);
+    destination.arrange(*function.destination, mosaic.size, mosaic.size, {}, StepArguments::one);
+    reference::Pixels from(*function.source, source.image(), mosaic.size);
     for (int y = 0; y < height; ++y)
         for (int x = 0; x < width; ++x) from.put(0, x, y, mosaic(x, y));
-    std::vector<std::uint8_t> scratch(static_cast<std::size_t>(scratchRows) * scratchRowBytes(width));
-    EXPECT_EQ(method.call(source.image().plane[0], {0, 0, width, height}, mosaic.size, width * bytes,
-                          destination.image().plane[0], 3 * width * bytes, mosaic.grid, scratch.data(),
-                          scratchRowBytes(width)),
-              zorStatusOk);
+    EXPECT_EQ(function(source.image(), destination.image(), mosaic.size, {.grid = mosaic.grid}), zorStatusOk);
     Picture picture{mosaic.size};
-    const reference::Pixels to(method.destination(), destination.image(), mosaic.size);
+    const reference::Pixels to(*function.destination, destination.image(), mosaic.size);
     for (int y = 0; y < height; ++y)
         for (int x = 0; x < width; ++x)
             for (int c = 0; c < 3; ++c) picture(x, y, c) = to.get(c, x, y);

@@ -34,16 +34,6 @@ bool onlyRows(const PlaneMemory& memory, int rows, std::size_t rowBytes, std::pt
 
 } // namespace
 
-const interface::Format& Method::source() const
-{
-    return bits == 8 ? interface::formats::bayer8 : interface::formats::bayer16;
-}
-
-const interface::Format& Method::destination() const
-{
-    return bits == 8 ? interface::formats::rgb24 : interface::formats::rgb48;
-}
-
 const Method& methodNamed(std::string_view name)
 {
     for (const Method& method : methods())
@@ -65,7 +55,7 @@ void MosaicChecker::use(ZorSize imageSize, ZorBayerGrid imageGrid, const Arrange
 {
     size = imageSize;
     grid = imageGrid;
-    source.arrange(method.source(), size, size, arrangement, StepArguments::one);
+    source.arrange(*function.source, size, size, arrangement, StepArguments::one);
     source.fillPattern(seed);
     fill(source, contents, seed);
     keepReference();
@@ -75,9 +65,9 @@ void MosaicChecker::use(const reference::Mosaic& mosaic, const Arrangement& arra
 {
     size = mosaic.size;
     grid = mosaic.grid;
-    source.arrange(method.source(), size, size, arrangement, StepArguments::one);
+    source.arrange(*function.source, size, size, arrangement, StepArguments::one);
     source.fillPattern(1);
-    reference::Pixels samples(method.source(), source.image(), size);
+    reference::Pixels samples(*function.source, source.image(), size);
     for (int y = 0; y < size.height; ++y)
         for (int x = 0; x < size.width; ++x) samples.put(0, x, y, mosaic(x, y));
     keepReference();
@@ -87,7 +77,7 @@ void MosaicChecker::keepReference()
 {
     source.copyToShadow();
     reference::Mosaic mosaic{size, grid, (1 << method.bits) - 1};
-    const reference::Pixels samples(method.source(), source.image(), size);
+    const reference::Pixels samples(*function.source, source.image(), size);
     for (int y = 0; y < size.height; ++y)
         for (int x = 0; x < size.width; ++x) mosaic(x, y) = samples.get(0, x, y);
     whole = method.reference(mosaic);
@@ -96,11 +86,11 @@ void MosaicChecker::keepReference()
 AssertionResult MosaicChecker::check(ZorRect region, const Arrangement& arrangement, int moved)
 {
     const ZorRect part = inside(region, size);
-    destination.arrange(method.destination(), {part.width, part.height}, {part.width, part.height}, arrangement,
+    destination.arrange(*function.destination, {part.width, part.height}, {part.width, part.height}, arrangement,
                         StepArguments::one);
     destination.fillPattern(2);
     destination.copyToShadow();
-    reference::Pixels result(method.destination(), destination.shadow(), {part.width, part.height});
+    reference::Pixels result(*function.destination, destination.shadow(), {part.width, part.height});
     for (int y = 0; y < part.height; ++y)
         for (int x = 0; x < part.width; ++x)
             for (int c = 0; c < 3; ++c) result.put(c, x, y, whole(part.x + x, part.y + y, c));
@@ -112,6 +102,12 @@ AssertionResult MosaicChecker::check(ZorRect region, const Arrangement& arrangem
     scratch.arrange(
         {scratchRows, rowBytes, step, arrangement.edge, isolated ? 0 : static_cast<std::size_t>(moved), isolated});
 
+    const interface::Call call {
+        source.image(), destination.image(), size,
+        {
+            .grid = grid, .interpolation = 77, .region = region, .scratch = scratch.firstRow(), .scratchStep = step
+        }
+    };
     for (const Tier tier : tiersHere()) {
         const OnTier chosen(tier);
         std::ostringstream heading;
@@ -121,11 +117,7 @@ AssertionResult MosaicChecker::check(ZorRect region, const Arrangement& arrangem
         destination.fillPattern(2);
         for (const auto piece : scratch.pieces()) std::fill(piece.begin(), piece.end(), untouched);
         ZorStatus status = 0;
-        const auto fault = faultOf([&] {
-            status =
-                method.call(source.image().plane[0], region, size, source.image().step[0], destination.image().plane[0],
-                            destination.image().step[0], grid, scratch.firstRow(), step);
-        });
+        const auto fault = faultOf([&] { status = function.bound(call); });
         if (fault)
             return AssertionFailure() << heading.str() << "touches memory outside its images: "
                                       << std::min(source.nearest(*fault), destination.nearest(*fault)).second;

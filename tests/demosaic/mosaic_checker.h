@@ -9,6 +9,7 @@
 #include <string>
 #include <string_view>
 
+#include "interface/functions.h"
 #include "tests/harness/contents.h"
 #include "tests/harness/test_image.h"
 #include "tests/reference/mosaic.h"
@@ -19,19 +20,13 @@ namespace zorcc::test {
 inline constexpr int scratchRows = 64;
 constexpr int scratchRowBytes(int width) { return 32 * (width + 32); }
 
-// A function behind one signature for all; scratch memory is ignored by those that take none.
-using Call = ZorStatus (*)(const void* src, ZorRect region, ZorSize size, int srcStep, void* dst, int dstStep,
-                           ZorBayerGrid grid, void* scratch, int scratchStep);
-
 struct Method {
     std::string_view name;
     reference::Demosaic reference;
     int bits;
     int minSize;
-    Call call;
 
-    const interface::Format& source() const;
-    const interface::Format& destination() const;
+    const interface::Function& function() const { return *interface::findFunction(name); }
 };
 
 std::span<const Method> methods();
@@ -41,7 +36,7 @@ inline constexpr ZorBayerGrid grids[] = {zorBayerBGGR, zorBayerRGGB, zorBayerGBR
 
 class MosaicChecker {
 public:
-    explicit MosaicChecker(const Method& m) : method(m) {}
+    explicit MosaicChecker(const Method& m) : method(m), function(m.function()) {}
 
     // The mosaic of the checks that follow.
     void use(ZorSize size, ZorBayerGrid grid, const Arrangement& arrangement = {}, Contents contents = Contents::random,
@@ -57,6 +52,7 @@ public:
 
 private:
     const Method method;
+    const interface::Function& function;
     ZorSize size{};
     ZorBayerGrid grid{};
     reference::Picture whole{};

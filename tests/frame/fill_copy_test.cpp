@@ -17,7 +17,6 @@ constexpr Stores allStores[] = {Stores::ordinary, Stores::nonTemporal};
 constexpr int maxLength = 300;
 constexpr int margin = 80; // more than a block and an alignment
 constexpr uint8_t untouched = 0xcd;
-constexpr uint8_t fillValues[] = {0x00, 0x35, 0xff};
 
 // No two neighbours, nor bytes that are a power of two apart, are equal; never `untouched`.
 uint8_t sourceByte(size_t i) { return static_cast<uint8_t>(i % 199); }
@@ -49,65 +48,62 @@ private:
     alignas(64) uint8_t bytes[margin + 16 + maxLength + margin];
 };
 
-TEST(CopyRow, EveryLengthAndAlignment)
+// Both functions of rows. Filling takes the first byte of the source.
+struct RowFunction {
+    const char* name;
+    void (*write)(const uint8_t* src, uint8_t* dst, size_t length, Stores stores);
+    uint8_t (*expected)(const uint8_t* src, int i);
+};
+
+const RowFunction rowFunctions[] = {
+    {"copy",
+     [](const uint8_t* src, uint8_t* dst, size_t length, Stores stores) {
+         ownccCopy_8u_C1_M7(src, dst, length, stores);
+     },
+     [](const uint8_t* src, int i) { return src[i]; }},
+    {"fill",
+     [](const uint8_t* src, uint8_t* dst, size_t length, Stores stores) {
+         owniSet_8u_C1_M7(src[0], dst, length, stores);
+     },
+     [](const uint8_t* src, int) { return src[0]; }},
+};
+
+class Row : public testing::TestWithParam<RowFunction> {};
+INSTANTIATE_TEST_SUITE_P(, Row, testing::ValuesIn(rowFunctions), [](const auto& test) { return test.param.name; });
+
+TEST_P(Row, EveryLengthAndAlignment)
 {
     alignas(64) uint8_t source[16 + maxLength];
-    for (size_t i = 0; i < sizeof source; ++i) source[i] = sourceByte(i);
+    for (size_t i = 0; i < sizeof source; ++i) source[i] = i < 16 ? static_cast<uint8_t>(17 * i) : sourceByte(i);
     for (const Stores stores : allStores)
         for (int to = 0; to < 16; ++to) {
             Target target(to);
             for (int from = 0; from < 16; ++from)
                 for (int length = 0; length <= maxLength; ++length) {
                     target.clear();
-                    ownccCopy_8u_C1_M7(source + from, target.row(), static_cast<size_t>(length), stores);
-                    ASSERT_TRUE(target.holds(length, [&](int i) { return source[from + i]; }))
+                    GetParam().write(source + from, target.row(), static_cast<size_t>(length), stores);
+                    ASSERT_TRUE(target.holds(length, [&](int i) { return GetParam().expected(source + from, i); }))
                         << nameOf(stores) << ", source alignment " << from;
                 }
         }
 }
 
-TEST(FillRow, EveryLengthAndAlignment)
-{
-    for (const Stores stores : allStores)
-        for (int to = 0; to < 16; ++to) {
-            Target target(to);
-            for (int length = 0; length <= maxLength; ++length)
-                for (const uint8_t value : fillValues) {
-                    target.clear();
-                    owniSet_8u_C1_M7(value, target.row(), static_cast<size_t>(length), stores);
-                    ASSERT_TRUE(target.holds(length, [&](int) { return value; })) << nameOf(stores);
-                }
-        }
-}
-
-TEST(CopyRow, StaysInsideItsPages)
+TEST_P(Row, StaysInsideItsPages)
 {
     for (const Edge from : edges)
         for (const Edge to : edges)
             for (size_t length = 0; length <= maxLength; ++length) {
-                const GuardedBuffer source(length, from), target(length, to);
-                for (size_t i = 0; i < length; ++i) source.data()[i] = sourceByte(i);
+                const GuardedBuffer source(std::max<size_t>(length, 1), from), target(length, to);
+                source.data()[0] = 9;
+                for (size_t i = 1; i < length; ++i) source.data()[i] = sourceByte(i);
                 for (const Stores stores : allStores) {
                     std::fill_n(target.data(), length, untouched);
-                    ownccCopy_8u_C1_M7(source.data(), target.data(), length, stores);
-                    ASSERT_TRUE(std::equal(source.data(), source.data() + length, target.data()))
-                        << length << " bytes, " << nameOf(stores);
+                    GetParam().write(source.data(), target.data(), length, stores);
+                    for (size_t i = 0; i < length; ++i)
+                        ASSERT_EQ(target.data()[i], GetParam().expected(source.data(), static_cast<int>(i)))
+                            << i << " of " << length << " bytes, " << nameOf(stores);
                 }
             }
-}
-
-TEST(FillRow, StaysInsideItsPages)
-{
-    for (const Edge edge : edges)
-        for (size_t length = 0; length <= maxLength; ++length) {
-            const GuardedBuffer target(length, edge);
-            for (const Stores stores : allStores) {
-                std::fill_n(target.data(), length, untouched);
-                owniSet_8u_C1_M7(9, target.data(), length, stores);
-                ASSERT_EQ(std::count(target.data(), target.data() + length, 9), static_cast<long>(length))
-                    << nameOf(stores);
-            }
-        }
 }
 
 // An image in a larger block of bytes, all of it `untouched` at first.

@@ -70,23 +70,22 @@ struct Images {
 ZorStatus call(const Function& function, const Images& images, const std::vector<Fault>& faults, unsigned chosen,
                ZorSize badSize)
 {
-    interface::Image from = images.source.image(), to = images.destination.image();
-    const interface::Extra extra;
     interface::Call arguments {
-        from, to, goodSize, extra
+        images.source.image(), images.destination.image(), goodSize, {}
     };
     for (std::size_t i = 0; i < faults.size(); ++i) {
         if ((chosen >> i & 1) == 0) continue;
         const Fault& fault = faults[i];
+        interface::Image& image = fault.ofDestination ? arguments.destination : arguments.source;
         const bool array = fault.ofDestination ? function.signature.destinationArray : function.signature.sourceArray;
         if (fault.kind == Fault::badSize)
             arguments.size = badSize;
         else if (fault.kind == Fault::badStep)
-            (fault.ofDestination ? to : from).step[0] = std::min(badSize.width, badSize.height);
+            image.step[0] = std::min(badSize.width, badSize.height);
         else if (fault.kind == Fault::nullImage && array)
             arguments.nullArrays[fault.ofDestination] = true;
         else
-            (fault.ofDestination ? to : from).plane[fault.plane] = nullptr;
+            image.plane[fault.plane] = nullptr;
     }
     return function.bound(arguments);
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The cases of one family of functions; each family's test program defines them.
+// The cases of one family of functions.
 #pragma once
 
 #include <span>
@@ -9,9 +9,19 @@
 
 namespace zorcc::test {
 
+// Every function of the family is a case, by the first rule whose name, in which * stands for anything, fits its own.
+struct Family {
+    std::string_view title;
+    std::span<const reference::Case> rules;
+};
+
+// Each family's test program defines its own.
+Family family();
+
+// Throws where a function has no rule, or a rule no function.
 std::span<const reference::Case> familyCases();
 
-// The interface's row of a case; throws when there is none.
+// The interface's row of a case.
 const interface::Function& functionOf(const reference::Case& c);
 
 // Names tests by the exported function.

@@ -108,8 +108,7 @@ AssertionResult Checker::checkInPlace(const Trial& trial)
     reference::convert(expectation, tested, source.image(), source.shadow(), trial.size, argumentsOf(trial));
     for (const Tier tier : tiersHere()) {
         fillSource();
-        const interface::Image from = source.image(); // the binder tells images apart by their addresses
-        if (auto result = runOn(tier, trial, from, source); !result) return result;
+        if (auto result = runOn(tier, trial, source.image(), source); !result) return result;
     }
     return AssertionSuccess();
 }

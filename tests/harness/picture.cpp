@@ -3,9 +3,6 @@
 
 #include <png.h>
 
-#include <cstring>
-#include <fstream>
-#include <sstream>
 #include <stdexcept>
 
 #include "tests/reference/pixels.h"
@@ -65,36 +62,6 @@ void fill(TestImage& image, const Picture& picture)
         for (int x = 0; x < image.usedSize().width; ++x)
             for (int c = 0; c < reference::channels; ++c)
                 if (to.has(c, x, y)) put(to, c, x, y, image.format(), from.get(c, x, y));
-}
-
-Clip readY4m(const std::string& path)
-{
-    std::ifstream file(path, std::ios::binary);
-    std::string header, frame;
-    std::getline(file, header);
-    std::getline(file, frame);
-    Clip clip;
-    std::istringstream words(header);
-    for (std::string word; words >> word;) {
-        if (word[0] == 'W') clip.size.width = std::stoi(word.substr(1));
-        if (word[0] == 'H') clip.size.height = std::stoi(word.substr(1));
-    }
-    if (!file || clip.size.width < 1 || clip.size.height < 1 || frame != "FRAME")
-        throw std::runtime_error(path + ": not a clip");
-    const std::size_t half = static_cast<std::size_t>(clip.size.width / 2) * (clip.size.height / 2);
-    clip.planes.resize(static_cast<std::size_t>(clip.size.width) * clip.size.height + 2 * half);
-    if (!file.read(reinterpret_cast<char*>(clip.planes.data()), static_cast<std::streamsize>(clip.planes.size())))
-        throw std::runtime_error(path + ": a frame is missing");
-    return clip;
-}
-
-void fill(TestImage& image, const Clip& clip)
-{
-    const std::uint8_t* from = clip.planes.data();
-    image.eachRow([&](std::uint8_t* row, int samples, int, int) {
-        std::memcpy(row, from, static_cast<std::size_t>(samples));
-        from += samples;
-    });
 }
 
 } // namespace zorcc::test

@@ -21,14 +21,4 @@ Picture readPng(const std::string& path);
 // The colours of the picture, converted and subsampled as the image's format wants them.
 void fill(TestImage& image, const Picture& picture);
 
-// First frame of a clip of 8-bit planar 4:2:0.
-struct Clip {
-    ZorSize size{};
-    std::vector<std::uint8_t> planes; // Y, U, V without gaps
-};
-
-Clip readY4m(const std::string& path);
-
-void fill(TestImage& image, const Clip& clip);
-
 } // namespace zorcc::test

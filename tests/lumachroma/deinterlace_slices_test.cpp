@@ -8,6 +8,7 @@
 #include <random>
 #include <vector>
 
+#include "tests/harness/golden.h"
 #include "tests/harness/guarded.h"
 #include "tests/harness/tiers.h"
 #include "zorcc.h"
@@ -17,8 +18,6 @@ namespace {
 
 constexpr int first = 1, middle = 4, last = 16, whole = 21;
 constexpr std::uint8_t untouched = 0xa5;
-
-using Bytes = std::vector<std::uint8_t>;
 
 // Rows of one plane, of which `perPair` belong to every two rows of luma.
 struct Plane {
@@ -165,35 +164,25 @@ TEST(DeinterlaceSlice, FirstLeavesWhatDependsOnRowsBelow)
 INSTANTIATE_TEST_SUITE_P(Results, DeinterlaceSlices, testing::Bool(),
                          [](const auto& result) { return result.param ? "Packed" : "Planar"; });
 
-// Worked out by hand: a row of 101 between rows of 0, ten columns, of which eight round up.
+// Worked out by hand: a row of 101 between rows of 0, ten columns, of which eight round up: (0 + 51 + 1) / 2 = 26
+// beside it, (51 + 51 + 1) / 2 = 51 in it; rounded down 101 / 4 = 25, 202 / 4 = 50. Both rows of chroma take the
+// average of the only two: Cb 11.5 and Cr 20.5.
 TEST(DeinterlaceGolden, OneBrightRow)
 {
-    constexpr int width = 10, height = 4;
-    const Bytes row(width, 101), dark(width, 0);
-    Bytes luma;
-    for (const Bytes* r : {&dark, &row, &dark, &dark}) luma.insert(luma.end(), r->begin(), r->end());
-    Bytes pairs;
-    for (int x = 0; x < width; ++x) pairs.push_back(x % 2 == 0 ? 10 : 20); // Cb, Cr
-    for (int x = 0; x < width; ++x) pairs.push_back(x % 2 == 0 ? 13 : 21);
-    for (const Tier tier : tiersHere()) {
-        const OnTier chosen(tier);
-        Bytes y(width * height), cr(5 * 2), cb(5 * 2);
-        std::uint8_t* const planes[] = {y.data(), cr.data(), cb.data()};
-        const int steps[] = {width, 5, 5};
-        ASSERT_EQ(zoriYCbCr420ToYCrCb420_Filter_8u_P2P3R(luma.data(), width, pairs.data(), width, planes, steps,
-                                                         {width, height}, whole),
-                  zorStatusOk);
-        // (0 + 51 + 1) / 2 = 26 beside it, (51 + 51 + 1) / 2 = 51 in it; rounded down 101 / 4 = 25, 202 / 4 = 50.
-        const int block[] = {26, 51, 26, 0}, behind[] = {25, 50, 25, 0};
-        for (int r = 0; r < height; ++r)
-            for (int x = 0; x < width; ++x) EXPECT_EQ(y[width * r + x], x < 8 ? block[r] : behind[r]) << x << ", " << r;
-        // Both rows of chroma take the average of the only two: 11.5 and 20.5.
-        for (int k = 0; k < 2; ++k)
-            for (int x = 0; x < 5; ++x) {
-                EXPECT_EQ(cb[5 * k + x], x < 4 ? 12 : 11);
-                EXPECT_EQ(cr[5 * k + x], x < 4 ? 21 : 20);
-            }
-    }
+    expectGolden({"zoriYCbCr420ToYCrCb420_Filter_8u_P2P3R",
+                  {10, 4},
+                  {{0,   0,   0,   0,   0,   0,   0,   0,   0,   0,   //
+                    101, 101, 101, 101, 101, 101, 101, 101, 101, 101, //
+                    0,   0,   0,   0,   0,   0,   0,   0,   0,   0,   //
+                    0,   0,   0,   0,   0,   0,   0,   0,   0,   0},
+                   {10, 20, 10, 20, 10, 20, 10, 20, 10, 20, //
+                    13, 21, 13, 21, 13, 21, 13, 21, 13, 21}},
+                  {{26, 26, 26, 26, 26, 26, 26, 26, 25, 25, //
+                    51, 51, 51, 51, 51, 51, 51, 51, 50, 50, //
+                    26, 26, 26, 26, 26, 26, 26, 26, 25, 25, //
+                    0,  0,  0,  0,  0,  0,  0,  0,  0,  0},
+                   {21, 21, 21, 21, 20, 21, 21, 21, 21, 20},
+                   {12, 12, 12, 12, 11, 12, 12, 12, 12, 11}}});
 }
 
 } // namespace

@@ -5,10 +5,10 @@
 #include <array>
 #include <vector>
 
+#include "tests/harness/golden.h"
 #include "tests/harness/test_image.h"
 #include "tests/harness/tiers.h"
 #include "tests/reference/pixels.h"
-#include "zorcc.h"
 
 namespace zorcc::test {
 namespace {
@@ -111,130 +111,49 @@ TEST(YuvGolden, Colours)
         }
 }
 
-// The tests below write memory out byte by byte, so that they say what the formats are.
-constexpr std::uint8_t kept = 0xee;
-template <std::size_t count> using Bytes = std::array<std::uint8_t, count>;
-
-class YuvBytes : public testing::TestWithParam<Tier> {
-protected:
-    OnTier chosen{GetParam()};
-};
-
-// Blue and black as a pair: B - Y is 226.9, U 55.6 above 128; R - Y is -28.07 so -29, V 12.7 below. Red alone.
-TEST_P(YuvBytes, PackedPairsWithOddEnd)
+TEST(YuvGolden, Bytes)
 {
-    const Bytes<9> rgb = {0, 0, 255, 0, 0, 0, 255, 0, 0};
-    Bytes<8> yuv;
-    yuv.fill(kept);
-    EXPECT_EQ(zoriRGBToYUV422_8u_C3C2R(rgb.data(), 9, yuv.data(), 8, {3, 1}), zorStatusOk);
-    EXPECT_EQ(yuv, (Bytes<8>{29, 183, 0, 115, 76, 90, kept, kept}));
+    const Bytes blueBlackRed = {0, 0, 255, 0, 0, 0, 255, 0, 0}, blue = {0, 0, 255, 77};
+    const std::vector<Bytes> block = {Bytes(4, 100), {174}, {145}};
+    const GoldenCall calls[] = {
+        // A pair: B - Y is 226.9, U 55.6 above 128; R - Y is -28.07 so -29, V 12.7 below. Red alone.
+        {"zoriRGBToYUV422_8u_C3C2R", {3, 1}, {blueBlackRed}, {{29, 183, 0, 115, 76, 90, kept, kept}}},
+        {"zoriRGBToYUV422_8u_C3P3R", {3, 1}, {blueBlackRed}, {{29, 0, 76, kept}, {183, kept}, {115, kept}}},
+        // The last pixel takes its own U, 1, and the V of the pair before, 17: green 5880487 / 65536 = 89.7.
+        {"zoriYUV422ToRGB_8u_C2C3R",
+         {3, 1},
+         {{100, 174, 100, 145, 100, 129}},
+         {{119, 71, 193, 119, 71, 193, 119, 89, 102, kept}}},
+        // One byte of chroma serves as U and V: green (6553600 - 63897) / 65536 = 99.02.
+        {"zoriYUV422ToRGB_8u_C2C3R", {1, 2}, {{100, 129, 100, 127}}, {{101, 99, 102, 98, 100, 97}}},
+        {"zoriYUV422ToRGB_8u_P3C3R",
+         {3, 1},
+         {{100, 100, 100}, {174}, {145}},
+         {{119, 71, 193, 119, 71, 193, 119, 71, 193, kept}}},
+        {"zoriYUV422ToRGB_8u_P3C3R", {1, 1}, {{100}, {174}, {145}}, {{100, 100, 100, kept}}},
+        // Of 5 x 3 pixels the 4 x 2 in whole blocks.
+        {"zoriRGBToYUV420_8u_C3P3",
+         {5, 3},
+         {Bytes(45, 255)},
+         {{255, 255, 255, 255, kept, 255, 255, 255, 255, kept, kept, kept, kept, kept, kept},
+          {128, 128, kept},
+          {128, 128, kept}},
+         zorStatusOddSize},
+        // Words with red in the lowest bits: red, green, blue, two of each.
+        {"zoriRGB565ToYUV422_16u8u_C3P3R",
+         {6, 1},
+         {{0x1f, 0, 0x1f, 0, 0xe0, 0x07, 0xe0, 0x07, 0, 0xf8, 0, 0xf8}},
+         {{74, 74, 147, 147, 28, 28}, {91, 55, 236}, {255, 0, 103}}},
+        {"zoriRGBToYUV_8u_AC4R", {1, 1}, {blue}, {{29, 239, 102, kept}}},
+        {"zoriRGBToYUV_8u_AC4P4R", {1, 1}, {blue}, {{29}, {239}, {102}, {77}}},
+        {"zoriYUV420ToRGB_8u_P3AC4R",
+         {2, 2},
+         block,
+         {{119, 72, 193, 0, 119, 72, 193, 0, 119, 72, 193, 0, 119, 72, 193, 0}}},
+        {"zoriYUV420ToBGR_8u_P3C3R", {2, 2}, block, {{193, 71, 119, 193, 71, 119, 193, 71, 119, 193, 71, 119}}},
+    };
+    for (const GoldenCall& call : calls) expectGolden(call);
 }
-
-TEST_P(YuvBytes, PlanarPairsWithOddEnd)
-{
-    const Bytes<9> rgb = {0, 0, 255, 0, 0, 0, 255, 0, 0};
-    Bytes<4> y, u, v;
-    y.fill(kept);
-    u.fill(kept);
-    v.fill(kept);
-    std::uint8_t* const planes[] = {y.data(), u.data(), v.data()};
-    const int steps[] = {4, 4, 4};
-    EXPECT_EQ(zoriRGBToYUV422_8u_C3P3R(rgb.data(), 9, planes, steps, {3, 1}), zorStatusOk);
-    EXPECT_EQ(y, (Bytes<4>{29, 0, 76, kept}));
-    EXPECT_EQ(u, (Bytes<4>{183, kept, kept, kept}));
-    EXPECT_EQ(v, (Bytes<4>{115, kept, kept, kept}));
-}
-
-// The last pixel takes its own U, 1, and the V of the pair before, 17: green 5880487 / 65536 = 89.7.
-TEST_P(YuvBytes, FromPackedPairsWithOddEnd)
-{
-    const Bytes<6> yuv = {100, 174, 100, 145, 100, 129};
-    Bytes<12> rgb;
-    rgb.fill(kept);
-    EXPECT_EQ(zoriYUV422ToRGB_8u_C2C3R(yuv.data(), 6, rgb.data(), 12, {3, 1}), zorStatusOk);
-    EXPECT_EQ(rgb, (Bytes<12>{119, 71, 193, 119, 71, 193, 119, 89, 102, kept, kept, kept}));
-}
-
-// One byte of chroma serves as U and V: green (6553600 - 63897) / 65536 = 99.02.
-TEST_P(YuvBytes, FromPackedPairsOneWide)
-{
-    const Bytes<4> yuv = {100, 129, 100, 127};
-    Bytes<6> rgb;
-    EXPECT_EQ(zoriYUV422ToRGB_8u_C2C3R(yuv.data(), 2, rgb.data(), 3, {1, 2}), zorStatusOk);
-    EXPECT_EQ(rgb, (Bytes<6>{101, 99, 102, 98, 100, 97}));
-}
-
-TEST_P(YuvBytes, FromPlanarPairsWithOddEnd)
-{
-    const Bytes<3> y = {100, 100, 100};
-    const std::uint8_t u = 174, v = 145;
-    const std::uint8_t* const planes[] = {y.data(), &u, &v};
-    const int steps[] = {3, 1, 1};
-    Bytes<9> rgb;
-    EXPECT_EQ(zoriYUV422ToRGB_8u_P3C3R(planes, steps, rgb.data(), 9, {3, 1}), zorStatusOk);
-    EXPECT_EQ(rgb, (Bytes<9>{119, 71, 193, 119, 71, 193, 119, 71, 193}));
-    EXPECT_EQ(zoriYUV422ToRGB_8u_P3C3R(planes, steps, rgb.data(), 9, {1, 1}), zorStatusOk);
-    EXPECT_EQ(rgb, (Bytes<9>{100, 100, 100, 119, 71, 193, 119, 71, 193}));
-}
-
-// Of 5 x 3 pixels the 4 x 2 in whole blocks.
-TEST_P(YuvBytes, BlocksOfOddImage)
-{
-    Bytes<45> rgb;
-    rgb.fill(255);
-    Bytes<15> y;
-    Bytes<6> u, v;
-    y.fill(kept);
-    u.fill(kept);
-    v.fill(kept);
-    std::uint8_t* const planes[] = {y.data(), u.data(), v.data()};
-    EXPECT_EQ(zoriRGBToYUV420_8u_C3P3(rgb.data(), planes, {5, 3}), zorStatusOddSize);
-    EXPECT_EQ(y, (Bytes<15>{255, 255, 255, 255, kept, 255, 255, 255, 255, kept, kept, kept, kept, kept, kept}));
-    EXPECT_EQ(u, (Bytes<6>{128, 128, kept, kept, kept, kept}));
-    EXPECT_EQ(v, (Bytes<6>{128, 128, kept, kept, kept, kept}));
-}
-
-// Red in the lowest bits.
-TEST_P(YuvBytes, Words565)
-{
-    const std::array<std::uint16_t, 6> words = {0x001f, 0x001f, 0x07e0, 0x07e0, 0xf800, 0xf800};
-    Bytes<6> y;
-    Bytes<3> u, v;
-    std::uint8_t* const planes[] = {y.data(), u.data(), v.data()};
-    const int steps[] = {6, 3, 3};
-    EXPECT_EQ(zoriRGB565ToYUV422_16u8u_C3P3R(words.data(), 12, planes, steps, {6, 1}), zorStatusOk);
-    EXPECT_EQ(y, (Bytes<6>{74, 74, 147, 147, 28, 28}));
-    EXPECT_EQ(u, (Bytes<3>{91, 55, 236}));
-    EXPECT_EQ(v, (Bytes<3>{255, 0, 103}));
-}
-
-TEST_P(YuvBytes, ChannelsAndAlpha)
-{
-    const Bytes<4> blue = {0, 0, 255, 77};
-    Bytes<4> yuva = {kept, kept, kept, kept};
-    EXPECT_EQ(zoriRGBToYUV_8u_AC4R(blue.data(), 4, yuva.data(), 4, {1, 1}), zorStatusOk);
-    EXPECT_EQ(yuva, (Bytes<4>{29, 239, 102, kept}));
-
-    Bytes<4> planar = {kept, kept, kept, kept};
-    std::uint8_t* const planes[] = {&planar[0], &planar[1], &planar[2], &planar[3]};
-    EXPECT_EQ(zoriRGBToYUV_8u_AC4P4R(blue.data(), 4, planes, 1, {1, 1}), zorStatusOk);
-    EXPECT_EQ(planar, (Bytes<4>{29, 239, 102, 77}));
-
-    const Bytes<4> y = {100, 100, 100, 100};
-    const std::uint8_t u = 174, v = 145;
-    const std::uint8_t* const yuv[] = {y.data(), &u, &v};
-    const int steps[] = {2, 1, 1};
-    Bytes<16> rgba;
-    rgba.fill(kept);
-    EXPECT_EQ(zoriYUV420ToRGB_8u_P3AC4R(yuv, steps, rgba.data(), 8, {2, 2}), zorStatusOk);
-    EXPECT_EQ(rgba, (Bytes<16>{119, 72, 193, 0, 119, 72, 193, 0, 119, 72, 193, 0, 119, 72, 193, 0}));
-    Bytes<12> bgr;
-    EXPECT_EQ(zoriYUV420ToBGR_8u_P3C3R(yuv, steps, bgr.data(), 6, {2, 2}), zorStatusOk);
-    EXPECT_EQ(bgr, (Bytes<12>{193, 71, 119, 193, 71, 119, 193, 71, 119, 193, 71, 119}));
-}
-
-INSTANTIATE_TEST_SUITE_P(Tiers, YuvBytes, testing::ValuesIn(tiersHere().begin(), tiersHere().end()),
-                         [](const auto& tier) { return nameOf(tier.param); });
 
 } // namespace
 } // namespace zorcc::test

@@ -2,9 +2,9 @@
 // The table of functions says what their names say.
 #include <gtest/gtest.h>
 
+#include <regex>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "interface/functions.h"
 
@@ -14,65 +14,51 @@ namespace {
 using namespace interface;
 using std::string_view;
 
-// The first of the words that opens the text, which loses it; empty when none does.
-string_view take(string_view& text, const std::vector<string_view>& words)
-{
-    for (const string_view word : words)
-        if (text.starts_with(word)) {
-            text.remove_prefix(word.size());
-            return word;
-        }
-    return {};
-}
+#define MODEL "(CFA|RGB|BGR|YUV|YCbCr|YCrCb|CbYCr|HLS|HSV)"
+#define PACKING "(422|420|411|1620|565)?"
+#define TYPE "(8u|16u|16s|32s|32f)"
+#define LAYOUT "(AC4|AP4|C1|C2|C3|C4|P2|P3|P4)"
 
-const std::vector<string_view> models = {"CFA", "RGB", "BGR", "YUV", "YCbCr", "YCrCb", "CbYCr", "HLS", "HSV"};
-const std::vector<string_view> packings = {"422", "420", "411", "1620", "565"};
-const std::vector<string_view> variants = {"709CSC_", "709HDTV_", "Filter_", "Interlace_"};
-const std::vector<string_view> types = {"8u", "16u", "16s", "32s", "32f"};
-const std::vector<string_view> layouts = {"AC4", "AP4", "C1", "C2", "C3", "C4", "P2", "P3", "P4"};
-
-// zori ReduceBits _ <type> [type] _ <layout> R, or
-// zori <model> [packing] [To [model] [packing]] _ [variant _] <type> [type] _ <layout> [layout] [R]; what is not said
-// of the destination is as in the source
+// What a name says; of the destination as of the source, where it says nothing.
 struct Name {
-    string_view model[2], packing[2], type[2], layout[2]; // source, destination
-    string_view variant;
+    std::string model[2], packing[2], type[2], layout[2]; // source, destination
+    std::string variant;
     bool steps = false, whole = false;
     bool reduction = false; // keeps the colour model, whichever it is
 
-    explicit Name(string_view text)
+    explicit Name(std::string text)
     {
-        bool known = !take(text, {"zori"}).empty();
-        reduction = !take(text, {"ReduceBits_"}).empty();
-        if (!take(text, {"DemosaicAHD"}).empty()) { // what it converts between goes without saying
-            model[0] = "CFA";
-            model[1] = "RGB";
-        }
-        for (int i = 0; i < 2 && !reduction; ++i) {
-            if (!model[i].empty()) continue;
-            if (i == 1 && take(text, {"To"}).empty()) break;
-            model[i] = take(text, models);
-            packing[i] = take(text, packings);
-        }
-        known = known && (reduction || (!model[0].empty() && !take(text, {"_"}).empty()));
-        if (packing[1].empty() && model[1].empty()) packing[1] = packing[0];
-        if (model[1].empty()) model[1] = model[0];
-        variant = take(text, variants);
-        takePair(text, types, type);
-        known = known && !take(text, {"_"}).empty();
-        takePair(text, layouts, layout);
-        steps = !take(text, {"R"}).empty();
-        whole = known && !type[0].empty() && !layout[0].empty() && text.empty();
-    }
-
-private:
-    static void takePair(string_view& text, const std::vector<string_view>& words, string_view (&pair)[2])
-    {
-        pair[0] = take(text, words);
-        pair[1] = take(text, words);
-        if (pair[1].empty()) pair[1] = pair[0];
+        // Operations whose names do not say the models.
+        const auto replace = [&](string_view operation, const char* models) {
+            if (!text.starts_with(operation)) return false;
+            text.replace(0, operation.size(), models);
+            return true;
+        };
+        reduction = replace("zoriReduceBits", "zoriRGB");
+        replace("zoriDemosaicAHD", "zoriCFAToRGB");
+        static const std::regex form("zori" MODEL PACKING "(To" MODEL "?" PACKING
+                                     ")?_((709CSC|709HDTV|Filter|Interlace)_)?" TYPE TYPE "?_" LAYOUT LAYOUT "?(R?)");
+        std::smatch word;
+        whole = std::regex_match(text, word, form);
+        if (!whole) return;
+        const auto pair = [&](std::string(&both)[2], int source, int destination) {
+            both[0] = word[source];
+            both[1] = word[word[destination].length() > 0 ? destination : source];
+        };
+        if (!reduction) pair(model, 1, 4);
+        packing[0] = word[2];
+        packing[1] = word[3].length() > 0 ? word[5] : word[2];
+        variant = word[7];
+        pair(type, 8, 9);
+        pair(layout, 10, 11);
+        steps = word[12].length() > 0;
     }
 };
+
+#undef MODEL
+#undef PACKING
+#undef TYPE
+#undef LAYOUT
 
 Sample sampleOf(string_view type)
 {
@@ -86,16 +72,16 @@ void expectImage(const Name& name, int i, const Format& format, bool array, bool
 {
     const auto isRgb = [&](int side) { return name.model[side] == "RGB" || name.model[side] == "BGR"; };
     const bool rgb = isRgb(i);
-    const Model model = name.reduction               ? (format.channels.size() == 1 ? Model::grey : Model::rgb)
-                        : rgb                        ? Model::rgb
-                        : name.model[i] == "CFA"     ? Model::mosaic
-                        : !isRgb(1 - i)              ? Model::anyYcc
-                        : name.model[i] == "YUV"     ? Model::yuv
-                        : name.model[i] == "HLS"     ? Model::hls
-                        : name.model[i] == "HSV"     ? Model::hsv
-                        : name.variant == "709CSC_"  ? Model::bt709
-                        : name.variant == "709HDTV_" ? Model::bt709full
-                                                     : Model::bt601;
+    const Model model = name.reduction              ? (format.channels.size() == 1 ? Model::grey : Model::rgb)
+                        : rgb                       ? Model::rgb
+                        : name.model[i] == "CFA"    ? Model::mosaic
+                        : !isRgb(1 - i)             ? Model::anyYcc
+                        : name.model[i] == "YUV"    ? Model::yuv
+                        : name.model[i] == "HLS"    ? Model::hls
+                        : name.model[i] == "HSV"    ? Model::hsv
+                        : name.variant == "709CSC"  ? Model::bt709
+                        : name.variant == "709HDTV" ? Model::bt709full
+                                                    : Model::bt601;
     EXPECT_EQ(format.model, model);
     if (rgb) {
         EXPECT_EQ(format.channels.substr(0, 3), name.model[i]);
@@ -133,7 +119,7 @@ TEST(Interface, TableSaysWhatNamesSay)
     ASSERT_FALSE(functions().empty());
     for (const Function& function : functions()) {
         SCOPED_TRACE(function.name);
-        const Name name(function.name);
+        const Name name(std::string(function.name));
         ASSERT_TRUE(name.whole) << "a name that this test cannot read";
         const Signature& signature = function.signature;
         EXPECT_EQ(signature.steps, name.steps);

@@ -26,9 +26,14 @@ def prototypes(header):
 
 
 def table_rows(table):
-    """Names of the functions of the interface table."""
+    """{name: title of its family} of the functions of the interface table."""
+    rows, family = {}, None
     with open(table, encoding="ascii") as file:
-        rows = re.findall(r"^ZOR_FUNCTION\((\w+),", file.read(), flags=re.M)
+        for kind, name, title in re.findall(r'^ZOR_(FAMILY|FUNCTION)\((\w+), (?:"(.*)")?', file.read(), flags=re.M):
+            if kind == "FAMILY":
+                family = title
+            else:
+                rows[name] = family
     if not rows:
         sys.exit(f"{table}: no functions found")
     return rows

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <iterator>
 #include <random>
-#include <vector>
 
 #include "tests/harness/cases.h"
 #include "tests/reference/reduce.h"
@@ -34,42 +33,10 @@ Extra anyArguments(const interface::Function& function, std::uint32_t seed)
     return extra;
 }
 
-constexpr struct {
-    std::string_view name;
-    ImageReference reference;
-} table[] = {
-    {"zoriReduceBits_8u_C1R", reduceBits},     {"zoriReduceBits_8u_C3R", reduceBits},
-    {"zoriReduceBits_8u_C4R", reduceBits},     {"zoriReduceBits_8u_AC4R", reduceBits},
-    {"zoriReduceBits_16u_C1R", reduceBits},    {"zoriReduceBits_16u_C3R", reduceBits},
-    {"zoriReduceBits_16u_C4R", reduceBits},    {"zoriReduceBits_16u_AC4R", reduceBits},
-    {"zoriReduceBits_16u8u_C1R", reduceBits},  {"zoriReduceBits_16u8u_C3R", reduceBits},
-    {"zoriReduceBits_16u8u_C4R", reduceBits},  {"zoriReduceBits_16u8u_AC4R", reduceBits},
-    {"zoriReduceBits_16s_C1R", reduceBits},    {"zoriReduceBits_16s_C3R", reduceBits},
-    {"zoriReduceBits_16s_C4R", reduceBits},    {"zoriReduceBits_16s_AC4R", reduceBits},
-    {"zoriReduceBits_16s8u_C1R", reduceBits},  {"zoriReduceBits_16s8u_C3R", reduceBits},
-    {"zoriReduceBits_16s8u_C4R", reduceBits},  {"zoriReduceBits_16s8u_AC4R", reduceBits},
-    {"zoriReduceBits_32f8u_C1R", reduceBits},  {"zoriReduceBits_32f8u_C3R", reduceBits},
-    {"zoriReduceBits_32f8u_C4R", reduceBits},  {"zoriReduceBits_32f8u_AC4R", reduceBits},
-    {"zoriReduceBits_32f16u_C1R", reduceBits}, {"zoriReduceBits_32f16u_C3R", reduceBits},
-    {"zoriReduceBits_32f16u_C4R", reduceBits}, {"zoriReduceBits_32f16u_AC4R", reduceBits},
-    {"zoriReduceBits_32f16s_C1R", reduceBits}, {"zoriReduceBits_32f16s_C3R", reduceBits},
-    {"zoriReduceBits_32f16s_C4R", reduceBits}, {"zoriReduceBits_32f16s_AC4R", reduceBits},
-};
-
-std::vector<Case> allCases()
-{
-    std::vector<Case> cases;
-    for (const auto& row : table)
-        cases.push_back({.name = row.name, .imageReference = row.reference, .arguments = anyArguments});
-    return cases;
-}
+constexpr Case rules[] = {{.name = "zoriReduceBits_*", .imageReference = reduceBits, .arguments = anyArguments}};
 
 } // namespace
 
-std::span<const Case> familyCases()
-{
-    static const std::vector<Case> cases = allCases();
-    return cases;
-}
+Family family() { return {"Bit-depth reduction", rules}; }
 
 } // namespace zorcc::test

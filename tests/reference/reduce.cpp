@@ -105,46 +105,18 @@ double levelValue(double k, float destinationWhite, int levels)
     return static_cast<double>(value / (levels - 1));
 }
 
-// What error diffusion gathers, in the order in which it is added.
-struct Tap {
-    int dx, dy;
-    float weight;
+// Weights of what error diffusion gathers, in the order in which it is added: from the left neighbour and the one
+// before it, from the row above and from the one above that, each from two columns to the left to two to the right.
+struct Diffusion {
+    float own[2], above[5], twoAbove[5], divisor;
 };
 
-struct Diffusion {
-    std::vector<Tap> taps;
-    float divisor;
-};
+constexpr Diffusion floydSteinberg = {{7, 0}, {0, 1, 5, 3, 0}, {}, 16};
+constexpr Diffusion jarvisJudiceNinke = {{7, 5}, {3, 5, 7, 5, 3}, {1, 3, 5, 3, 1}, 48};
+constexpr Diffusion stucki = {{8, 4}, {2, 4, 8, 4, 2}, {1, 2, 4, 2, 1}, 42};
 
 const Diffusion& diffusionOf(ZorDitherMethod method)
 {
-    static const Diffusion floydSteinberg = {{{-1, 0, 7}, {-1, -1, 1}, {0, -1, 5}, {1, -1, 3}}, 16};
-    static const Diffusion jarvisJudiceNinke = {{{-1, 0, 7},
-                                                 {-2, 0, 5},
-                                                 {-2, -1, 3},
-                                                 {-1, -1, 5},
-                                                 {0, -1, 7},
-                                                 {1, -1, 5},
-                                                 {2, -1, 3},
-                                                 {-2, -2, 1},
-                                                 {-1, -2, 3},
-                                                 {0, -2, 5},
-                                                 {1, -2, 3},
-                                                 {2, -2, 1}},
-                                                48};
-    static const Diffusion stucki = {{{-1, 0, 8},
-                                      {-2, 0, 4},
-                                      {-2, -1, 2},
-                                      {-1, -1, 4},
-                                      {0, -1, 8},
-                                      {1, -1, 4},
-                                      {2, -1, 2},
-                                      {-2, -2, 1},
-                                      {-1, -2, 2},
-                                      {0, -2, 4},
-                                      {1, -2, 2},
-                                      {2, -2, 1}},
-                                     42};
     return method == zorDitherMethodFloydSteinberg      ? floydSteinberg
            : method == zorDitherMethodJarvisJudiceNinke ? jarvisJudiceNinke
                                                         : stucki;
@@ -166,12 +138,12 @@ void diffuse(const Samples& from, const Samples& to, int channel, ZorSize size, 
     };
     for (int y = 0; y < size.height; ++y)
         for (int x = 0; x < size.width; ++x) {
-            float sum = 0;
-            for (const Tap& tap : diffusion.taps) {
-                const int column = x + tap.dx, row = y + tap.dy;
-                const bool exists = column >= 0 && column < size.width && row >= 0;
-                sum += tap.weight * (exists ? error(column, row) : 0.0f);
-            }
+            const auto at = [&](int column, int row) {
+                return column >= 0 && column < size.width && row >= 0 ? error(column, row) : 0.0f;
+            };
+            float sum = diffusion.own[0] * at(x - 1, y) + diffusion.own[1] * at(x - 2, y);
+            for (int i = 0; i < 5; ++i) sum += diffusion.above[i] * at(x + i - 2, y - 1);
+            for (int i = 0; i < 5; ++i) sum += diffusion.twoAbove[i] * at(x + i - 2, y - 2);
             const float v = from.get(x, y, channel) + sum * reciprocal;
             if (v >= white) {
                 to.put(x, y, channel, to.white);

@@ -74,18 +74,6 @@ class Call(unittest.TestCase):
                 found = compare("smooth.ppm", "result.png")["all"][0]
                 self.assertGreater(found, 33 if "565" in name else 40)
 
-    def test_known_colours(self):
-        write_ppm("colours.ppm", 3, 1, [255, 255, 255, 0, 0, 255, 255, 0, 0])
-        zorcc("call", "zoriRGBToYUV_8u_C3R", "colours.ppm", "colours.yuv")
-        self.assertEqual(list(read("colours.yuv")), [255, 128, 128, 29, 239, 102, 76, 90, 255])
-
-    def test_hexcone_colours(self):
-        write_ppm("colours.ppm", 4, 1, [200, 100, 50, 77, 77, 77, 0, 0, 255, 200, 90, 70])
-        zorcc("call", "zoriRGBToHLS_8u_C3R", "colours.ppm", "hls.raw")
-        self.assertEqual(list(read("hls.raw")), [14, 125, 153, 0, 77, 0, 170, 127, 255, 6, 135, 138])
-        zorcc("call", "zoriRGBToHSV_8u_C3R", "colours.ppm", "hsv.raw")
-        self.assertEqual(list(read("hsv.raw")), [14, 191, 200, 0, 0, 77, 170, 255, 255, 6, 165, 200])
-
     def test_planes(self):
         write_ppm("colours.ppm", 3, 1, [255, 255, 255, 0, 0, 255, 255, 0, 0])
         zorcc("call", "zoriRGBToYUV_8u_C3P3R", "colours.ppm", "y.pgm", "u.pgm", "v.pgm")
@@ -134,12 +122,21 @@ class Call(unittest.TestCase):
         zorcc("call", "zoriYUV422ToRGB_8u_C2C3R", "--size", "2x1", "pair.yuv", "pair.ppm")
         self.assertEqual(list(read_pnm("pair.ppm")[3]), [10, 10, 10, 20, 20, 20])
 
-    def test_stats(self):
+
+class Stats(unittest.TestCase):
+    def test_one_line(self):
         zorcc("chart", "c.png", "--size", "320x200")
-        for option in ("--stats", "-v", "--verbose"):
-            line = zorcc("call", "zoriRGBToYUV420_8u_C3P3R", "c.png", "c.y4m", "--repeat", "3", option)
-            self.assertRegex(line, r"^zoriRGBToYUV420_8u_C3P3R: 1 picture of 320x200, "
-                                   r"[0-9.]+ megapixels/s \(best of 3\)\n$")
+        write("grey.pgm", b"P5\n320 200\n255\n" + bytes(320 * 200))
+        commands = {"call zoriRGBToYUV420_8u_C3P3R c.png c.y4m": "zoriRGBToYUV420_8u_C3P3R",
+                    "reduce c.png r.png": "zoriReduceBits_8u_C3R",
+                    "demosaic grey.pgm d.png --method gradient": "zoriCFAToRGB_8u_C1C3R",
+                    "convert c.png c.y4m": "zoriRGBToYUV420_8u_C3P3R"}
+        for command, function in commands.items():
+            for option in ("--stats", "-v", "--verbose"):
+                with self.subTest(command=command, option=option):
+                    line = zorcc(*command.split(), "--repeat", "3", option)
+                    self.assertRegex(line, "^" + function + r": 1 picture of 320x200, "
+                                                            r"[0-9.]+ megapixels/s \(best of 3\)\n$")
 
 
 class Reduce(unittest.TestCase):
@@ -189,11 +186,6 @@ class Reduce(unittest.TestCase):
         zorcc("reduce", "float.pfm", "out.pfm", "--dither", "none", "--levels", "3")
         for value, wanted in zip(struct.unpack("<4f", read("out.pfm")[-16:]), (0, 0.5, 0.5, 0), strict=True):
             self.assertAlmostEqual(value, wanted, delta=1e-4)
-
-    def test_stats(self):
-        write("ramp.pgm", b"P5\n256 16\n255\n" + self.RAMP)
-        self.assertRegex(zorcc("reduce", "ramp.pgm", "out.pgm", "--stats"), r"^zoriReduceBits_8u_C1R: 1 picture of 256x16")
-
 
 class Convert(unittest.TestCase):
     # Floors in dB for the chart, whose finest details shared chroma cannot hold nor V its purest red, and the gradient.

@@ -62,11 +62,6 @@ class Demosaic(unittest.TestCase):
         zorcc("demosaic", "cell.pgm", "cell.ppm", "--grid", "bggr", "--method", "gradient")
         self.assertEqual(list(read_pnm("cell.ppm")[3]), [40, 25, 10, 40, 20, 10, 40, 30, 10, 40, 25, 10])
 
-    def test_stats(self):
-        write_pgm("m.pgm", WIDTH, HEIGHT, mosaic(picture(), "rggb"))
-        line = zorcc("demosaic", "m.pgm", "m.png", "--method", "gradient", "--repeat", 3, "--stats")
-        self.assertRegex(line, r"^zoriCFAToRGB_8u_C1C3R: 1 picture of 61x43, [0-9.]+ megapixels/s \(best of 3\)\n$")
-
 
 @unittest.skipUnless(os.path.isdir(PICTURES), "no pictures")
 class RealMosaics(unittest.TestCase):

@@ -38,15 +38,6 @@ TEST_P(Pictures, Png)
     }
 }
 
-TEST_P(Pictures, Clip)
-{
-    const interface::Format& source = *functionOf(GetParam()).source;
-    if (source.name != interface::formats::yuv420p.name) return; // not what a clip holds
-    Checker checker(GetParam(), functionOf(GetParam()));
-    const Clip clip = readY4m(folder + "/cockatoo_352x288_10f_420.y4m");
-    EXPECT_TRUE(checker.check({clip.size}, [&](TestImage& image) { fill(image, clip); }));
-}
-
 INSTANTIATE_TEST_SUITE_P(Functions, Pictures, testing::ValuesIn(familyCases().begin(), familyCases().end()),
                          caseName<testing::TestParamInfo<Case>>);
 
