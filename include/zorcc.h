@@ -237,15 +237,21 @@ ZOR_API ZorStatus zoriYCbCr411ToBGR_8u_P3C4R(const uint8_t* const pSrc[3], const
 /*
  * ---- BGR and YCbCr (ITU-R BT.709) -----------------------------------------------------------------------------------
  *
- * 709CSC is studio range (Y 16..235, Cb and Cr 16..240), 709HDTV full range (luma 0..255, chroma around 128,
- * saturated): CSC   Y = 0.183 R + 0.614 G + 0.062 B + 16,  Cb = -0.101 R - 0.338 G + 0.439 B + 128, Cr = 0.439 R -
- * 0.399 G - 0.040 B + 128 R = 1.164 (Y - 16) + 1.793 (Cr - 128),  G = 1.164 (Y - 16) - 0.213 (Cb - 128) - 0.534 (Cr -
- * 128), B = 1.164 (Y - 16) + 2.115 (Cb - 128) HDTV  Y = 0.213 R + 0.715 G + 0.072 B,  Cb = -0.117 R - 0.394 G + 0.511 B
- * + 128, Cr = 0.511 R - 0.464 G - 0.047 B + 128 R = Y + 1.540 (Cr - 128),  G = Y - 0.183 (Cb - 128) - 0.459 (Cr - 128),
- * B = Y + 1.816 (Cb - 128) Rounded to nearest, but 4:2:0 chroma down from an eighth above. Channel 0 is B; YCrCb images
- * have Cr in plane 1. Chroma is shared and repeated as in the BT.601 functions; 4:2:0 functions give zorStatusOddSize
- * for odd sizes, as there. Steps are not checked. All of these run on the calling thread. C4: the fourth byte of every
- * pixel is `aval`.
+ * 709CSC is studio range (Y 16..235, Cb and Cr 16..240):
+ *
+ *   Y  =  0.183 R + 0.614 G + 0.062 B + 16      R = 1.164 (Y - 16)                      + 1.793 (Cr - 128)
+ *   Cb = -0.101 R - 0.338 G + 0.439 B + 128     G = 1.164 (Y - 16) - 0.213 (Cb - 128) - 0.534 (Cr - 128)
+ *   Cr =  0.439 R - 0.399 G - 0.040 B + 128     B = 1.164 (Y - 16) + 2.115 (Cb - 128)
+ *
+ * 709HDTV is full range (luma 0..255, chroma around 128), saturated:
+ *
+ *   Y  =  0.213 R + 0.715 G + 0.072 B           R = Y                      + 1.540 (Cr - 128)
+ *   Cb = -0.117 R - 0.394 G + 0.511 B + 128     G = Y - 0.183 (Cb - 128) - 0.459 (Cr - 128)
+ *   Cr =  0.511 R - 0.464 G - 0.047 B + 128     B = Y + 1.816 (Cb - 128)
+ *
+ * Rounded to nearest, but 4:2:0 chroma down from an eighth above. Channel 0 is B; YCrCb images have Cr in plane 1.
+ * Chroma is shared and repeated as in the BT.601 functions; 4:2:0 functions give zorStatusOddSize for odd sizes, as
+ * there. Steps are not checked. All of these run on the calling thread. C4: the fourth byte of every pixel is `aval`.
  */
 
 /* BGR to planar 4:2:0. */
