@@ -326,20 +326,19 @@ ZORCC_INLINE void deinterleave3(const uint8_t* p, Vec<float> (&channel)[3])
     u8v bytes[3];
     loadBlocks(p, bytes);
     using V = Vec<float>;
-    const V u = (V)bytes[0], v = (V)bytes[1], w = (V)bytes[2]; // A0 B0 C0 A1, B1 C1 A2 B2, C2 A3 B3 C3
-    channel[0] = pick<0, 3, 0, 2>(u, pick<2, 2, 1, 1>(v, w));
-    channel[1] = pick<0, 2, 0, 2>(pick<1, 1, 0, 0>(u, v), pick<3, 3, 2, 2>(v, w));
-    channel[2] = pick<0, 2, 0, 3>(pick<2, 2, 1, 1>(u, v), w);
+    const V u = (V)bytes[0], v = (V)bytes[1], w = (V)bytes[2];        // A0 B0 C0 A1, B1 C1 A2 B2, C2 A3 B3 C3
+    const V bc = pick<1, 2, 0, 1>(u, v), ab = pick<2, 3, 1, 2>(v, w); // B0 C0 B1 C1, A2 B2 A3 B3
+    channel[0] = pick<0, 3, 0, 2>(u, ab);
+    channel[1] = pick<0, 2, 1, 3>(bc, ab);
+    channel[2] = pick<1, 3, 0, 3>(bc, w);
 }
 
 template <Columns columns> ZORCC_INLINE void interleave3(uint8_t* p, const Vec<float> (&channel)[3])
 {
     using V = Vec<float>;
     const V a = channel[0], b = channel[1], c = channel[2];
-    const V ca = pick<0, 2, 1, 3>(c, a); // C0 C2 A1 A3
-    const u8v v[3] = {(u8v)pick<0, 1, 0, 2>(zipLow(a, b), ca),
-                      (u8v)pick<0, 2, 0, 1>(pick<1, 1, 1, 1>(b, c), zipHigh(a, b)),
-                      (u8v)pick<1, 3, 2, 3>(ca, zipHigh(b, c))};
+    const V ab = pick<0, 2, 0, 2>(a, b), bc = pick<1, 3, 1, 3>(b, c), ca = pick<0, 2, 1, 3>(c, a);
+    const u8v v[3] = {(u8v)pick<0, 2, 0, 2>(ab, ca), (u8v)pick<0, 2, 1, 3>(bc, ab), (u8v)pick<1, 3, 1, 3>(ca, bc)};
     storeBlocks(p, v);
 }
 
