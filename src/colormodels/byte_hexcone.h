@@ -64,7 +64,8 @@ private:
     __mmask64 upper;
 };
 
-// 255 v / divisor, rounded down.
+// 255 v / divisor, rounded down, v not above the divisor. Single precision, truncated, gives the same for all bytes.
+// 255 / divisor is 1 and a fraction.
 ZORCC_INLINE u8v ratio(u8v v, u8v divisor)
 {
     const Divisors by(divisor);

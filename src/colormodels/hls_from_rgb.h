@@ -24,6 +24,10 @@ template <class Sample> ZORCC_INLINE Vec<Sample> divisorOf(const Hexcone<Sample>
     return minimum(addSaturate(cone.most, cone.least), addSaturate(~cone.most, ~cone.least));
 }
 
+// Where the sextant begins, from which the hue goes up, or ends, from which it goes down; less than zero for these, so
+// that the size of the sum is the hue. In degrees.
+constexpr Table<float> hueFrom = bySextant<float>(0, -120, 120, -240, 240, -360);
+
 // From RGB of unsigned integers.
 template <class Sample> struct RgbToHls {
     using V = Vec<Sample>;
@@ -46,15 +50,11 @@ template <class Sample> struct RgbToHls {
     {
         const V one = V{} + 1;
         const auto chroma = toFloat(widen(maximum(of.chroma, one))), limit = toFloat(widen(maximum(of.divisor, one)));
-        // The difference of the channels other than the largest, less than zero in odd sextants, and degrees where the
-        // largest channel's third has its middle: 360 for red where the sum would get negative.
-        const V odd = lookUp(oddByOrder, of.order);
-        const auto difference = scaleDifference<60>((of.rise ^ odd) - odd, odd);
-        const auto middle = lookUp(bySextant<float>(0, 120, 120, 240, 240, 360), of.order);
+        const auto rise = toFloat(widen(of.rise)), from = lookUp(hueFrom, of.order);
         Widened<partsOf<Sample>> h, s;
         for (int p = 0; p < partsOf<Sample>; ++p) {
             const f32v d = chroma.part[p];
-            h.part[p] = truncate((difference.part[p] / d + middle.part[p]) * Range<Sample>::fromDegrees);
+            h.part[p] = truncate(absolute(rise.part[p] * 60 / d + from.part[p]) * Range<Sample>::fromDegrees);
             s.part[p] = truncate(d / limit.part[p] * Range<Sample>::most);
         }
         return {{{narrow<Sample>(h), of.lightness, narrow<Sample>(s) & ~(V)(of.chroma == 0)}}};
@@ -89,7 +89,10 @@ private:
 
 template <> struct RgbToHls<float> {
     struct Prepared {
-        f32v lightness, chroma, divisor, scaledRise, from;
+        f32v lightness, chroma;
+        f32v divisor; // of the saturation: the sum up to a lightness of 1/2
+        f32v rise;    // in sixtieths
+        f32v from;
     };
 
     Prepared prepare(const Samples<float>& rgb) const
@@ -97,16 +100,13 @@ template <> struct RgbToHls<float> {
         const auto [r, g, b] = rgb.c[0];
         const Hexcone<float> cone(r, g, b);
         const f32v sum = cone.most + cone.least;
-        // Degrees upwards from where the sextant begins or downwards from where it ends; less than zero for these, so
-        // that their size is the hue.
-        const f32v from = lookUp(bySextant<float>(0, -120, 120, -240, 240, -360), cone.order);
-        // The sum up to a lightness of 1/2.
-        return {sum * 0.5f, cone.chroma, minimum(sum, 2 - sum), (cone.middle - cone.least) * 60, from};
+        return {sum * 0.5f, cone.chroma, minimum(sum, 2 - sum), (cone.middle - cone.least) * 60,
+                lookUp(hueFrom, cone.order)};
     }
 
     Samples<float> operator()(const Prepared& of) const
     {
-        const f32v degrees = absolute(of.scaledRise / of.chroma + of.from), none = {};
+        const f32v degrees = absolute(of.rise / of.chroma + of.from), none = {};
         const s32v coloured = of.chroma > 1.1920929e-7f;
         return {{{divideBy<360>(coloured ? degrees : none), of.lightness, coloured ? of.chroma / of.divisor : none}}};
     }

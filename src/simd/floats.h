@@ -110,21 +110,6 @@ ZORCC_INLINE Widened<2> widen(s16v v) // the sign comes along
     return {{(s32v)zipLow(v, v) >> 16, (s32v)zipHigh(v, v) >> 16}};
 }
 
-// `factor` times a difference that has wrapped, from its sign: 0, or all bits set.
-template <int factor> ZORCC_INLINE Floats<2> scaleDifference(u16v v, u16v sign)
-{
-    const auto scaled = [](u16v wide) { return toFloat((s32v)wide) * static_cast<float>(factor); };
-    return {{scaled(zipLow(v, sign)), scaled(zipHigh(v, sign))}};
-}
-
-template <int factor> ZORCC_INLINE Floats<4> scaleDifference(u8v v, u8v sign)
-{
-    const s16v low = (s16v)zipLow(v, sign), high = (s16v)zipHigh(v, sign), none = {};
-    const auto scaled = [](s16v pairs) { return toFloat(mulAddPairs(pairs, fillPair16(factor, 0))); };
-    return {{scaled(zipLow(low, none)), scaled(zipHigh(low, none)), scaled(zipLow(high, none)),
-             scaled(zipHigh(high, none))}};
-}
-
 // Saturated to the sample's range.
 ZORCC_INLINE u8v narrowToU8(const Widened<4>& v)
 {
