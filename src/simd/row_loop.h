@@ -49,6 +49,23 @@ ZORCC_INLINE void convertShortRow(const Source from, const Formula formula, cons
     destination.copyTo(to, width);
 }
 
+// Formulas of wide samples have some hundred instructions for a line of cache, so that what a processor looks ahead
+// holds few lines; images beyond the caches gain a tenth to twice their speed when lines are asked for this far ahead.
+// Bytes have too many pixels in a line for that. `width` is a multiple of a load's pixels: what lies behind the row is
+// not asked for.
+constexpr int prefetchedBytes = 1024;
+template <class Layout> ZORCC_INLINE void prefetchAhead(const Layout& row, int x, int width)
+{
+    if constexpr (requires { typename Layout::Sample; }) {
+        constexpr int step = Layout::pixelsAtOnce;
+        constexpr int ahead = (prefetchedBytes / Layout::unit[0].bytes + step - 1) / step * step;
+        if (sizeof(typename Layout::Sample) == 1 || x + ahead >= width) return;
+        for (int p = 0; p < Layout::planes; ++p)
+            for (ptrdiff_t b = 0; b < Layout::unit[p].offset(step); b += 64)
+                __builtin_prefetch(row.at(p, x + ahead) + b);
+    }
+}
+
 // Converts `width` pixels, a multiple of a load's and at least one.
 template <class Source, class Formula, class Destination>
 ZORCC_INLINE void convertVectors(const Source from, const Formula formula, const Destination to, int width)
@@ -59,13 +76,19 @@ ZORCC_INLINE void convertVectors(const Source from, const Formula formula, const
         // not look far ahead, finds work while divisions last.
         auto next = formula.prepare(from.load(0));
         for (int x = step; x < width; x += step) {
+            prefetchAhead(from, x, width);
+            prefetchAhead(to, x, width);
             const auto current = next;
             next = formula.prepare(from.load(x));
             to.store(x - step, formula(current));
         }
         to.store(width - step, formula(next));
     } else {
-        for (int x = 0; x < width; x += step) to.store(x, formula(from.load(x)));
+        for (int x = 0; x < width; x += step) {
+            prefetchAhead(from, x, width);
+            prefetchAhead(to, x, width);
+            to.store(x, formula(from.load(x)));
+        }
     }
 }
 
