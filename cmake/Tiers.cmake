@@ -13,7 +13,11 @@ function(zorcc_add_tiers target)
     target_compile_options(${target}_${tier} PRIVATE ${ZORCC_TIER_FLAGS_${tier}} -fno-exceptions -fno-rtti)
     # Kernels are short loops over channels and rows that must be unrolled, which g++ does at -O3 only. Under sanitizers
     # that takes half as long again as at -O1, and finds nothing more.
-    target_compile_options(${target}_${tier} PRIVATE $<$<NOT:$<CONFIG:Debug>>:$<IF:$<BOOL:${ZORCC_SANITIZE}>,-O1,-O3>>)
+    set(optimisation -O3)
+    if(ZORCC_SANITIZE)
+      set(optimisation -O1)
+    endif()
+    target_compile_options(${target}_${tier} PRIVATE $<$<NOT:$<CONFIG:Debug>>:${optimisation}>)
     # g++ 12 takes the undefined operands inside its own AVX-512 headers for uninitialised variables.
     target_compile_options(${target}_${tier} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-Wno-uninitialized>
       $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
