@@ -81,12 +81,12 @@ ZORCC_INLINE u8v ratio(u8v v, u8v divisor)
 struct FallsShort {
     alignas(64) uint8_t sextants[64];
 
-    // `hue(sextant, v, d)`: the model's hue of v / d of a sextant, 0 to 255.
+    // `hue(sextant, v, chroma)`: the model's hue of v / chroma of a sextant, 0 to 255.
     template <class Hue> constexpr explicit FallsShort(Hue hue) : sextants{}
     {
         for (int s = 0; s < 6; ++s)
             for (int v = s % 2; v <= 85; v += 2)
-                if (static_cast<int>(hue(s, v, 85)) < (85 * s + v) / 2)
+                if (static_cast<int>(hue(s, static_cast<float>(v), 85.0f)) < (85 * s + v) / 2)
                     sextants[(v + 1) / 2] = static_cast<uint8_t>(sextants[(v + 1) / 2] | 1 << s);
     }
 };
@@ -107,10 +107,10 @@ ZORCC_INLINE u8v hueOf(const Hexcone<uint8_t>& cone, const FallsShort& fallsShor
     // Half of (85 sextant + whole): an odd sextant leaves a half, which rounds up. In even ones the average is 128
     // more.
     const u8v half = averageUp(whole, even);
-    const u8v hue = half + lookUp(bySextant<uint8_t>(128, 42, 128 + 85, 127, 128 + 170 - 256, 212, 128), cone.order);
+    const u8v hue = half + lookUp(bySextant<uint8_t>({128, 42, 128 + 85, 127, 128 + 170 - 256, 212}, 128), cone.order);
 
     const u8v candidates = (u8v)_mm512_permutexvar_epi8(reg(half), reg(load(fallsShort.sextants)));
-    const u8v sextant = lookUp(bySextant<uint8_t>(1, 2, 4, 8, 16, 32), cone.order);
+    const u8v sextant = lookUp(bySextant<uint8_t>({1, 2, 4, 8, 16, 32}), cone.order);
     __mmask64 less = _mm512_testn_epi8_mask(reg(fraction), reg(fraction));
     less = _mm512_mask_test_epi8_mask(less, reg(candidates), reg(sextant));
     less = _mm512_mask_test_epi8_mask(less, reg(whole ^ even), reg(fill8(1)));

@@ -33,12 +33,12 @@ template <class Sample> struct Hexcone {
 // A table by Hexcone::order of what belongs to the six sextants, from red by yellow, green, cyan and blue to magenta,
 // and to grey. In the even ones the middle channel's share grows with the hue, in the odd ones it falls. On a border
 // between two either will do. No colour has the order 0.
-template <class T> constexpr Table<T> bySextant(T s0, T s1, T s2, T s3, T s4, T s5, T grey = 0)
+template <class T> constexpr Table<T> bySextant(const T (&s)[6], T grey = 0)
 {
-    return {{0, s5, s1, s0, s3, s4, s2, grey}};
+    return {{0, s[5], s[1], s[0], s[3], s[4], s[2], grey}};
 }
 // Odd sextants as masks, by order and by number.
-constexpr Table<uint8_t> oddByOrder = bySextant<uint8_t>(0, 255, 0, 255, 0, 255);
+constexpr Table<uint8_t> oddByOrder = bySextant<uint8_t>({0, 255, 0, 255, 0, 255});
 constexpr Table<uint8_t> oddSextants = {{0, 255, 0, 255, 0, 255}};
 
 // The two sextants as a mask.

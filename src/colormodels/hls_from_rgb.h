@@ -24,9 +24,13 @@ template <class Sample> ZORCC_INLINE Vec<Sample> divisorOf(const Hexcone<Sample>
     return minimum(addSaturate(cone.most, cone.least), addSaturate(~cone.most, ~cone.least));
 }
 
-// Where the sextant begins, from which the hue goes up, or ends, from which it goes down; less than zero for these, so
-// that the size of the sum is the hue. In degrees.
-constexpr Table<float> hueFrom = bySextant<float>(0, -120, 120, -240, 240, -360);
+// By sextant, in degrees: where it begins, from which the hue goes up, or ends, from which it goes down; less than zero
+// for these, so that the size of the sum is the hue.
+constexpr float hueFrom[] = {0, -120, 120, -240, 240, -360};
+constexpr Table<float> hueFromByOrder = bySextant(hueFrom);
+
+// Of 60 times what the middle channel rises above the least.
+template <class F> constexpr F degrees(F rise60, F chroma, F from) { return absolute(rise60 / chroma + from); }
 
 // From RGB of unsigned integers.
 template <class Sample> struct RgbToHls {
@@ -50,11 +54,11 @@ template <class Sample> struct RgbToHls {
     {
         const V one = V{} + 1;
         const auto chroma = toFloat(widen(maximum(of.chroma, one))), limit = toFloat(widen(maximum(of.divisor, one)));
-        const auto rise = toFloat(widen(of.rise)), from = lookUp(hueFrom, of.order);
+        const auto rise = toFloat(widen(of.rise)), from = lookUp(hueFromByOrder, of.order);
         Widened<partsOf<Sample>> h, s;
         for (int p = 0; p < partsOf<Sample>; ++p) {
             const f32v d = chroma.part[p];
-            h.part[p] = truncate(absolute(rise.part[p] * 60 / d + from.part[p]) * Range<Sample>::fromDegrees);
+            h.part[p] = truncate(degrees(rise.part[p] * 60, d, from.part[p]) * Range<Sample>::fromDegrees);
             s.part[p] = truncate(d / limit.part[p] * Range<Sample>::most);
         }
         return {{{narrow<Sample>(h), of.lightness, narrow<Sample>(s) & ~(V)(of.chroma == 0)}}};
@@ -80,9 +84,9 @@ template <> struct RgbToHls<uint8_t> {
     }
 
 private:
-    static constexpr FallsShort fallsShort{[](int sextant, int v, int d) {
-        const float share = static_cast<float>(60 * (sextant % 2 ? v - d : v)) / static_cast<float>(d);
-        return (share + static_cast<float>((sextant + 1) / 2 * 120)) * Range<uint8_t>::fromDegrees;
+    static constexpr FallsShort fallsShort{[](int sextant, float v, float chroma) {
+        const float rise = sextant % 2 ? chroma - v : v;
+        return degrees(60 * rise, chroma, hueFrom[sextant]) * Range<uint8_t>::fromDegrees;
     }};
 };
 #endif
@@ -91,7 +95,7 @@ template <> struct RgbToHls<float> {
     struct Prepared {
         f32v lightness, chroma;
         f32v divisor; // of the saturation: the sum up to a lightness of 1/2
-        f32v rise;    // in sixtieths
+        f32v rise60;  // 60 times what the middle channel rises above the least
         f32v from;
     };
 
@@ -101,14 +105,14 @@ template <> struct RgbToHls<float> {
         const Hexcone<float> cone(r, g, b);
         const f32v sum = cone.most + cone.least;
         return {sum * 0.5f, cone.chroma, minimum(sum, 2 - sum), (cone.middle - cone.least) * 60,
-                lookUp(hueFrom, cone.order)};
+                lookUp(hueFromByOrder, cone.order)};
     }
 
     Samples<float> operator()(const Prepared& of) const
     {
-        const f32v degrees = absolute(of.rise / of.chroma + of.from), none = {};
+        const f32v hue = degrees(of.rise60, of.chroma, of.from), none = {};
         const s32v coloured = of.chroma > 1.1920929e-7f;
-        return {{{divideBy<360>(coloured ? degrees : none), of.lightness, coloured ? of.chroma / of.divisor : none}}};
+        return {{{divideBy<360>(coloured ? hue : none), of.lightness, coloured ? of.chroma / of.divisor : none}}};
     }
 };
 

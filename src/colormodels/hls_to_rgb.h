@@ -60,7 +60,8 @@ template <class Sample> struct HlsToRgb {
     }
 
 private:
-    // On the border between two sextants, either: there the channel is low or high in both.
+    // Sixths of the range, by products with 6 that are raised so that no hue beyond a border falls short of it. On the
+    // border between two sextants either will do: there the channel is low or high in both.
     static u8v sextantOf(u8v hue)
     {
         const u8v one = fill8(1);
@@ -84,6 +85,7 @@ template <> struct HlsToRgb<float> {
                 {maximum(red - 360, 240 - red), minimum(h, 240 - h), minimum(blue, 240 - blue)}};
     }
 
+    // Where a channel begins to fall it is high, not low plus all of the difference, which may be off by a digit.
     Samples<float> operator()(const Prepared& of) const
     {
         Samples<float> rgb;

@@ -12,8 +12,24 @@ namespace {
 
 enum class Conversion { truncating, rounding };
 
+// Hue in sixths is 0, 2 or 4 by the largest channel, plus the distance of one of the others from it, less that of the
+// other, in units of chroma. The greater distance is 1. With the other one, q, that is (1, 3 or 5) - q in even
+// sextants, here the size of q less that, and ((0, 2 or 4) + q) - 1 in odd ones.
+//
+// The red hues of odd sextants are q - 1, below zero, plus 6. Truncated to bytes they are the same as those of 5 + q,
+// raised by more than it is rounded by and less than any of these quotients lacks to the next byte. (Anything from
+// 2^-21 to 2^-15 would do; the tests go through all colours.)
+template <Conversion conversion> struct Sixths {
+    static constexpr bool wraps = conversion == Conversion::rounding;
+    static constexpr float start[6] = {-1, 2, -3, 4, -5, wraps ? 0 : 5}; // by sextant
+    static constexpr float correction[6] = {0, -1, 0, -1, 0, wraps ? -1 : 0x1p-18f};
+
+    template <class F> static constexpr F of(F q, F from, F more) { return absolute(from + q) + more; }
+};
+
 template <class Sample, Conversion conversion> struct RgbToHsv {
     using V = Vec<Sample>;
+    using Hue = Sixths<conversion>;
 
     struct Prepared {
         V most, chroma;
@@ -32,18 +48,14 @@ template <class Sample, Conversion conversion> struct RgbToHsv {
     {
         const V one = V{} + 1;
         const auto chroma = toFloat(widen(maximum(of.chroma, one))), most = toFloat(widen(maximum(of.most, one)));
-        // Hue in sixths is 0, 2 or 4 by the largest channel, plus the distance of one of the others from it, less that
-        // of the other, in units of chroma. The greater distance is 1. With the other one, q, that is (1, 3 or 5) - q
-        // in even sextants, here the size of q less that, and ((0, 2 or 4) + q) - 1 in odd ones. Grey has a q of 0.
         const auto distance = toFloat(widen(of.fall));
-        const auto start = lookUp(bySextant<float>(-1, 2, -3, 4, -5, redRising), of.order);
-        const auto correction = lookUp(bySextant<float>(0, -1, 0, -1, 0, redCorrection), of.order);
+        const auto start = lookUp(bySextant(Hue::start), of.order); // 0 for grey, whose distance is 0
+        const auto correction = lookUp(bySextant(Hue::correction), of.order);
         Widened<partsOf<Sample>> h, s;
         for (int p = 0; p < partsOf<Sample>; ++p) {
             const f32v d = chroma.part[p];
-            const f32v sixths = absolute(start.part[p] + distance.part[p] / d) + correction.part[p];
-            const f32v hue = sixths * Range<Sample>::sextant;
-            if constexpr (wraps)
+            const f32v hue = Hue::of(distance.part[p] / d, start.part[p], correction.part[p]) * Range<Sample>::sextant;
+            if constexpr (Hue::wraps)
                 h.part[p] = convert(hue < 0 ? hue + Range<Sample>::most : hue);
             else
                 h.part[p] = convert(hue);
@@ -53,12 +65,6 @@ template <class Sample, Conversion conversion> struct RgbToHsv {
     }
 
 private:
-    // The red hues of odd sextants are q - 1, below zero, plus 6. Truncated to bytes they are the same as those of 5 +
-    // q, raised by more than it is rounded by and less than any of these quotients lacks to the next byte. (Anything
-    // from 2^-21 to 2^-15 would do; the tests go through all colours.)
-    static constexpr bool wraps = conversion == Conversion::rounding;
-    static constexpr float redRising = wraps ? 0 : 5, redCorrection = wraps ? -1 : 0x1p-18f;
-
     ZORCC_INLINE s32v convert(f32v v) { return conversion == Conversion::truncating ? truncate(v) : roundToEven(v); }
 };
 
@@ -72,12 +78,10 @@ template <> struct RgbToHsv<uint8_t, Conversion::truncating> {
     }
 
 private:
-    static constexpr FallsShort fallsShort{[](int sextant, int v, int d) {
-        const float distance = static_cast<float>(sextant % 2 ? v : d - v) / static_cast<float>(d);
-        const float sixths =
-            sextant % 2 ? static_cast<float>(sextant + 1) + distance - 1 : static_cast<float>(sextant) + 1 - distance;
-        const float hue = (sextant == 5 ? distance - 1 : sixths) * 42.5f;
-        return hue < 0 ? hue + 255 : hue;
+    static constexpr FallsShort fallsShort{[](int sextant, float v, float chroma) {
+        using Hue = Sixths<Conversion::truncating>;
+        const float fall = sextant % 2 ? v : chroma - v;
+        return Hue::of(fall / chroma, Hue::start[sextant], Hue::correction[sextant]) * Range<uint8_t>::sextant;
     }};
 };
 #endif

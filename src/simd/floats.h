@@ -31,6 +31,7 @@ ZORCC_INLINE f32v minimum(f32v a, f32v b) { return (f32v)ZORCC_MM(min_ps)(reg(a)
 ZORCC_INLINE f32v maximum(f32v a, f32v b) { return (f32v)ZORCC_MM(max_ps)(reg(a), reg(b)); }
 
 ZORCC_INLINE f32v absolute(f32v v) { return (f32v)((s32v)v & 0x7fffffff); }
+constexpr float absolute(float v) { return v < 0 ? -v : v; }
 
 // Per lane: a where the mask (a comparison's answer: 0 or -1) is set, otherwise b.
 ZORCC_INLINE f32v select(s32v mask, f32v a, f32v b) { return mask ? a : b; }

@@ -134,23 +134,6 @@ ZORCC_INLINE void storeHalves(uint8_t* low, uint8_t* high, u8v v)
 #endif
 }
 
-// Per block: a0..a7 b0..b7 becomes a0 b0 a1 b1 ...
-ZORCC_INLINE u8v zipHalves(u8v v)
-{
-    return shuffle(v, fillBlock(_mm_setr_epi8(0, 8, 1, 9, 2, 10, 3, 11, 4, 12, 5, 13, 6, 14, 7, 15)));
-}
-
-// Per block: the elements of even places, then those of odd places.
-ZORCC_INLINE u8v unzipHalves(u8v v)
-{
-    return shuffle(v, fillBlock(_mm_setr_epi8(0, 2, 4, 6, 8, 10, 12, 14, 1, 3, 5, 7, 9, 11, 13, 15)));
-}
-
-ZORCC_INLINE u16v unzipHalves(u16v v)
-{
-    return (u16v)shuffle((u8v)v, fillBlock(_mm_setr_epi8(0, 1, 4, 5, 8, 9, 12, 13, 2, 3, 6, 7, 10, 11, 14, 15)));
-}
-
 // ---- three channels -------------------------------------------------------------------------------------------------
 //
 // `size` is that of a sample in bytes.
@@ -192,6 +175,21 @@ template <int size> constexpr __mmask64 third[] = {everyThird(size, 0), everyThi
 // Sample position p of vector k belongs to channel (k * (64 / size) + p) % 3. The positions of channel c in it:
 template <int size> constexpr __mmask64 thirdOf(int c, int k) { return third<size>[(c + k * (3 - 64 / size % 3)) % 3]; }
 
+// Three vectors in registers. As memory operands of permutations and blends, which compilers prefer, each would be read
+// three times, which costs where images are not aligned and every read is of two lines.
+template <class R> struct ThreeVectors {
+    R v[3];
+};
+template <class R> ZORCC_INLINE ThreeVectors<R> loadThree(const uint8_t* p)
+{
+    ThreeVectors<R> three;
+    for (int k = 0; k < 3; ++k) {
+        __builtin_memcpy(&three.v[k], p + 64 * k, 64);
+        asm("" : "+v"(three.v[k]));
+    }
+    return three;
+}
+
 // Floats take two permutations of two vectors each, which is less than blending and permuting.
 struct FloatThirds {
     alignas(64) int32_t sort[2][3][16];    // from vectors 0 and 1, from that and vector 2
@@ -222,10 +220,8 @@ ZORCC_INLINE void permuteThirds(const int32_t (&first)[3][16], const int32_t (&s
 
 ZORCC_INLINE void deinterleave3(const uint8_t* p, Vec<float> (&channel)[3])
 {
-    __m512 v[3] = {_mm512_loadu_ps(p), _mm512_loadu_ps(p + 64), _mm512_loadu_ps(p + 128)};
-    for (__m512& loaded : v) asm("" : "+v"(loaded));
     __m512 to[3];
-    permuteThirds(floatThirds.sort[0], floatThirds.sort[1], v, to);
+    permuteThirds(floatThirds.sort[0], floatThirds.sort[1], loadThree<__m512>(p).v, to);
     for (int c = 0; c < 3; ++c) channel[c] = (Vec<float>)to[c];
 }
 
@@ -240,8 +236,7 @@ template <Columns columns> ZORCC_INLINE void interleave3(uint8_t* p, const Vec<f
 template <class V> ZORCC_INLINE void deinterleave3(const uint8_t* p, V (&channel)[3])
 {
     constexpr int size = sampleSize<V>;
-    __m512i v[3] = {reg(load(p)), reg(load(p + 64)), reg(load(p + 128))};
-    for (__m512i& loaded : v) asm("" : "+v"(loaded));
+    const auto [v] = loadThree<__m512i>(p);
     for (int c = 0; c < 3; ++c)
         channel[c] = (V)_mm512_permutexvar_epi8(
             reg(load(thirds<size>.sort[c])),

@@ -3,7 +3,6 @@
 #pragma once
 
 #include "simd/floats.h"
-#include "simd/interleave.h"
 
 namespace zorcc::ZORCC_TIER {
 namespace {

@@ -204,5 +204,22 @@ ZORCC_INLINE s16v secondOfPairs(u8v pairs) { return (s16v)((u16v)pairs >> 8); }
 // Per block: element i is v[index[i]], or 0 where index[i] has its top bit set.
 ZORCC_INLINE u8v shuffle(u8v v, u8v index) { return (u8v)ZORCC_MM(shuffle_epi8)(reg(v), reg(index)); }
 
+// Per block: a0..a7 b0..b7 becomes a0 b0 a1 b1 ...
+ZORCC_INLINE u8v zipHalves(u8v v)
+{
+    return shuffle(v, fillBlock(_mm_setr_epi8(0, 8, 1, 9, 2, 10, 3, 11, 4, 12, 5, 13, 6, 14, 7, 15)));
+}
+
+// Per block: the elements of even places, then those of odd places.
+ZORCC_INLINE u8v unzipHalves(u8v v)
+{
+    return shuffle(v, fillBlock(_mm_setr_epi8(0, 2, 4, 6, 8, 10, 12, 14, 1, 3, 5, 7, 9, 11, 13, 15)));
+}
+
+ZORCC_INLINE u16v unzipHalves(u16v v)
+{
+    return (u16v)shuffle((u8v)v, fillBlock(_mm_setr_epi8(0, 1, 4, 5, 8, 9, 12, 13, 2, 3, 6, 7, 10, 11, 14, 15)));
+}
+
 } // namespace
 } // namespace zorcc::ZORCC_TIER

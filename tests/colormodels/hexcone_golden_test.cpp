@@ -181,5 +181,24 @@ TEST(Floats, RampsByDivision)
     }
 }
 
+// At 60, 180 and 300 degrees, on every tier.
+TEST(Floats, HighWhereAChannelBeginsToFall)
+{
+    for (const Tier tier : tiersHere()) {
+        const OnTier chosen(tier);
+        for (std::size_t channel = 0; channel < 3; ++channel) {
+            std::vector<Colour<float>> row;
+            for (int i = 0; i < 2000; ++i)
+                row.push_back({(1 + 2 * static_cast<float>(channel)) / 6, static_cast<float>(i * 7 % 1000) / 1000,
+                               static_cast<float>(i * 13 % 1000) / 1000});
+            const auto result = convert<float>(zoriHLSToRGB_32f_C3R, row);
+            for (std::size_t i = 0; i < row.size(); ++i) {
+                const auto [h, l, s] = row[i];
+                ASSERT_EQ(result[i][channel], l <= 0.5f ? l * (1 + s) : l + s - l * s) << nameOf(tier) << " " << i;
+            }
+        }
+    }
+}
+
 } // namespace
 } // namespace zorcc::test
