@@ -1,65 +1,36 @@
 // SPDX-License-Identifier: MIT
-// Row drivers of the RGB and HLS conversions, compiled once for every tier.
-#include "colormodels/hls_from_rgb.h"
-#include "colormodels/hls_to_rgb.h"
-#include "colormodels/interleaved_rows.h"
+// Row drivers of the RGB and HLS conversions of interleaved images, compiled once for every tier.
+#include "colormodels/hls_rows.h"
+
+#include "colormodels/hls_formulas.h"
+#include "pixels/layouts.h"
 
 namespace zorcc::ZORCC_TIER {
 
-#include "colormodels/hls_rows.h"
+namespace {
 
-void myRGBToHLS_8u_C3R(const uint8_t* src, ptrdiff_t srcStep, uint8_t* dst, ptrdiff_t dstStep, int width, int height,
-                       int channels)
-{
-    convertInterleaved<RgbToHls<uint8_t>>(src, srcStep, dst, dstStep, width, height, channels);
-}
+constexpr Threads threads = Threads::aboveThreshold;
 
-void myRGBToHLS_16u_C3R(const uint16_t* src, ptrdiff_t srcStep, uint16_t* dst, ptrdiff_t dstStep, int width, int height,
-                        int channels)
-{
-    convertInterleaved<RgbToHls<uint16_t>>(src, srcStep, dst, dstStep, width, height, channels);
-}
+} // namespace
 
-void myRGBToHLS_16s_C3R(const int16_t* src, ptrdiff_t srcStep, int16_t* dst, ptrdiff_t dstStep, int width, int height,
-                        int channels)
-{
-    convertInterleaved<RgbToHls<int16_t>>(src, srcStep, dst, dstStep, width, height, channels);
-}
-
-void myRGBToHLS_32f_C3R(const float* src, ptrdiff_t srcStep, float* dst, ptrdiff_t dstStep, int width, int height,
-                        int channels)
-{
-    convertInterleaved<RgbToHls<float>>(src, srcStep, dst, dstStep, width, height, channels);
-}
-
-void myHLSToRGB_8u_C3R(const uint8_t* src, ptrdiff_t srcStep, uint8_t* dst, ptrdiff_t dstStep, int width, int height,
-                       int channels)
-{
-    convertInterleaved<HlsToRgb<uint8_t>>(src, srcStep, dst, dstStep, width, height, channels);
-}
-
-void myHLSToRGB_16u_C3R(const uint16_t* src, ptrdiff_t srcStep, uint16_t* dst, ptrdiff_t dstStep, int width, int height,
-                        int channels)
-{
-    convertInterleaved<HlsToRgb<uint16_t>>(src, srcStep, dst, dstStep, width, height, channels);
-}
-
-void myHLSToRGB_16s_C3R(const int16_t* src, ptrdiff_t srcStep, int16_t* dst, ptrdiff_t dstStep, int width, int height,
-                        int channels)
-{
-    convertInterleaved<HlsToRgb<int16_t>>(src, srcStep, dst, dstStep, width, height, channels);
-}
-
-void myHLSToRGB_32f_C3R(const float* src, ptrdiff_t srcStep, float* dst, ptrdiff_t dstStep, int width, int height,
-                        int channels)
-{
-    convertInterleaved<HlsToRgb<float>>(src, srcStep, dst, dstStep, width, height, channels);
-}
-
-void myBGRToHLS_8u_AC4R(const uint8_t* src, ptrdiff_t srcStep, uint8_t* dst, ptrdiff_t dstStep, int width, int height)
-{
-    convertRowsOnThreads(rowsOf<BGRX<In>>(src, srcStep), RgbToHls<uint8_t>{}, rowsOf<AC4<Out>>(dst, dstStep), width,
-                         height);
-}
+const HlsRows hlsRows = {
+    .myRGBToHLS_8u_C3R = rows<C3<>, RgbToHls<uint8_t>, C3<>, threads>,
+    .myRGBToHLS_8u_AC4R = rows<AC4<>, RgbToHls<uint8_t>, AC4<>, threads>,
+    .myRGBToHLS_16u_C3R = rows<C3<uint16_t>, RgbToHls<uint16_t>, C3<uint16_t>, threads>,
+    .myRGBToHLS_16u_AC4R = rows<AC4<uint16_t>, RgbToHls<uint16_t>, AC4<uint16_t>, threads>,
+    .myRGBToHLS_16s_C3R = rows<C3<int16_t>, RgbToHls<int16_t>, C3<int16_t>, threads>,
+    .myRGBToHLS_16s_AC4R = rows<AC4<int16_t>, RgbToHls<int16_t>, AC4<int16_t>, threads>,
+    .myRGBToHLS_32f_C3R = rows<C3<float>, RgbToHls<float>, C3<float>, threads>,
+    .myRGBToHLS_32f_AC4R = rows<AC4<float>, RgbToHls<float>, AC4<float>, threads>,
+    .myHLSToRGB_8u_C3R = rows<C3<>, HlsToRgb<uint8_t>, C3<>, threads>,
+    .myHLSToRGB_8u_AC4R = rows<AC4<>, HlsToRgb<uint8_t>, AC4<>, threads>,
+    .myHLSToRGB_16u_C3R = rows<C3<uint16_t>, HlsToRgb<uint16_t>, C3<uint16_t>, threads>,
+    .myHLSToRGB_16u_AC4R = rows<AC4<uint16_t>, HlsToRgb<uint16_t>, AC4<uint16_t>, threads>,
+    .myHLSToRGB_16s_C3R = rows<C3<int16_t>, HlsToRgb<int16_t>, C3<int16_t>, threads>,
+    .myHLSToRGB_16s_AC4R = rows<AC4<int16_t>, HlsToRgb<int16_t>, AC4<int16_t>, threads>,
+    .myHLSToRGB_32f_C3R = rows<C3<float>, HlsToRgb<float>, C3<float>, threads>,
+    .myHLSToRGB_32f_AC4R = rows<AC4<float>, HlsToRgb<float>, AC4<float>, threads>,
+    .myBGRToHLS_8u_AC4R = rows<Bgrx, RgbToHls<uint8_t>, AC4<>, threads>,
+};
 
 } // namespace zorcc::ZORCC_TIER

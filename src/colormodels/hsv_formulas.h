@@ -3,9 +3,9 @@
 // operation in the order in which the model defines it, every division exact.
 #pragma once
 
-#include "colormodels/byte_hexcone.h"
-#include "colormodels/hexcone.h"
-#include "colormodels/ranges.h"
+#include "colormodels/common/hexcone.h"
+#include "colormodels/common/ranges.h"
+#include "pixels/float_pipeline.h"
 
 namespace zorcc::ZORCC_TIER {
 namespace {
@@ -24,7 +24,7 @@ template <Conversion conversion> struct Sixths {
     static constexpr float start[6] = {-1, 2, -3, 4, -5, wraps ? 0 : 5}; // by sextant
     static constexpr float correction[6] = {0, -1, 0, -1, 0, wraps ? -1 : 0x1p-18f};
 
-    template <class F> static constexpr F of(F q, F from, F more) { return absolute(from + q) + more; }
+    template <class F> static constexpr F of(F q, F from, F more) { return abs(from + q) + more; }
 };
 
 template <class Sample, Conversion conversion> struct RgbToHsv {
@@ -32,7 +32,7 @@ template <class Sample, Conversion conversion> struct RgbToHsv {
     using Hue = Sixths<conversion>;
 
     struct Prepared {
-        V most, chroma;
+        V value, chroma;
         V fall; // the middle channel below the largest
         V order;
     };
@@ -41,27 +41,25 @@ template <class Sample, Conversion conversion> struct RgbToHsv {
     {
         const auto [r, g, b] = rgb.c[0];
         const Hexcone<Sample> cone(r, g, b);
-        return {cone.most, cone.chroma, cone.most - cone.middle, cone.order};
+        return {cone.largest, cone.chroma, cone.largest - cone.middle, cone.order};
     }
 
     Samples<Sample> operator()(const Prepared& of) const
     {
+        const auto formula =
+            [](f32v chroma, f32v value, f32v fall, f32v start, f32v correction) __attribute__((always_inline))
+        {
+            using R = Range<Sample>;
+            f32v hue = Hue::of(fall / chroma, start, correction) * R::sextant;
+            if constexpr (Hue::wraps) hue = hue < 0 ? hue + R::max : hue;
+            return Integers<2>{{convert(hue), convert(chroma / value * R::max)}};
+        };
         const V one = V{} + 1;
-        const auto chroma = toFloat(widen(maximum(of.chroma, one))), most = toFloat(widen(maximum(of.most, one)));
-        const auto distance = toFloat(widen(of.fall));
         const auto start = lookUp(bySextant(Hue::start), of.order); // 0 for grey, whose distance is 0
         const auto correction = lookUp(bySextant(Hue::correction), of.order);
-        Widened<partsOf<Sample>> h, s;
-        for (int p = 0; p < partsOf<Sample>; ++p) {
-            const f32v d = chroma.part[p];
-            const f32v hue = Hue::of(distance.part[p] / d, start.part[p], correction.part[p]) * Range<Sample>::sextant;
-            if constexpr (Hue::wraps)
-                h.part[p] = convert(hue < 0 ? hue + Range<Sample>::most : hue);
-            else
-                h.part[p] = convert(hue);
-            s.part[p] = convert(d / most.part[p] * Range<Sample>::most);
-        }
-        return {{{narrow<Sample>(h), narrow<Sample>(s) & ~(V)(of.chroma == 0), of.most}}};
+        const auto [hue, saturation] =
+            throughFloats<Sample>(formula, max(of.chroma, one), max(of.value, one), of.fall, start, correction).c[0];
+        return {{{hue, saturation & ~(V)(of.chroma == 0), of.value}}};
     }
 
 private:
@@ -74,7 +72,7 @@ template <> struct RgbToHsv<uint8_t, Conversion::truncating> {
 
     Samples<uint8_t> operator()(const Hexcone<uint8_t>& cone) const
     {
-        return {{{hueOf(cone, fallsShort), ratio(cone.chroma, cone.most), cone.most}}};
+        return {{{hueOf(cone, fallsShort), ratio(cone.chroma, cone.largest), cone.largest}}};
     }
 
 private:
@@ -86,31 +84,28 @@ private:
 };
 #endif
 
+// Bytes are truncated in the whole blocks of a row and rounded after them; words are always rounded.
+using RgbToHsvOfBytes = InBlocks<4, RgbToHsv<uint8_t, Conversion::truncating>, RgbToHsv<uint8_t, Conversion::rounding>>;
+using RgbToHsvOfWords = RgbToHsv<uint16_t, Conversion::rounding>;
+
 template <class Sample> struct HsvToRgb {
     using V = Vec<Sample>;
 
     Samples<Sample> operator()(const Samples<Sample>& hsv) const
     {
-        using R = Range<Sample>;
-        constexpr int parts = partsOf<Sample>;
         const V h = hsv.c[0][0], s = hsv.c[0][1], v = hsv.c[0][2];
-        const V full = V{} + static_cast<Sample>(R::most);
-        const auto hue = widen(h & ~(V)(h == full)), saturation = widen(s), value = widen(v);
-        Widened<parts> sextant, low, falling, rising;
-        for (int p = 0; p < parts; ++p) {
-            const f32v sixths = toFloat(hue.part[p]) * R::toDegrees * 0.016666668f;
-            const f32v unit = toFloat(saturation.part[p]) * R::toUnit, most = toFloat(value.part[p]);
-            sextant.part[p] = truncate(sixths);
-            const f32v f = sixths - toFloat(sextant.part[p]);
-            const f32v least = most - most * unit, step = f * most * unit;
-            low.part[p] = roundToEven(least);
-            falling.part[p] = roundToEven(most - step);
-            rising.part[p] = roundToEven(least + step);
-        }
+        const auto formula = [](f32v hue, f32v saturation, f32v value) __attribute__((always_inline))
+        {
+            using R = Range<Sample>;
+            const f32v sixths = hue * R::toDegrees * 0.016666668f, unit = saturation * R::toUnit;
+            const s32v sextant = truncate(sixths);
+            const f32v low = value - value * unit, step = (sixths - toFloat(sextant)) * value * unit;
+            return Integers<4>{{sextant, roundToEven(low), roundToEven(value - step), roundToEven(low + step)}};
+        };
+        const V full = V{} + static_cast<Sample>(Range<Sample>::max);
+        const auto [sextant, low, falling, rising] = throughFloats<Sample>(formula, h & ~(V)(h == full), s, v).c[0];
         // The channel between rises in the even sextants and falls in the odd ones.
-        const V i = narrow<Sample>(sextant);
-        const V middle = select(lookUp(oddSextants, i), narrow<Sample>(falling), narrow<Sample>(rising));
-        return fromHexcone<Sample>(i, v, middle, narrow<Sample>(low));
+        return fromHexcone<Sample>(sextant, v, select(lookUp(oddSextants, sextant), falling, rising), low);
     }
 };
 

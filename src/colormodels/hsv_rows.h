@@ -1,13 +1,17 @@
 // SPDX-License-Identifier: MIT
-// Row drivers of the RGB and HSV conversions; declared once in the namespace of every tier (simd/each_tier.h), hence
-// no include guard and no includes. Interleaved images of `channels` channels a pixel, 3, or 4 of which the fourth is
-// alpha and stays as it is.
+// Row drivers of the conversions of hsv.cpp.
+#pragma once
 
-void myRGBToHSV_8u_C3R(const uint8_t* src, ptrdiff_t srcStep, uint8_t* dst, ptrdiff_t dstStep, int width, int height,
-                       int channels);
-void myRGBToHSV_16u_C3R(const uint16_t* src, ptrdiff_t srcStep, uint16_t* dst, ptrdiff_t dstStep, int width, int height,
-                        int channels);
-void myHSVToRGB_8u_C3R(const uint8_t* src, ptrdiff_t srcStep, uint8_t* dst, ptrdiff_t dstStep, int width, int height,
-                       int channels);
-void myHSVToRGB_16u_C3R(const uint16_t* src, ptrdiff_t srcStep, uint16_t* dst, ptrdiff_t dstStep, int width, int height,
-                        int channels);
+#include "frame/convert.h"
+#include "simd/tier.h"
+
+namespace zorcc {
+
+struct HsvRows {
+    Driver &myRGBToHSV_8u_C3R, &myRGBToHSV_8u_AC4R, &myRGBToHSV_16u_C3R, &myRGBToHSV_16u_AC4R, &myHSVToRGB_8u_C3R,
+        &myHSVToRGB_8u_AC4R, &myHSVToRGB_16u_C3R, &myHSVToRGB_16u_AC4R;
+};
+
+} // namespace zorcc
+
+ZORCC_TABLE_OF_EACH_TIER(HsvRows, hsvRows)

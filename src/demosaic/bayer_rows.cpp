@@ -1,88 +1,80 @@
 // SPDX-License-Identifier: MIT
-// Row drivers and kernels of the gradient-directed Bayer interpolation, compiled once for every tier.
-#include <stddef.h>
+// Row drivers of the gradient-directed Bayer interpolation, compiled once for every tier.
+#include "demosaic/bayer_rows.h"
 
-#include "demosaic/bayer_columns.h"
-#include "demosaic/bayer_formula.h"
+#include "demosaic/bayer_formulas.h"
 #include "frame/parallel.h"
 
 namespace zorcc::ZORCC_TIER {
 
-#include "demosaic/bayer_rows.h"
-
 namespace {
 
-// The outer two columns and rows of the image, its frame, have no neighbours at a distance of two on every side: there
+// The outer two columns and rows of the image, its border, have no neighbours at a distance of two on every side: there
 // green is not directed, and a neighbour outside the image is replaced by the one on the other side of the pixel.
-constexpr int frame = 2;
+constexpr int border = 2;
 
 ZORCC_INLINE int between(int low, int v, int high) { return v < low ? low : v > high ? high : v; }
 
-// Columns x .. x + width - 1 of the region: the rows of the mosaic that the row in work needs, as planes. Plane 0 holds
-// columns x, x + 2, ..., plane 1 those between; a pair of columns before and one behind come with them.
+// Columns x .. x + width - 1 of the region: the rows of the mosaic that the current row needs, as planes. Plane 0 holds
+// columns x, x + 2, ..., plane 1 those between; a pair of columns before them and one after them are included.
 template <class Sample> class Strip {
 public:
-    static constexpr int lanes = vectorBytes / sizeof(Sample);
+    static constexpr int perVector = vectorBytes / sizeof(Sample);
     static constexpr int maxWidth = 2048 / sizeof(Sample); // keeps the planes within the first-level cache
 
-    Strip(const Job<Sample>& work, int firstColumn, int columns) : job(work), x(firstColumn), width(columns) {}
+    Strip(const Mosaic<Sample>& m, int firstColumn, int columns) : mosaic(m), x(firstColumn), width(columns) {}
 
-    // Rows of the frame: y and its neighbours.
-    void fillFrameRow(int y)
+    // A row of the border: y and its neighbours.
+    void fillBorderRow(int y)
     {
-        const int up = mirrored(y - 1, job.size.height), down = mirrored(y + 1, job.size.height);
+        const int up = mirrored(y - 1, mosaic.size.height), down = mirrored(y + 1, mosaic.size.height);
         load(up);
         load(y);
         load(down);
         fillRow<false>(y, y, up, y, down, y);
     }
 
-    // Rows y0 .. y1 - 1, none of them in the frame.
+    // Rows y0 .. y1 - 1, none of them in the border.
     void fillRows(int y0, int y1)
     {
         for (int row = y0 - 2; row < y0 + 2; ++row) load(row);
         for (int y = y0; y < y1; ++y) {
             load(y + 2);
             fillRow<true>(y, y - 2, y - 1, y, y + 1, y + 2);
-            plainFrameColumns(y);
+            plainBorderColumns(y);
         }
     }
 
 private:
-    static constexpr int room = 64 / sizeof(Sample); // before column 0, to keep it on a cache line's boundary
-    static constexpr int planeLength = room + maxWidth / 2 + 2 * lanes;
+    static constexpr int margin = 64 / sizeof(Sample); // before column 0, which it keeps on a cache line's boundary
+    static constexpr int planeLength = margin + maxWidth / 2 + 2 * perVector;
     static constexpr int ring = 8;
 
-    const Job<Sample>& job;
+    const Mosaic<Sample>& mosaic;
     const int x, width;
     alignas(64) Sample planes[ring][2][planeLength];
 
-    Sample* plane(int row, int which) { return planes[row % ring][which] + room; }
-    const Sample* source(int row) const { return sampleAt(job.src, job.srcStep, 0, row); }
-    Sample* destination(int y) const
-    {
-        return sampleAt(job.dst, job.dstStep, 3 * (x - job.region.x0), y - job.region.y0);
-    }
+    Sample* plane(int row, int which) { return planes[row % ring][which] + margin; }
 
     // Sets one column of the planes, counted from x.
     void put(int row, int column, Sample value) { plane(row, column & 1)[column >> 1] = value; }
 
     void load(int row)
     {
-        const Sample* const samples = source(row);
-        const auto at = [&](int column) { return samples[mirrored(x + column, job.size.width)]; };
+        const Sample* const samples = mosaic.row(row);
+        const auto at = [&](int column) { return samples[mirrored(x + column, mosaic.size.width)]; };
         put(row, -2, at(-2));
         put(row, -1, at(-1));
-        const int inside = between(0, job.size.width - x, width + 2);
+        const int inside = between(0, mosaic.size.width - x, width + 2);
         Sample *const first = plane(row, 0), *const second = plane(row, 1);
-        if (inside >= 2 * lanes) {
+        if (inside >= 2 * perVector) {
             const auto split = [&](int i) { splitColumns(samples + x + i, first + i / 2, second + i / 2); };
-            const int last = (inside - 2 * lanes) & ~1; // overlaps the one before it
-            for (int i = 0; i < last; i += 2 * lanes) split(i);
+            const int last = (inside - 2 * perVector) & ~1; // overlaps the one before it
+            for (int i = 0; i < last; i += 2 * perVector) split(i);
             split(last);
             put(row, inside - 1, at(inside - 1));
         } else {
-            Sample staged[2 * lanes] = {};
+            Sample staged[2 * perVector] = {};
             __builtin_memcpy(staged, samples + x, static_cast<size_t>(inside) * sizeof(Sample));
             splitColumns(staged, first, second);
         }
@@ -91,7 +83,7 @@ private:
 
     template <bool directed> void fillRow(int y, int up2, int up, int row, int down, int down2)
     {
-        const RowColours colours = rowColours(job.grid, y);
+        const RowColours colours = rowColours(mosaic.grid, y);
         const int sites = colours.isSite(x) ? 0 : 1; // their plane
         PlaneWindow<Sample> window;
         const int rows[5] = {up2, up, row, down, down2};
@@ -104,7 +96,7 @@ private:
                                 ? sites == 0 ? owncnBayerRect<true, 0, directed> : owncnBayerRect<true, 1, directed>
                             : sites == 0 ? owncnBayerRect<false, 0, directed>
                                          : owncnBayerRect<false, 1, directed>;
-        kernel(window, destination(y), width);
+        kernel(window, mosaic.pixel(x, y), width);
     }
 
     // One row of pixels. `sites` is the plane that holds the row's sites, whose colour is red or blue.
@@ -118,56 +110,58 @@ private:
             constexpr int r = red ? 0 : 2, b = red ? 2 : 0;
             const Vec<Sample> atSite[3] = {site[r], site[1], site[b]}, atGreen[3] = {green[r], green[1], green[b]};
             if constexpr (sites == 0)
-                joinColumns(p, atSite, atGreen);
+                interleaveColumns3((uint8_t*)p, atSite, atGreen);
             else
-                joinColumns(p, atGreen, atSite);
+                interleaveColumns3((uint8_t*)p, atGreen, atSite);
         };
         const auto staged = [&](int i) {
-            Sample pixels[3 * 2 * lanes];
+            Sample pixels[3 * 2 * perVector];
             pixelsTo(pixels, i / 2);
             __builtin_memcpy(dst + 3 * i, pixels, 3 * static_cast<size_t>(width - i) * sizeof(Sample));
         };
-        if (width < 2 * lanes) return staged(0);
-        const int last = (width - 2 * lanes) & ~1; // overlaps the one before it
-        for (int i = 0; i < last; i += 2 * lanes) pixelsTo(dst + 3 * i, i / 2);
+        if (width < 2 * perVector) return staged(0);
+        const int last = (width - 2 * perVector) & ~1; // overlaps the one before it
+        for (int i = 0; i < last; i += 2 * perVector) pixelsTo(dst + 3 * i, i / 2);
         pixelsTo(dst + 3 * last, last / 2);
         if (width % 2 != 0) staged(width - 1);
     }
 
-    // In the columns of the frame green at the sites is not directed.
-    void plainFrameColumns(int y)
+    // In the columns of the border green at the sites is not directed.
+    void plainBorderColumns(int y)
     {
-        const RowColours colours = rowColours(job.grid, y);
+        const RowColours colours = rowColours(mosaic.grid, y);
         const auto plain = [&](int column) {
             if (column < x || column >= x + width || !colours.isSite(column)) return;
-            const Sample* const row = source(y);
-            const int sum = row[mirrored(column - 1, job.size.width)] + row[mirrored(column + 1, job.size.width)] +
-                            source(y - 1)[column] + source(y + 1)[column];
-            destination(y)[3 * (column - x) + 1] = static_cast<Sample>((sum + 2) >> 2);
+            const Sample* const row = mosaic.row(y);
+            const int sum = row[mirrored(column - 1, mosaic.size.width)] +
+                            row[mirrored(column + 1, mosaic.size.width)] + mosaic.row(y - 1)[column] +
+                            mosaic.row(y + 1)[column];
+            mosaic.pixel(column, y)[1] = static_cast<Sample>((sum + 2) >> 2);
         };
-        for (int k = 0; k < frame; ++k) {
+        for (int k = 0; k < border; ++k) {
             plain(k);
-            plain(job.size.width - 1 - k);
+            plain(mosaic.size.width - 1 - k);
         }
     }
 };
 
-// The frame's rows, then the others, whose first and last columns are filled on the way: each row is visited once.
-template <class Sample> void cfaToRgb(const Job<Sample>& job)
+// The border's rows, then the others, whose first and last columns are filled on the way: each row is visited once.
+template <class Sample>
+void cfaToRgb(const Image& from, const Image& to, ZorSize size, const Region& region, ZorBayerGrid grid)
 {
-    const Region& region = job.region;
-    const auto [width, height] = job.size;
-    const int left = between(region.x0, frame, region.x1), right = between(left, width - frame, region.x1);
-    const int top = between(region.y0, frame, region.y1), bottom = between(top, height - frame, region.y1);
+    const Mosaic<Sample> mosaic{from, to, size, region, grid};
+    const auto [width, height] = size;
+    const int left = between(region.x0, border, region.x1), right = between(left, width - border, region.x1);
+    const int top = between(region.y0, border, region.y1), bottom = between(top, height - border, region.y1);
     const auto eachStrip = [&](auto fill) {
         for (int x = region.x0; x < region.x1; x += Strip<Sample>::maxWidth) {
-            Strip<Sample> strip(job, x, between(0, region.x1 - x, Strip<Sample>::maxWidth));
+            Strip<Sample> strip(mosaic, x, between(0, region.x1 - x, Strip<Sample>::maxWidth));
             fill(strip);
         }
     };
     eachStrip([&](Strip<Sample>& strip) {
-        for (int y = region.y0; y < top; ++y) strip.fillFrameRow(y);
-        for (int y = bottom; y < region.y1; ++y) strip.fillFrameRow(y);
+        for (int y = region.y0; y < top; ++y) strip.fillBorderRow(y);
+        for (int y = bottom; y < region.y1; ++y) strip.fillBorderRow(y);
     });
     bandsAboveThreshold(right - left, bottom - top, [&](int first, int count) {
         eachStrip([&](Strip<Sample>& strip) { strip.fillRows(top + first, top + first + count); });
@@ -176,16 +170,9 @@ template <class Sample> void cfaToRgb(const Job<Sample>& job)
 
 } // namespace
 
-void myCFAToRGB_8u_C1C3R(const uint8_t* src, ptrdiff_t srcStep, ZorSize size, Region region, uint8_t* dst,
-                         ptrdiff_t dstStep, ZorBayerGrid grid)
-{
-    cfaToRgb(Job<uint8_t>{src, srcStep, size, region, dst, dstStep, grid});
-}
-
-void myCFAToRGB_16u_C1C3R(const uint16_t* src, ptrdiff_t srcStep, ZorSize size, Region region, uint16_t* dst,
-                          ptrdiff_t dstStep, ZorBayerGrid grid)
-{
-    cfaToRgb(Job<uint16_t>{src, srcStep, size, region, dst, dstStep, grid});
-}
+const BayerRows bayerRows = {
+    .myCFAToRGB_8u_C1C3R = cfaToRgb<uint8_t>,
+    .myCFAToRGB_16u_C1C3R = cfaToRgb<uint16_t>,
+};
 
 } // namespace zorcc::ZORCC_TIER

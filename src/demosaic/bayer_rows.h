@@ -1,8 +1,16 @@
 // SPDX-License-Identifier: MIT
-// Row drivers of the gradient-directed Bayer interpolation; declared once in the namespace of every tier
-// (simd/each_tier.h), hence no include guard and no includes. The region is not empty.
+// Row drivers of the gradient-directed Bayer interpolation. The region is not empty.
+#pragma once
 
-void myCFAToRGB_8u_C1C3R(const uint8_t* src, ptrdiff_t srcStep, ZorSize size, Region region, uint8_t* dst,
-                         ptrdiff_t dstStep, ZorBayerGrid grid);
-void myCFAToRGB_16u_C1C3R(const uint16_t* src, ptrdiff_t srcStep, ZorSize size, Region region, uint16_t* dst,
-                          ptrdiff_t dstStep, ZorBayerGrid grid);
+#include "demosaic/region.h"
+#include "simd/tier.h"
+
+namespace zorcc {
+
+struct BayerRows {
+    DriverWith<const Region&, ZorBayerGrid>&myCFAToRGB_8u_C1C3R, &myCFAToRGB_16u_C1C3R;
+};
+
+} // namespace zorcc
+
+ZORCC_TABLE_OF_EACH_TIER(BayerRows, bayerRows)

@@ -1,15 +1,13 @@
 // SPDX-License-Identifier: MIT
 // Row drivers of the adaptive homogeneity-directed demosaicing, compiled once for every tier.
-#include <stddef.h>
+#include "demosaic/demosaicahd_rows.h"
 
-#include "demosaic/ahd_samples.h"
-#include "demosaic/ahd_scratch.h"
-#include "demosaic/ahd_stages.h"
+#include "demosaic/demosaicahd_formulas.h"
+#include "demosaic/demosaicahd_samples.h"
+#include "demosaic/demosaicahd_scratch.h"
 #include "frame/parallel.h"
 
 namespace zorcc::ZORCC_TIER {
-
-#include "demosaic/demosaicahd_rows.h"
 
 namespace {
 
@@ -55,8 +53,8 @@ constexpr int lineCount = sizeof(Lines) / sizeof(float*);
 // Columns x .. x + width - 1 of the region, and lines for them and for what they depend on.
 template <class Sample> class Strip {
 public:
-    Strip(const Job<Sample>& work, const Scratch& scratch, int firstLine, int firstColumn, int columns)
-        : job(work), x(firstColumn), width(columns), length(lineLength(columns))
+    Strip(const Mosaic<Sample>& m, const Scratch& scratch, int firstLine, int firstColumn, int columns)
+        : mosaic(m), x(firstColumn), width(columns), length(lineLength(columns))
     {
         float* all[lineCount];
         for (int i = 0; i < lineCount; ++i) all[i] = scratch.line(firstLine + i);
@@ -73,7 +71,7 @@ public:
     }
 
 private:
-    const Job<Sample> job;
+    const Mosaic<Sample>& mosaic;
     const int x, width, length;
     int top = 0; // the image row of row 0
     Lines lines;
@@ -81,8 +79,8 @@ private:
     // Brings in row i and takes everything that now can be done one row further.
     void step(int i)
     {
-        loadLine(sampleAt(job.src, job.srcStep, 0, mirrored(top + i, job.size.height)), job.size.width, x - reach,
-                 width + 2 * reach, lines.samples[i]);
+        loadLine(mosaic.row(mirrored(top + i, mosaic.size.height)), mosaic.size.width, x - reach, width + 2 * reach,
+                 lines.samples[i]);
         if (i >= 4) estimateGreen(i - 2);
         if (i >= 6) judge(i - 3);
         if (i == 7) measure(i - 4);
@@ -92,8 +90,11 @@ private:
         if (i >= 14) finish(i - 7);
     }
 
-    RowColours coloursOf(int row) const { return rowColours(job.grid, top + row); }
-    s32v sitesOf(int row) const { return alternate<s32v>(coloursOf(row).sitesAreOdd != (((x - reach) & 1) != 0)); }
+    RowColours coloursOf(int row) const { return rowColours(mosaic.grid, top + row); }
+    s32v sitesOf(int row) const
+    {
+        return alternatingMask<s32v>(coloursOf(row).sitesAreOdd != (((x - reach) & 1) != 0));
+    }
 
     Samples samplesAround(int row) const
     {
@@ -148,35 +149,30 @@ private:
                  length);
         const float *const site = lines.siteColour[0] + reach, *const third = lines.thirdColour[0] + reach;
         storePixels({red ? site : third, lines.green[row] + reach, red ? third : site}, width,
-                    sampleAt(job.dst, job.dstStep, 3 * (x - job.region.x0), top + row - job.region.y0));
+                    mosaic.pixel(x, top + row));
     }
 };
 
-template <class Sample> void demosaicAhd(const Job<Sample>& job, void* buffer, ptrdiff_t bufferStep)
+template <class Sample>
+void demosaicAhd(const Image& from, const Image& to, ZorSize size, const Region& region, ZorBayerGrid grid,
+                 const Image& scratchImage)
 {
-    const Region region = job.region;
+    const Mosaic<Sample> mosaic{from, to, size, region, grid};
+    const int width = region.x1 - region.x0, height = region.y1 - region.y0;
     const auto stripAt = [&](int x) { return region.x1 - x < stripWidth ? region.x1 - x : stripWidth; };
-    const Scratch scratch(buffer, bufferStep, region.x1 - region.x0, Strip<Sample>::lineLength(stripAt(region.x0)));
-    bandsAboveThreshold(region.x1 - region.x0, region.y1 - region.y0, scratch.lines() / lineCount,
-                        [&](int band, int first, int count) {
-                            const int y0 = region.y0 + first;
-                            for (int x = region.x0; x < region.x1; x += stripWidth)
-                                Strip<Sample>(job, scratch, band * lineCount, x, stripAt(x)).run(y0, y0 + count);
-                        });
+    const Scratch scratch(scratchImage, width, Strip<Sample>::lineLength(stripAt(region.x0)));
+    bandsAboveThreshold(width, height, scratch.lines() / lineCount, [&](int band, int first, int count) {
+        const int y0 = region.y0 + first;
+        for (int x = region.x0; x < region.x1; x += stripWidth)
+            Strip<Sample>(mosaic, scratch, band * lineCount, x, stripAt(x)).run(y0, y0 + count);
+    });
 }
 
 } // namespace
 
-void myDemosaicAHD_8u_C1C3R(const uint8_t* src, ptrdiff_t srcStep, ZorSize size, Region region, uint8_t* dst,
-                            ptrdiff_t dstStep, ZorBayerGrid grid, void* scratch, ptrdiff_t scratchStep)
-{
-    demosaicAhd(Job<uint8_t>{src, srcStep, size, region, dst, dstStep, grid}, scratch, scratchStep);
-}
-
-void myDemosaicAHD_16u_C1C3R(const uint16_t* src, ptrdiff_t srcStep, ZorSize size, Region region, uint16_t* dst,
-                             ptrdiff_t dstStep, ZorBayerGrid grid, void* scratch, ptrdiff_t scratchStep)
-{
-    demosaicAhd(Job<uint16_t>{src, srcStep, size, region, dst, dstStep, grid}, scratch, scratchStep);
-}
+const DemosaicAhdRows demosaicAhdRows = {
+    .myDemosaicAHD_8u_C1C3R = demosaicAhd<uint8_t>,
+    .myDemosaicAHD_16u_C1C3R = demosaicAhd<uint16_t>,
+};
 
 } // namespace zorcc::ZORCC_TIER

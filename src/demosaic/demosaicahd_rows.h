@@ -1,8 +1,17 @@
 // SPDX-License-Identifier: MIT
-// Row drivers of the adaptive homogeneity-directed demosaicing; declared once in the namespace of every tier
-// (simd/each_tier.h), hence no include guard and no includes. The region is not empty.
+// Row drivers of the adaptive homogeneity-directed demosaicing. The region is not empty; the last image is scratch
+// memory.
+#pragma once
 
-void myDemosaicAHD_8u_C1C3R(const uint8_t* src, ptrdiff_t srcStep, ZorSize size, Region region, uint8_t* dst,
-                            ptrdiff_t dstStep, ZorBayerGrid grid, void* scratch, ptrdiff_t scratchStep);
-void myDemosaicAHD_16u_C1C3R(const uint16_t* src, ptrdiff_t srcStep, ZorSize size, Region region, uint16_t* dst,
-                             ptrdiff_t dstStep, ZorBayerGrid grid, void* scratch, ptrdiff_t scratchStep);
+#include "demosaic/region.h"
+#include "simd/tier.h"
+
+namespace zorcc {
+
+struct DemosaicAhdRows {
+    DriverWith<const Region&, ZorBayerGrid, const Image&>&myDemosaicAHD_8u_C1C3R, &myDemosaicAHD_16u_C1C3R;
+};
+
+} // namespace zorcc
+
+ZORCC_TABLE_OF_EACH_TIER(DemosaicAhdRows, demosaicAhdRows)

@@ -2,24 +2,13 @@
 // What the exported demosaicing functions share: their checks, and the part of the image that they fill.
 #pragma once
 
-#include <stdint.h>
-
-#include "frame/checks.h"
+#include "frame/convert.h"
 
 namespace zorcc {
 
-// The checks in their order. The smallest image has `minSize` pixels on each side.
-[[nodiscard]] inline ZorStatus checkMosaic(const void* src, const void* dst, ZorSize size, int minSize,
-                                           ZorBayerGrid grid)
-{
-    if (!src || !dst) return zorStatusNullPointer;
-    if (const ZorStatus status = checkSize(size, minSize, minSize); status != zorStatusOk) return status;
-    return static_cast<uint32_t>(grid) > zorBayerGRBG ? zorStatusBadArgument : zorStatusOk;
-}
-
 // The part of a rectangle that lies inside the image.
 struct Region {
-    int x0, y0, x1, y1; // the first pixel inside, the first behind
+    int x0, y0, x1, y1; // the first pixel inside, the first after it
 
     bool empty() const { return x0 >= x1 || y0 >= y1; }
 };
@@ -31,6 +20,19 @@ inline Region regionInside(ZorRect rect, ZorSize size)
     };
     return {inside(rect.x, size.width), inside(rect.y, size.height), inside(int64_t{rect.x} + rect.width, size.width),
             inside(int64_t{rect.y} + rect.height, size.height)};
+}
+
+// The smallest image has `minSize` pixels on each side.
+template <class... Arguments>
+ZorStatus demosaic(int minSize, DriverWith<const Region&, ZorBayerGrid, Arguments...>& driver, const Image& from,
+                   const Image& to, ZorSize size, ZorRect rect, ZorBayerGrid grid,
+                   std::type_identity_t<Arguments>... arguments)
+{
+    if (const ZorStatus status = check({.minimum = {minSize, minSize}}, from, to, size); status < 0) return status;
+    if (static_cast<uint32_t>(grid) > zorBayerGRBG) return zorStatusBadArgument;
+    const Region region = regionInside(rect, size);
+    if (!region.empty()) driver(from, to, size, region, grid, arguments...);
+    return zorStatusOk;
 }
 
 } // namespace zorcc

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "frame/random.h"
 
-#include <emmintrin.h>
+#include <math.h>
 
 #include "frame/memory.h"
 
@@ -23,7 +23,7 @@ template <> struct Generator<int16_t> {
     static int16_t* allocate() { return zorsMalloc_16s(stateElements); }
 
     // No clamp: products and sums of a 32-bit integer and 17-bit bounds are exact, so no value leaves the bounds.
-    static int16_t convert(double value) { return static_cast<int16_t>(_mm_cvtsd_si32(_mm_set_sd(value))); }
+    static int16_t convert(double value) { return static_cast<int16_t>(lrint(value)); }
 };
 
 uint32_t congruent(uint32_t x) { return x * 69069u + 1013904243u; }

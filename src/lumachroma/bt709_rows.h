@@ -1,26 +1,24 @@
 // SPDX-License-Identifier: MIT
-// Row drivers of the BGR and YCbCr (ITU-R BT.709) conversions; declared once in the namespace of every tier
-// (simd/each_tier.h), hence no include guard and no includes. Width and height are those of the image.
+// Row drivers of the BGR and YCbCr (ITU-R BT.709) conversions. Where planes are YCrCb the wrapper exchanges them.
+#pragma once
 
-void myBGRToYCbCr420_709CSC_8u_C3P3R(const uint8_t* src, ptrdiff_t srcStep, uint8_t* const dst[3], PlaneSteps dstStep,
-                                     int width, int height);
-void myBGRToYCbCr420_709CSC_8u_AC4P3R(const uint8_t* src, ptrdiff_t srcStep, uint8_t* const dst[3], PlaneSteps dstStep,
-                                      int width, int height);
-void myYCbCr420ToBGR_709CSC_8u_P3C3R(const uint8_t* const src[3], PlaneSteps srcStep, uint8_t* dst, ptrdiff_t dstStep,
-                                     int width, int height);
-void myYCbCrToBGR_709CSC_8u_P3C3R(const uint8_t* const src[3], ptrdiff_t srcStep, uint8_t* dst, ptrdiff_t dstStep,
-                                  int width, int height);
-void myYCbCrToBGR_709CSC_8u_P3C4R(const uint8_t* const src[3], ptrdiff_t srcStep, uint8_t* dst, ptrdiff_t dstStep,
-                                  int width, int height, uint8_t aval);
-void myBGRToYCbCr420_709HDTV_8u_AC4P3R(const uint8_t* src, ptrdiff_t srcStep, uint8_t* const dst[3], PlaneSteps dstStep,
-                                       int width, int height);
-void myYCbCr420ToBGR_709HDTV_8u_P3C4R(const uint8_t* const src[3], PlaneSteps srcStep, uint8_t* dst, ptrdiff_t dstStep,
-                                      int width, int height, uint8_t aval);
-void myBGRToCbYCr422_709HDTV_8u_C3C2R(const uint8_t* src, ptrdiff_t srcStep, uint8_t* dst, ptrdiff_t dstStep, int width,
-                                      int height);
-void myBGRToCbYCr422_709HDTV_8u_AC4C2R(const uint8_t* src, ptrdiff_t srcStep, uint8_t* dst, ptrdiff_t dstStep,
-                                       int width, int height);
-void myCbYCr422ToBGR_709HDTV_8u_C2C3R(const uint8_t* src, ptrdiff_t srcStep, uint8_t* dst, ptrdiff_t dstStep, int width,
-                                      int height);
-void myCbYCr422ToBGR_709HDTV_8u_C2C4R(const uint8_t* src, ptrdiff_t srcStep, uint8_t* dst, ptrdiff_t dstStep, int width,
-                                      int height, uint8_t aval);
+#include "frame/convert.h"
+#include "simd/tier.h"
+
+namespace zorcc {
+
+struct Bt709Rows {
+    Driver &myBGRToYCbCr420_709CSC_8u_C3P3R, &myBGRToYCbCr420_709CSC_8u_AC4P3R;
+    Driver &myYCbCr420ToBGR_709CSC_8u_P3C3R, &myYCbCrToBGR_709CSC_8u_P3C3R;
+    DriverWithAlpha<uint8_t>& myYCbCrToBGR_709CSC_8u_P3C4R;
+
+    Driver& myBGRToYCbCr420_709HDTV_8u_AC4P3R;
+    DriverWithAlpha<uint8_t>& myYCbCr420ToBGR_709HDTV_8u_P3C4R;
+    Driver &myBGRToCbYCr422_709HDTV_8u_C3C2R, &myBGRToCbYCr422_709HDTV_8u_AC4C2R;
+    Driver& myCbYCr422ToBGR_709HDTV_8u_C2C3R;
+    DriverWithAlpha<uint8_t>& myCbYCr422ToBGR_709HDTV_8u_C2C4R;
+};
+
+} // namespace zorcc
+
+ZORCC_TABLE_OF_EACH_TIER(Bt709Rows, bt709Rows)

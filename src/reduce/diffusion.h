@@ -1,148 +1,146 @@
 // SPDX-License-Identifier: MIT
-// Error diffusion as a wavefront: the rows of a band are the lanes of vectors, each so many columns behind the row
-// above that it finds all errors that it gathers, and many samples are quantised at once. Every one of them goes
-// through the operations that it would go through row by row, in the same order.
-//
-// Column x of a band's row r has its turn in step x + lag * r. Where a row has no such column the wavefront meets
-// samples so dark that they saturate and leave no error, which is what margins of zeros around the rows of errors would
-// do.
+// Drivers of error diffusion.
 #pragma once
 
-#include <stddef.h>
-
-#include "reduce/reduction.h"
-#include "reduce/transpose.h"
-#include "simd/neighbours.h"
+#include "reduce/diffusion_tiles.h"
 
 namespace zorcc::ZORCC_TIER {
 namespace {
 
-constexpr int bandRows = 32; // several vectors, which do not wait for each other, on every tier
-constexpr int maxChannels = 4;
-constexpr int tileSamples = 64; // of a row that are taken at a time, whole pixels of any number of channels ...
-constexpr int tileSteps(int channels) { return tileSamples / channels & -16; } // ... and whole vectors
-constexpr float outside = -1e9f;
-
-// The errors of one channel around the steps of a tile.
-template <class Weights> struct Errors {
-    static constexpr int ahead = Weights::ahead, rowsAbove = Weights::rowsAbove;
-    static constexpr int lag = ahead + 1;
-
-    // Step s, from -2 on, is own[s + 2]. above[n][s + 2 * ahead], from s = -2 * ahead on, is what row n + 1 above has
-    // left `ahead` columns to the right of the samples of step s.
-    alignas(64) float own[2 + tileSamples][bandRows];
-    alignas(64) float above[rowsAbove][2 * ahead + tileSamples][bandRows];
-    float incoming[rowsAbove][tileSamples]; // likewise, from the rows above the band, for its first row
-
-    void clear()
+// Converts some neighbouring channels of an image, band by band.
+template <class Src, class Dst, class Weights> class Diffusion {
+public:
+    // `above` holds the errors of the rows above a band: for each channel one row of zeros, or two, the upper one last.
+    Diffusion(const Image& from, const Image& to, ZorSize imageSize, const Reduction& reduction, const Weights& w,
+              const Noise* n, Channels c, float* above)
+        : size(imageSize), weights(w), noise(n), channels(c.count), steps(tileSteps(c.count)), errorRows(above),
+          step(white<Src>, reduction.intervals), quantise{fillFloat(white<Src>), fillFloat(step.step),
+                                                          fillFloat(step.inverse),
+                                                          fillFloat(static_cast<float>(reduction.intervals))},
+          tileRow(from, to, imageSize.width, c)
     {
-        __builtin_memset(own, 0, sizeof own);
-        __builtin_memset(above, 0, sizeof above);
+        for (auto& thresholds : tile.thresholds)
+            for (float& threshold : thresholds) threshold = 0.5f * step.step;
     }
 
-    // Behind a tile of so many steps.
-    void nextTile(int steps)
+    void convert()
     {
-        __builtin_memcpy(own[0], own[steps], sizeof own[0] * 2);
-        for (auto& row : above) __builtin_memcpy(row[0], row[steps], sizeof row[0] * 2 * ahead);
+        for (int y = 0; y < size.height; y += bandRows) convertBand(y);
     }
 
-    // The errors that the lanes from `lane` on gather in step s: those of their own row so many columns back ...
-    [[gnu::always_inline]] f32v back(int columns, int s, int lane) const
+private:
+    static constexpr bool levelNumbers = !sameScale<Src, Dst>;
+    static constexpr int lag = Errors<Weights>::lag, ahead = Weights::ahead;
+
+    const ZorSize size;
+    const Weights& weights;
+    const Noise* const noise;
+    const int channels, steps;
+    float* const errorRows;
+    const StepSize step;
+    const Quantiser quantise;
+    const TileRow<Src, Dst> tileRow;
+
+    Errors<Weights> errors[maxChannels];
+    Tile tile;
+    alignas(64) TileRows rows; // the tile's samples, row by row
+    alignas(64) TileRows rowThresholds;
+
+    void convertBand(int y)
     {
-        return load<f32v>(own[s + 2 - columns] + lane);
-    }
-    // ... and those of the row above and of the one above it, dx columns to the right.
-    [[gnu::always_inline]] f32v up(int dx, int s, int lane) const
-    {
-        return load<f32v>(above[0][s + ahead + dx] + lane);
-    }
-    [[gnu::always_inline]] f32v upTwo(int dx, int s, int lane) const
-    {
-        return load<f32v>(above[1][s + ahead + dx] + lane);
-    }
-
-    // Every row hands its latest error to the row below, and what it was handed `lag` steps ago.
-    [[gnu::always_inline]] void handDown(int s, int lane)
-    {
-        const auto fromAbove = [&](const float* errors, float first) {
-            return leftOf(lane > 0 ? load<f32v>(errors + lane - floatsPerVector) : fillFloat(first),
-                          load<f32v>(errors + lane));
-        };
-        store(above[0][s + 2 * ahead] + lane, fromAbove(own[s + 1], incoming[0][s]));
-        if constexpr (rowsAbove > 1)
-            store(above[1][s + 2 * ahead] + lane, fromAbove(above[0][s + 2 * ahead - lag], incoming[1][s]));
-    }
-};
-
-struct FloydSteinberg {
-    static constexpr int rowsAbove = 1, ahead = 1;
-
-    [[gnu::always_inline]] f32v operator()(const Errors<FloydSteinberg>& e, int s, int at) const
-    {
-        return (7.0f * e.back(1, s, at) + e.up(-1, s, at) + 5.0f * e.up(0, s, at) + 3.0f * e.up(1, s, at)) * 0.0625f;
-    }
-};
-
-// Jarvis-Judice-Ninke and Stucki.
-struct FiveColumns {
-    static constexpr int rowsAbove = 2, ahead = 2;
-
-    float own[2];          // one column back, two columns back
-    float up[3], upTwo[3]; // of the same column, its neighbours, the next ones
-    float reciprocal;
-
-    [[gnu::always_inline]] f32v operator()(const Errors<FiveColumns>& e, int s, int at) const
-    {
-        return (own[0] * e.back(1, s, at) + own[1] * e.back(2, s, at) + up[2] * e.up(-2, s, at) +
-                up[1] * e.up(-1, s, at) + up[0] * e.up(0, s, at) + up[1] * e.up(1, s, at) + up[2] * e.up(2, s, at) +
-                upTwo[2] * e.upTwo(-2, s, at) + upTwo[1] * e.upTwo(-1, s, at) + upTwo[0] * e.upTwo(0, s, at) +
-                upTwo[1] * e.upTwo(1, s, at) + upTwo[2] * e.upTwo(2, s, at)) *
-               reciprocal;
-    }
-};
-
-constexpr FiveColumns jarvisJudiceNinke = {{7, 5}, {7, 5, 3}, {5, 3, 1}, 1.0f / 48};
-constexpr FiveColumns stucki = {{8, 4}, {8, 4, 2}, {4, 2, 1}, 1.0f / 42};
-
-// The samples of some steps, and what becomes of them: values in the source's scale, or numbers of levels.
-struct Tile {
-    alignas(64) float samples[tileSamples][bandRows]; // step by step, channel by channel
-    alignas(64) float thresholds[tileSamples][bandRows];
-};
-
-struct Quantiser {
-    f32v white, step, inverse, intervals;
-
-    // Replaces the sample by its output; returns its error. A sample that saturates leaves none.
-    template <bool levelNumbers> [[gnu::always_inline]] f32v operator()(f32v v, f32v threshold, float* output) const
-    {
-        const f32v level = toFloat(truncate(v * inverse));
-        const f32v below = level * step, above = below + step;
-        const f32v rest = v - below;
-        const s32v up = rest > threshold;
-        const s32v bright = v >= white, inside = (v >= 0.0f) & (v < white); // neither for NaN
-        const f32v value = levelNumbers ? select(up, level + 1.0f, level) : select(up, above, below);
-        const f32v most = levelNumbers ? intervals : white;
-        store(output, select(inside, value, select(bright, most, f32v{})));
-        return select(inside, select(up, v - above, rest), f32v{});
-    }
-};
-
-template <bool levelNumbers, class Weights>
-void diffuse(Tile& tile, int steps, int channels, Errors<Weights>* errors, const Weights& weights,
-             const Quantiser& quantise)
-{
-    for (int s = 0; s < steps; ++s)
-        for (int c = 0; c < channels; ++c)
-            for (int lane = 0; lane < bandRows; lane += floatsPerVector) {
-                Errors<Weights>& e = errors[c];
-                e.handDown(s, lane);
-                float* const sample = tile.samples[s * channels + c] + lane;
-                const f32v v = load<f32v>(sample) + weights(e, s, lane);
-                store(e.own[s + 2] + lane,
-                      quantise.template operator()<levelNumbers>(v, load<f32v>(tile.thresholds[s] + lane), sample));
+        const int left = size.height - y, height = left < bandRows ? left : bandRows;
+        const int64_t end = int64_t{size.width} + lag * (height - 1);
+        for (int c = 0; c < channels; ++c) startBand(c);
+        for (int64_t s = 0; s < end; s += steps) {
+            loadTile(y, height, s);
+            for (int c = 0; c < channels; ++c) receive(c, s);
+            diffuse<levelNumbers>(tile, steps, channels, errors, weights, quantise);
+            for (int c = 0; c < channels; ++c) {
+                if (height == bandRows) handOver(c, s);
+                errors[c].nextTile(steps);
             }
+            storeTile(y, height, s);
+        }
+    }
+
+    // The tile that begins with step s of the band.
+    void loadTile(int y, int height, int64_t s)
+    {
+        for (int r = 0; r < bandRows; ++r) {
+            const int64_t x = s - lag * r;
+            const Span in = r < height ? tileRow.inImage(x) : Span{0, 0};
+            tileRow.load(y + r, x, in, rows[r]);
+            if (noise)
+                for (int j = in.begin; j < in.end; ++j) rowThresholds[r][j] = noise->at(static_cast<int>(x + j), y + r);
+        }
+        transposeRows(rows, tile.samples, steps * channels);
+        if (noise) transposeRows(rowThresholds, tile.thresholds, steps);
+    }
+
+    void storeTile(int y, int height, int64_t s)
+    {
+        const auto fromFloats = [&](const float* row, int samples, Dst* dst) {
+            for (int i = 0; i < samples; i += lanes) {
+                const f32v v = load<f32v>(row + i);
+                storeSamples(dst + i, levelNumbers ? levelValue<Dst>(v, quantise.intervals) : truncate(v));
+            }
+        };
+        transposeSteps(tile.samples, rows, steps * channels);
+        for (int r = 0; r < height; ++r) {
+            const int64_t x = s - lag * r;
+            tileRow.store(y + r, x, tileRow.inImage(x), rows[r], fromFloats);
+        }
+    }
+
+    // ---- errors from one band to the next ---------------------------------------------------------------------------
+
+    float* errorRow(int c, int n) const { return errorRows + ptrdiff_t{c * Weights::rowsAbove + n} * size.width; }
+
+    // What row n + 1 above the band has left in column x.
+    float received(int c, int n, int64_t x) const { return x < size.width ? errorRow(c, n)[x] : 0; }
+
+    // Nothing has been passed down yet, but the first columns above the first row.
+    void startBand(int c)
+    {
+        errors[c].clear();
+        for (int n = 0; n < Weights::rowsAbove; ++n)
+            for (int x = 0; x < ahead; ++x) errors[c].above[n][ahead + x][0] = received(c, n, x);
+    }
+
+    void receive(int c, int64_t s)
+    {
+        for (int n = 0; n < Weights::rowsAbove; ++n)
+            for (int j = 0; j < steps; ++j) errors[c].incoming[n][j] = received(c, n, s + j + ahead);
+    }
+
+    // From the last rows of the band, to be received by the next one, which comes much later.
+    void handOver(int c, int64_t s)
+    {
+        for (int n = 0; n < Weights::rowsAbove; ++n) {
+            const int r = bandRows - 1 - n;
+            const int64_t x = s - lag * r;
+            const Span in = tileRow.inImage(x);
+            for (int j = in.begin; j < in.end; ++j) errorRow(c, n)[x + j] = errors[c].own[j + 2][r];
+        }
+    }
+};
+
+// `weights` is a variable of static storage.
+template <class Src, class Dst, auto& weights>
+void diffuseChannels(const Image& from, const Image& to, ZorSize size, const Reduction& reduction,
+                     const DiffusionNeeds& needs)
+{
+    using Weights = std::remove_cvref_t<decltype(weights)>;
+    const int channels = colourChannels(reduction.layout);
+    sections(needs.workers, [&](int worker) {
+        // Where channels do not divide evenly the first workers have one more.
+        const auto firstOf = [&](int w) { return (w * channels + needs.workers - 1) / needs.workers; };
+        const int first = firstOf(worker);
+        const Channels share = {first, firstOf(worker + 1) - first, samplesPerPixel(reduction.layout)};
+        Diffusion<Src, Dst, Weights>(from, to, size, reduction, weights, needs.noise, share,
+                                     needs.errors + ptrdiff_t{first * Weights::rowsAbove} * size.width)
+            .convert();
+    });
 }
 
 } // namespace

@@ -1,14 +1,31 @@
 // SPDX-License-Identifier: MIT
-// Row drivers of the bit-depth reduction; declared once in the namespace of every tier (simd/each_tier.h), hence no
-// include guard and no includes.
+// Row drivers of the bit-depth reduction: one for each method and pair of sample types.
+#pragma once
 
-// Plain quantisation, on the calling thread.
-void ownNo_PX(const Reduction& job);
+#include "reduce/reduction.h"
+#include "simd/tier.h"
 
-// Ordered dithering, with noise unless it is null.
-void ownReduceBits_bayer(const Reduction& job, const Noise* noise);
+namespace zorcc {
 
-// Error diffusion, with noise unless it is null: Floyd-Steinberg; Stucki or Jarvis-Judice-Ninke. `errors` holds
-// errorRowsOf(method) rows of `width` zeros for every channel that is converted; `workers` share out the channels.
-void ownReduceBits_fs(const Reduction& job, const Noise* noise, float* errors, int workers);
-void ownReduceBits_st_jj(const Reduction& job, const Noise* noise, float* errors, int workers, ZorDitherMethod method);
+// What error diffusion needs beside the reduction.
+struct DiffusionNeeds {
+    const Noise* noise; // null: no noise
+    float* errors;      // for every channel that is converted as many rows of `width` zeros as the method looks up
+    int workers;        // that share out the channels
+};
+
+struct ReduceDrivers {
+    DriverWith<const Reduction&>& plain;
+    DriverWith<const Reduction&, const Noise*>& ordered; // with noise unless it is null
+    DriverWith<const Reduction&, const DiffusionNeeds&>&floydSteinberg, &jarvisJudiceNinke, &stucki;
+    float whiteOfSource;
+    int maxLevels;
+};
+
+struct ReduceRows {
+    ReduceDrivers my8u, my16u, my16u8u, my16s, my16s8u, my32f8u, my32f16u, my32f16s;
+};
+
+} // namespace zorcc
+
+ZORCC_TABLE_OF_EACH_TIER(ReduceRows, reduceRows)

@@ -1,24 +1,19 @@
 // SPDX-License-Identifier: MIT
-// What every kernel of the bit-depth reduction is told, whatever its method. Row files of all tiers include this, so
+// What every kernel of the bit-depth reduction gets, whatever its method. Row files of all tiers include this, so that
 // functions are always inline.
 #pragma once
 
-#include <stdint.h>
-
+#include "frame/convert.h"
 #include "reduce/noise.h"
-#include "zortypes.h"
 
 namespace zorcc {
 
-// Sample types of source and destination. Signed samples stand for 0..65535, moved down by 32768; floats for 0..1.
-enum class ReduceTypes { u8, u16, u16u8, s16, s16u8, f32u8, f32u16, f32s16 };
-
-// How the samples of a row belong to pixels, by the codes that the kernels know them under.
-enum class ReduceLayout { C1 = 1, C3 = 3, AC4 = 4, C4 = 5 };
+// How the samples of a row belong to pixels.
+enum class ReduceLayout { C1, C3, C4, AC4 };
 
 [[gnu::always_inline]] constexpr int samplesPerPixel(ReduceLayout layout)
 {
-    return layout == ReduceLayout::C4 ? 4 : static_cast<int>(layout);
+    return layout == ReduceLayout::C1 ? 1 : layout == ReduceLayout::C3 ? 3 : 4;
 }
 
 // Channels that are converted: the fourth of AC4 is neither read nor written.
@@ -28,52 +23,24 @@ enum class ReduceLayout { C1 = 1, C3 = 3, AC4 = 4, C4 = 5 };
 }
 
 struct Reduction {
-    const void* src;
-    int srcStep;
-    void* dst;
-    int dstStep;
-    ZorSize size;
-    ReduceTypes types;
     ReduceLayout layout;
     int intervals; // levels - 1: the quantisation steps between black and white
 };
 
-// How the value of a source sample reaches from 0 to white, and likewise in a destination.
-template <class Sample> inline constexpr float fullScale = 65535;
-template <> inline constexpr float fullScale<uint8_t> = 255;
-template <> inline constexpr float fullScale<float> = 1;
+// The greatest value of a source sample, which stands for white, and likewise of a destination's. Signed samples stand
+// for 0..65535, less 32768; floats for 0..1.
+template <class Sample> inline constexpr float white = 65535;
+template <> inline constexpr float white<uint8_t> = 255;
+template <> inline constexpr float white<float> = 1;
 
 // What a quantisation step is worth in the source's scale, and how many of them a unit holds; both rounded once.
 struct StepSize {
     float step, inverse;
 
-    [[gnu::always_inline]] StepSize(float scale, int intervals)
-        : step(scale / static_cast<float>(intervals)), inverse(static_cast<float>(intervals) / scale)
+    [[gnu::always_inline]] StepSize(float whiteOfSource, int intervals)
+        : step(whiteOfSource / static_cast<float>(intervals)), inverse(static_cast<float>(intervals) / whiteOfSource)
     {
     }
 };
-
-// Calls work(Src{}, Dst{}).
-template <class Work> [[gnu::always_inline]] inline void withTypes(ReduceTypes types, const Work& work)
-{
-    switch (types) {
-    case ReduceTypes::u8:
-        return work(uint8_t{}, uint8_t{});
-    case ReduceTypes::u16:
-        return work(uint16_t{}, uint16_t{});
-    case ReduceTypes::u16u8:
-        return work(uint16_t{}, uint8_t{});
-    case ReduceTypes::s16:
-        return work(int16_t{}, int16_t{});
-    case ReduceTypes::s16u8:
-        return work(int16_t{}, uint8_t{});
-    case ReduceTypes::f32u8:
-        return work(float{}, uint8_t{});
-    case ReduceTypes::f32u16:
-        return work(float{}, uint16_t{});
-    case ReduceTypes::f32s16:
-        return work(float{}, int16_t{});
-    }
-}
 
 } // namespace zorcc

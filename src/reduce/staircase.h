@@ -3,23 +3,10 @@
 // its steps are is found by asking the formula about every input, so the bytes are the formula's, however it rounds.
 #pragma once
 
-#include "reduce/sample_loop.h"
-#include "reduce/samples.h"
-#include "reduce/thresholds.h"
+#include "reduce/quantise_formulas.h"
 
 namespace zorcc::ZORCC_TIER {
 namespace {
-
-// count + 1 where a > b.
-ZORCC_INLINE u8v countGreater(u8v count, s8v a, s8v b)
-{
-#if defined(ZORCC_TIER_avx512)
-    return (u8v)_mm512_mask_sub_epi8(reg(count), _mm512_cmpgt_epi8_mask(reg(a), reg(b)), reg(count),
-                                     _mm512_set1_epi8(-1));
-#else
-    return count - (u8v)(a > b); // true is -1
-#endif
-}
 
 class Staircases {
 public:
@@ -44,7 +31,7 @@ public:
         for (int v = 0; v < 256; ++v) {
             if (!present[v]) continue;
             if (count == maxValues) return false;
-            values[count++] = static_cast<uint8_t>(v);
+            values.byte[count++] = static_cast<uint8_t>(v);
         }
         rises = count - 1;
         return true;
@@ -57,35 +44,33 @@ public:
             for (int r = 0; r < rises; ++r) {
                 int8_t last[bayerSide]; // input whose output is not above value r; less 128
                 for (int x = 0; x < bayerSide; ++x)
-                    last[x] = static_cast<int8_t>(firstAbove(staircase[y][x], values[r]) - 129);
+                    last[x] = static_cast<int8_t>(firstAbove(staircase[y][x], values.byte[r]) - 129);
                 int8_t* const row = below[y][r];
                 for (int i = 0; i < period; ++i) row[i] = last[i / channels % bayerSide];
                 for (int i = period; i < period + step; i += period) __builtin_memcpy(row + i, row, period);
             }
     }
 
-    template <bool keepAlpha> void convertRow(const uint8_t* src, uint8_t* dst, ptrdiff_t samples, int y) const
-    {
-        const auto& row = below[y % bayerSide];
-        const u8v value = fillBlock(_mm_load_si128((const __m128i*)values));
-        convertSamples<step>(src, dst, samples, [&](const uint8_t* from, uint8_t* to, ptrdiff_t i) {
-            const ptrdiff_t phase = i % period;
+    // The formula of row y.
+    struct Row {
+        const Staircases& staircases;
+        int y, phase;
+
+        [[gnu::always_inline]] Row at(int x) const { return {staircases, y, x % period}; }
+
+        [[gnu::always_inline]] Vectors<3> operator()(const Vectors<3>& bytes) const
+        {
+            const u8v value = fillBlock(staircases.values);
             u8v count[3] = {};
             s8v v[3];
-            for (int k = 0; k < 3; ++k) v[k] = (s8v)(load(from + k * vectorBytes) ^ 0x80); // signed comparison
-            for (int r = 0; r < rises; ++r)
+            for (int k = 0; k < 3; ++k) v[k] = (s8v)(bytes.v[k] ^ 0x80); // signed comparison
+            for (int r = 0; r < staircases.rises; ++r)
                 for (int k = 0; k < 3; ++k)
-                    count[k] = countGreater(count[k], v[k], load<s8v>(row[r] + phase + k * vectorBytes));
-            for (int k = 0; k < 3; ++k) {
-                u8v out = shuffle(value, count[k]);
-                if constexpr (keepAlpha) {
-                    const u8v alpha = fillBlock(_mm_set1_epi32(static_cast<int>(0xff000000)));
-                    out = (out & ~alpha) | (load(to + k * vectorBytes) & alpha);
-                }
-                store(to + k * vectorBytes, out);
-            }
-        });
-    }
+                    count[k] = addOneWhere(count[k], v[k], load<s8v>(staircases.below[y][r] + phase + k * vectorBytes));
+            return collect<3>([&](auto k) { return shuffle(value, count[k]); });
+        }
+    };
+    [[gnu::always_inline]] Row row(int y) const { return {*this, y % bayerSide, 0}; }
 
 private:
     static constexpr int maxValues = 16;         // what one shuffle can look up
@@ -94,7 +79,7 @@ private:
 
     uint8_t outputs[bayerSide][bayerSide][256];
     const uint8_t* staircase[bayerSide][bayerSide]; // those of one threshold are one
-    alignas(16) uint8_t values[maxValues] = {};
+    Block values = {};                              // the outputs, ascending
     int rises;
     alignas(64) int8_t below[bayerSide][maxValues - 1][period + step];
 

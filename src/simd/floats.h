@@ -12,7 +12,7 @@ namespace {
 
 using f32v = Vec<float>;
 using FloatRegister = decltype(ZORCC_MM(setzero_ps)());
-constexpr int floatsPerVector = vectorBytes / 4;
+constexpr int lanes = vectorBytes / 4; // of 32 bits
 
 ZORCC_INLINE FloatRegister reg(f32v v) { return (FloatRegister)v; }
 
@@ -27,15 +27,28 @@ ZORCC_INLINE s32v truncate(f32v v) { return (s32v)ZORCC_MM(cvttps_epi32)(reg(v))
 ZORCC_INLINE s32v roundToEven(f32v v) { return (s32v)ZORCC_MM(cvtps_epi32)(reg(v)); }
 
 // The second operand where one of them is NaN.
-ZORCC_INLINE f32v minimum(f32v a, f32v b) { return (f32v)ZORCC_MM(min_ps)(reg(a), reg(b)); }
-ZORCC_INLINE f32v maximum(f32v a, f32v b) { return (f32v)ZORCC_MM(max_ps)(reg(a), reg(b)); }
+ZORCC_INLINE f32v min(f32v a, f32v b) { return (f32v)ZORCC_MM(min_ps)(reg(a), reg(b)); }
+ZORCC_INLINE f32v max(f32v a, f32v b) { return (f32v)ZORCC_MM(max_ps)(reg(a), reg(b)); }
 
-ZORCC_INLINE f32v absolute(f32v v) { return (f32v)((s32v)v & 0x7fffffff); }
-constexpr float absolute(float v) { return v < 0 ? -v : v; }
+ZORCC_INLINE f32v abs(f32v v) { return (f32v)((s32v)v & 0x7fffffff); }
+constexpr float abs(float v) { return v < 0 ? -v : v; }
 
 // Per lane: a where the mask (a comparison's answer: 0 or -1) is set, otherwise b.
 ZORCC_INLINE f32v select(s32v mask, f32v a, f32v b) { return mask ? a : b; }
 ZORCC_INLINE s32v select(s32v mask, s32v a, s32v b) { return mask ? a : b; }
+
+// count + sign, which is 1 or -1, where a <= x and b <= y.
+template <int sign> ZORCC_INLINE s32v addWhereBothWithin(s32v count, f32v a, f32v x, f32v b, f32v y)
+{
+#if defined(ZORCC_TIER_avx512)
+    const __mmask16 both =
+        _mm512_mask_cmp_ps_mask(_mm512_cmp_ps_mask(reg(a), reg(x), _CMP_LE_OQ), reg(b), reg(y), _CMP_LE_OQ);
+    return (s32v)_mm512_mask_add_epi32(reg(count), both, reg(count), _mm512_set1_epi32(sign));
+#else
+    const s32v both = (a <= x) & (b <= y); // true is -1
+    return sign > 0 ? count - both : count + both;
+#endif
+}
 
 // v / divisor, rounded as a division does, for 60 and 360: v times the reciprocal in two parts, of which the second
 // makes up for what the first lacks, is the quotient for every significand. Quotients that are too small to have all
@@ -53,7 +66,35 @@ template <int divisor> ZORCC_INLINE f32v divideBy(f32v v)
     return v / float{divisor};
 }
 
-// ---- from samples to 32 bits and back ------------------------------------------------------------------------------
+// ---- neighbours in a sequence of vectors ----------------------------------------------------------------------------
+
+// Each element's left neighbour; `previous` is the vector before.
+ZORCC_INLINE f32v leftOf(f32v previous, f32v here)
+{
+#if defined(ZORCC_TIER_avx512)
+    return (f32v)_mm512_alignr_epi32((Register)here, (Register)previous, 15);
+#elif defined(ZORCC_TIER_avx2)
+    const Register middle = _mm256_permute2x128_si256((Register)previous, (Register)here, 0x21);
+    return (f32v)_mm256_alignr_epi8((Register)here, middle, 12);
+#else
+    return (f32v)_mm_alignr_epi8((Register)here, (Register)previous, 12);
+#endif
+}
+
+// Each element's right neighbour; `next` is the vector after.
+ZORCC_INLINE f32v rightOf(f32v here, f32v next)
+{
+#if defined(ZORCC_TIER_avx512)
+    return (f32v)_mm512_alignr_epi32((Register)next, (Register)here, 1);
+#elif defined(ZORCC_TIER_avx2)
+    const Register middle = _mm256_permute2x128_si256((Register)here, (Register)next, 0x21);
+    return (f32v)_mm256_alignr_epi8(middle, (Register)here, 4);
+#else
+    return (f32v)_mm_alignr_epi8((Register)next, (Register)here, 4);
+#endif
+}
+
+// ---- from samples to 32 bits and back -------------------------------------------------------------------------------
 
 template <int parts> struct Widened {
     s32v part[parts];
@@ -63,6 +104,9 @@ template <int parts> struct Floats {
     f32v part[parts];
 };
 
+// A vector of samples of this type makes that many of 32 bits.
+template <class Sample> inline constexpr int partsOf = 4 / int{sizeof(Sample)};
+
 template <int parts> ZORCC_INLINE Floats<parts> toFloat(const Widened<parts>& v)
 {
     Floats<parts> f;
@@ -70,12 +114,9 @@ template <int parts> ZORCC_INLINE Floats<parts> toFloat(const Widened<parts>& v)
     return f;
 }
 
-// Vectors of samples of this type make that many of 32 bits.
-template <class Sample> inline constexpr int partsOf = 4 / int{sizeof(Sample)};
-
 #if defined(ZORCC_TIER_avx512)
 struct ZipOrder {
-    alignas(64) uint8_t byte[4][64]; // [part][byte of the part]: whose place it takes, in every fourth byte
+    alignas(64) uint8_t byte[4][64]; // [part][byte of the part]: which byte takes its place, in every fourth byte
 
     constexpr ZipOrder() : byte{}
     {
@@ -83,7 +124,7 @@ struct ZipOrder {
             for (int i = 0; i < 64; ++i) byte[p][i] = static_cast<uint8_t>(i / 16 * 16 + 4 * p + i % 16 / 4);
     }
 };
-constexpr ZipOrder zipped;
+constexpr ZipOrder zipOrder;
 #endif
 
 ZORCC_INLINE Widened<4> widen(u8v v)
@@ -91,7 +132,7 @@ ZORCC_INLINE Widened<4> widen(u8v v)
 #if defined(ZORCC_TIER_avx512)
     Widened<4> wide; // one permutation each instead of one and a half zips
     for (int p = 0; p < 4; ++p)
-        wide.part[p] = (s32v)_mm512_maskz_permutexvar_epi8(0x1111111111111111, reg(load(zipped.byte[p])), reg(v));
+        wide.part[p] = (s32v)_mm512_maskz_permutexvar_epi8(0x1111111111111111, reg(load(zipOrder.byte[p])), reg(v));
     return wide;
 #else
     const u8v zero = {};
@@ -106,22 +147,27 @@ ZORCC_INLINE Widened<2> widen(u16v v)
     return {{(s32v)zipLow(v, none), (s32v)zipHigh(v, none)}};
 }
 
-ZORCC_INLINE Widened<2> widen(s16v v) // the sign comes along
+ZORCC_INLINE Widened<2> widen(s16v v) // with its sign
 {
     return {{(s32v)zipLow(v, v) >> 16, (s32v)zipHigh(v, v) >> 16}};
 }
 
-// Saturated to the sample's range.
-ZORCC_INLINE u8v narrowToU8(const Widened<4>& v)
+// Saturated to the sample's range. Each type of samples has its own way; there is none for other types.
+template <class Sample> Vec<Sample> narrow(const Widened<partsOf<Sample>>& v) = delete;
+
+template <> inline __attribute__((always_inline)) u8v narrow<uint8_t>(const Widened<4>& v)
 {
     return packUnsigned(packSigned(v.part[0], v.part[1]), packSigned(v.part[2], v.part[3]));
 }
 
-ZORCC_INLINE s16v narrowToS16(const Widened<2>& v) { return packSigned(v.part[0], v.part[1]); }
+template <> inline __attribute__((always_inline)) s16v narrow<int16_t>(const Widened<2>& v)
+{
+    return packSigned(v.part[0], v.part[1]);
+}
 
 // SSSE3 has no unsigned pack of 32 bits: saturate about the middle of the range instead. The subtraction wraps for
 // values within 32768 of the least integer only, so those are raised to -32768 first.
-ZORCC_INLINE u16v narrowToU16(const Widened<2>& v)
+template <> inline __attribute__((always_inline)) u16v narrow<uint16_t>(const Widened<2>& v)
 {
 #if defined(ZORCC_TIER_ssse3)
     const s32v least = fill32(-32768), a = select(v.part[0] < least, least, v.part[0]),
@@ -130,14 +176,6 @@ ZORCC_INLINE u16v narrowToU16(const Widened<2>& v)
 #else
     return (u16v)ZORCC_MM(packus_epi32)(reg(v.part[0]), reg(v.part[1]));
 #endif
-}
-
-template <class Sample> ZORCC_INLINE Vec<Sample> narrow(const Widened<partsOf<Sample>>& v)
-{
-    if constexpr (sizeof(Sample) == 1)
-        return narrowToU8(v);
-    else
-        return narrowToU16(v);
 }
 
 } // namespace

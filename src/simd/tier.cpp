@@ -15,20 +15,16 @@ Tier bestTier()
     return __builtin_cpu_supports("avx2") ? Tier::avx2 : Tier::ssse3;
 }
 
-namespace {
+Tier currentTier = Tier::ssse3;
 
-// Set before main and before any library that uses this one is initialised; read without a lock by every call.
-Tier active = Tier::ssse3;
+namespace {
 
 __attribute__((constructor)) void chooseTier()
 {
     __builtin_cpu_init();
-    active = bestTier();
+    currentTier = bestTier();
 }
 
 } // namespace
-
-Tier activeTier() { return active; }
-void setActiveTier(Tier tier) { active = tier; }
 
 } // namespace zorcc

@@ -16,15 +16,29 @@ const char* nameOf(Tier tier);
 // The best tier of this processor.
 Tier bestTier();
 
-// The tier that calls run on: bestTier(), unless a test or a benchmark has chosen a lower one. The library exports no
-// way to change it.
-Tier activeTier();
-void setActiveTier(Tier tier);
+// Set before main and before any library that uses this one is initialised; read without a lock by every call. Only
+// tests and benchmarks set it again, to a lower tier: the library exports no way to change it.
+extern Tier currentTier;
+inline Tier activeTier() { return currentTier; }
+inline void setActiveTier(Tier tier) { currentTier = tier; }
 
 } // namespace zorcc
 
-// The driver `function` of the active tier. The drivers must be declared in every tier's namespace (each_tier.h).
-#define ZORCC_ON_TIER(function)                                                                                        \
-    (::zorcc::activeTier() == ::zorcc::Tier::avx512 ? ::zorcc::avx512::function                                        \
-     : ::zorcc::activeTier() == ::zorcc::Tier::avx2 ? ::zorcc::avx2::function                                          \
-                                                    : ::zorcc::ssse3::function)
+// Declares the table of drivers of a family for each tier, and a function of its name that gives the active tier's.
+#define ZORCC_TABLE_OF_EACH_TIER(Table, table)                                                                         \
+    namespace zorcc::ssse3 {                                                                                           \
+    extern const Table table;                                                                                          \
+    }                                                                                                                  \
+    namespace zorcc::avx2 {                                                                                            \
+    extern const Table table;                                                                                          \
+    }                                                                                                                  \
+    namespace zorcc::avx512 {                                                                                          \
+    extern const Table table;                                                                                          \
+    }                                                                                                                  \
+    namespace zorcc {                                                                                                  \
+    inline const Table& table()                                                                                        \
+    {                                                                                                                  \
+        const Table* const ofTier[] = {&ssse3::table, &avx2::table, &avx512::table};                                   \
+        return *ofTier[static_cast<int>(activeTier())];                                                                \
+    }                                                                                                                  \
+    }

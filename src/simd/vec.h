@@ -1,13 +1,15 @@
 // SPDX-License-Identifier: MIT
 // The vector vocabulary of a tier: the compiler's vector types, whose operators do the arithmetic, and functions for
-// what operators cannot say. Included by row files alone; everything has internal linkage, so that no code of one tier
-// can stand in for another's.
+// what operators cannot say. Only row files include it, and everything has internal linkage, so that no code of one
+// tier can stand in for another's. Intrinsics stand in this folder alone; a tier for another instruction set would have
+// to say anew what is in it, and nothing else.
 //
 // A *block* is 128 bits. Zips, packs and shuffles work within blocks, as the instructions do; zipLow and zipHigh of two
 // vectors give elements in an order that a pack of both takes back.
 #pragma once
 
 #include <immintrin.h>
+#include <stddef.h>
 #include <stdint.h>
 
 #define ZORCC_INLINE static inline __attribute__((always_inline))
@@ -36,7 +38,6 @@ using Register = __m256i;
 constexpr int vectorBytes = 16;
 using Register = __m128i;
 #endif
-constexpr int blocks = vectorBytes / 16;
 
 template <class T> using Vec __attribute__((vector_size(vectorBytes))) = T;
 using u8v = Vec<uint8_t>;
@@ -59,6 +60,10 @@ template <class V = u8v> ZORCC_INLINE V load(const void* p)
 
 ZORCC_INLINE void store(void* p, auto v) { __builtin_memcpy(p, &v, sizeof v); }
 
+// Bypasses the caches; p is a multiple of a vector. fenceStores orders such stores before later ones.
+ZORCC_INLINE void storeNonTemporal(void* p, u8v v) { ZORCC_SI(stream)((Register*)p, reg(v)); }
+ZORCC_INLINE void fenceStores() { _mm_sfence(); }
+
 // A vector with every element `value`.
 ZORCC_INLINE u8v fill8(int value) { return (u8v)ZORCC_MM(set1_epi8)(static_cast<char>(value)); }
 ZORCC_INLINE s16v fill16(int value) { return (s16v)ZORCC_MM(set1_epi16)(static_cast<short>(value)); }
@@ -76,6 +81,10 @@ ZORCC_INLINE s16v fillPair16(int first, int second)
 }
 
 // One block, repeated.
+struct Block {
+    alignas(16) uint8_t byte[16];
+};
+
 ZORCC_INLINE u8v fillBlock(__m128i block)
 {
 #if defined(ZORCC_TIER_avx512)
@@ -87,7 +96,9 @@ ZORCC_INLINE u8v fillBlock(__m128i block)
 #endif
 }
 
-// ---- multiplication ------------------------------------------------------------------------------------------------
+ZORCC_INLINE u8v fillBlock(const Block& block) { return fillBlock(_mm_load_si128((const __m128i*)block.byte)); }
+
+// ---- multiplication -------------------------------------------------------------------------------------------------
 
 // a0 b0 + a1 b1 of each pair of bytes; the caller's coefficients keep the sum within 16 bits (it would saturate).
 ZORCC_INLINE s16v mulAddPairs(u8v a, s8v b) { return (s16v)ZORCC_MM(maddubs_epi16)(reg(a), reg(b)); }
@@ -109,24 +120,13 @@ ZORCC_INLINE s32v mulAddPairs(s32v sum, s16v a, s16v b)
 ZORCC_INLINE s16v mulHigh(s16v a, s16v b) { return (s16v)ZORCC_MM(mulhi_epi16)(reg(a), reg(b)); }
 ZORCC_INLINE u16v mulHigh(u16v a, u16v b) { return (u16v)ZORCC_MM(mulhi_epu16)(reg(a), reg(b)); }
 
-// v, and 1 more where a > b.
-ZORCC_INLINE s16v addOneWhere(s16v v, u16v a, u16v b)
-{
-#if defined(ZORCC_TIER_avx512)
-    const __mmask32 greater = _mm512_cmpgt_epu16_mask(reg(a), reg(b));
-    return (s16v)_mm512_mask_sub_epi16(reg(v), greater, reg(v), _mm512_set1_epi16(-1));
-#else
-    return v - (s16v)((s16v)(a ^ 0x8000) > (s16v)(b ^ 0x8000)); // true is -1
-#endif
-}
-
 // (a + b + 1) / 2, and (a + b) / 2, of each byte.
 ZORCC_INLINE u8v averageUp(u8v a, u8v b) { return (u8v)ZORCC_MM(avg_epu8)(reg(a), reg(b)); }
 ZORCC_INLINE u8v averageDown(u8v a, u8v b) { return averageUp(a, b) - ((a ^ b) & 1); }
 
 ZORCC_INLINE u16v averageUp(u16v a, u16v b) { return (u16v)ZORCC_MM(avg_epu16)(reg(a), reg(b)); }
 
-// ---- saturation ----------------------------------------------------------------------------------------------------
+// ---- saturation -----------------------------------------------------------------------------------------------------
 
 ZORCC_INLINE u8v addSaturate(u8v a, u8v b) { return (u8v)ZORCC_MM(adds_epu8)(reg(a), reg(b)); }
 ZORCC_INLINE u8v subSaturate(u8v a, u8v b) { return (u8v)ZORCC_MM(subs_epu8)(reg(a), reg(b)); }
@@ -134,15 +134,15 @@ ZORCC_INLINE u8v subSaturate(u8v a, u8v b) { return (u8v)ZORCC_MM(subs_epu8)(reg
 ZORCC_INLINE u16v addSaturate(u16v a, u16v b) { return (u16v)ZORCC_MM(adds_epu16)(reg(a), reg(b)); }
 ZORCC_INLINE u16v subSaturate(u16v a, u16v b) { return (u16v)ZORCC_MM(subs_epu16)(reg(a), reg(b)); }
 
-ZORCC_INLINE u8v minimum(u8v a, u8v b) { return (u8v)ZORCC_MM(min_epu8)(reg(a), reg(b)); }
-ZORCC_INLINE u8v maximum(u8v a, u8v b) { return (u8v)ZORCC_MM(max_epu8)(reg(a), reg(b)); }
+ZORCC_INLINE u8v min(u8v a, u8v b) { return (u8v)ZORCC_MM(min_epu8)(reg(a), reg(b)); }
+ZORCC_INLINE u8v max(u8v a, u8v b) { return (u8v)ZORCC_MM(max_epu8)(reg(a), reg(b)); }
 
 #if defined(ZORCC_TIER_ssse3)
-ZORCC_INLINE u16v minimum(u16v a, u16v b) { return a - subSaturate(a, b); }
-ZORCC_INLINE u16v maximum(u16v a, u16v b) { return b + subSaturate(a, b); }
+ZORCC_INLINE u16v min(u16v a, u16v b) { return a - subSaturate(a, b); }
+ZORCC_INLINE u16v max(u16v a, u16v b) { return b + subSaturate(a, b); }
 #else
-ZORCC_INLINE u16v minimum(u16v a, u16v b) { return (u16v)ZORCC_MM(min_epu16)(reg(a), reg(b)); }
-ZORCC_INLINE u16v maximum(u16v a, u16v b) { return (u16v)ZORCC_MM(max_epu16)(reg(a), reg(b)); }
+ZORCC_INLINE u16v min(u16v a, u16v b) { return (u16v)ZORCC_MM(min_epu16)(reg(a), reg(b)); }
+ZORCC_INLINE u16v max(u16v a, u16v b) { return (u16v)ZORCC_MM(max_epu16)(reg(a), reg(b)); }
 #endif
 
 ZORCC_INLINE u8v clamp(u8v v, int low, int high)
@@ -155,10 +155,7 @@ ZORCC_INLINE u8v packUnsigned(s16v lo, s16v hi) { return (u8v)ZORCC_MM(packus_ep
 ZORCC_INLINE s8v packSigned(s16v lo, s16v hi) { return (s8v)ZORCC_MM(packs_epi16)(reg(lo), reg(hi)); }
 ZORCC_INLINE s16v packSigned(s32v lo, s32v hi) { return (s16v)ZORCC_MM(packs_epi32)(reg(lo), reg(hi)); }
 
-// Per lane: a where all bits of the mask are set, b where none is.
-template <class V> ZORCC_INLINE V select(V mask, V a, V b) { return (a & mask) | (b & ~mask); }
-
-// ---- order ---------------------------------------------------------------------------------------------------------
+// ---- order within blocks --------------------------------------------------------------------------------------------
 
 // Per block: a0 b0 a1 b1 ... of the lower halves, and of the upper halves.
 template <class V> ZORCC_INLINE V zipLow(V a, V b)
@@ -185,7 +182,26 @@ template <class V> ZORCC_INLINE V zipHigh(V a, V b)
         return (V)ZORCC_MM(unpackhi_epi64)(reg(a), reg(b));
 }
 
-// The lower halves of all blocks, then the upper halves: the way back from per block to the whole vector behind a pack.
+// The lower and the upper byte of every pair.
+ZORCC_INLINE s16v firstOfPairs(u8v pairs) { return (s16v)pairs & 0xff; }
+ZORCC_INLINE s16v secondOfPairs(u8v pairs) { return (s16v)((u16v)pairs >> 8); }
+
+// Per block: element i is v[index[i]], or 0 where index[i] has its top bit set.
+ZORCC_INLINE u8v shuffle(u8v v, u8v index) { return (u8v)ZORCC_MM(shuffle_epi8)(reg(v), reg(index)); }
+ZORCC_INLINE u8v shuffle(u8v v, const Block& index) { return shuffle(v, fillBlock(index)); }
+
+constexpr Block zippedHalves = {{0, 8, 1, 9, 2, 10, 3, 11, 4, 12, 5, 13, 6, 14, 7, 15}};
+constexpr Block unzippedHalves = {{0, 2, 4, 6, 8, 10, 12, 14, 1, 3, 5, 7, 9, 11, 13, 15}};
+constexpr Block unzippedHalves16 = {{0, 1, 4, 5, 8, 9, 12, 13, 2, 3, 6, 7, 10, 11, 14, 15}};
+
+// Per block: a0..a7 b0..b7 becomes a0 b0 a1 b1 ...
+ZORCC_INLINE u8v zipHalves(u8v v) { return shuffle(v, zippedHalves); }
+
+// Per block: the elements of even places, then those of odd places.
+ZORCC_INLINE u8v unzipHalves(u8v v) { return shuffle(v, unzippedHalves); }
+ZORCC_INLINE u16v unzipHalves(u16v v) { return (u16v)shuffle((u8v)v, unzippedHalves16); }
+
+// The lower halves of all blocks, then the upper halves: turns per-block order into memory order after a pack.
 template <class V> ZORCC_INLINE V orderHalves(V v)
 {
 #if defined(ZORCC_TIER_avx512)
@@ -197,28 +213,64 @@ template <class V> ZORCC_INLINE V orderHalves(V v)
 #endif
 }
 
-// The lower and the upper byte of every pair.
-ZORCC_INLINE s16v firstOfPairs(u8v pairs) { return (s16v)pairs & 0xff; }
-ZORCC_INLINE s16v secondOfPairs(u8v pairs) { return (s16v)((u16v)pairs >> 8); }
+// ---- choice ---------------------------------------------------------------------------------------------------------
 
-// Per block: element i is v[index[i]], or 0 where index[i] has its top bit set.
-ZORCC_INLINE u8v shuffle(u8v v, u8v index) { return (u8v)ZORCC_MM(shuffle_epi8)(reg(v), reg(index)); }
-
-// Per block: a0..a7 b0..b7 becomes a0 b0 a1 b1 ...
-ZORCC_INLINE u8v zipHalves(u8v v)
+// Bit by bit: a where the mask is set, otherwise b. The bits of every byte of the mask are the same.
+template <class V> ZORCC_INLINE V select(V mask, V a, V b)
 {
-    return shuffle(v, fillBlock(_mm_setr_epi8(0, 8, 1, 9, 2, 10, 3, 11, 4, 12, 5, 13, 6, 14, 7, 15)));
+#if defined(ZORCC_TIER_avx512)
+    return (V)_mm512_ternarylogic_epi32(reg(mask), reg(a), reg(b), 0xca);
+#elif defined(ZORCC_TIER_avx2)
+    return (V)_mm256_blendv_epi8(reg(b), reg(a), reg(mask));
+#else
+    return (a & mask) | (b & ~mask);
+#endif
 }
 
-// Per block: the elements of even places, then those of odd places.
-ZORCC_INLINE u8v unzipHalves(u8v v)
+// a where x < y, b where y < x, otherwise c, of unsigned elements.
+template <class V> ZORCC_INLINE V selectByOrder(V x, V y, V a, V b, V c)
 {
-    return shuffle(v, fillBlock(_mm_setr_epi8(0, 2, 4, 6, 8, 10, 12, 14, 1, 3, 5, 7, 9, 11, 13, 15)));
+#if defined(ZORCC_TIER_avx512)
+    if constexpr (sizeof(x[0]) == 1) {
+        const __mmask64 less = _mm512_cmplt_epu8_mask(reg(x), reg(y)), greater = _mm512_cmplt_epu8_mask(reg(y), reg(x));
+        return (V)_mm512_mask_mov_epi8(_mm512_mask_mov_epi8(reg(c), less, reg(a)), greater, reg(b));
+    } else {
+        const __mmask32 less = _mm512_cmplt_epu16_mask(reg(x), reg(y)),
+                        greater = _mm512_cmplt_epu16_mask(reg(y), reg(x));
+        return (V)_mm512_mask_mov_epi16(_mm512_mask_mov_epi16(reg(c), less, reg(a)), greater, reg(b));
+    }
+#else
+    const V notLess = (V)(subSaturate(y, x) == 0), notGreater = (V)(subSaturate(x, y) == 0);
+    return select(notLess, select(notGreater, c, b), a);
+#endif
 }
 
-ZORCC_INLINE u16v unzipHalves(u16v v)
+// v, and 1 more where a > b.
+ZORCC_INLINE s16v addOneWhere(s16v v, u16v a, u16v b)
 {
-    return (u16v)shuffle((u8v)v, fillBlock(_mm_setr_epi8(0, 1, 4, 5, 8, 9, 12, 13, 2, 3, 6, 7, 10, 11, 14, 15)));
+#if defined(ZORCC_TIER_avx512)
+    const __mmask32 greater = _mm512_cmpgt_epu16_mask(reg(a), reg(b));
+    return (s16v)_mm512_mask_sub_epi16(reg(v), greater, reg(v), _mm512_set1_epi16(-1));
+#else
+    return v - (s16v)((s16v)(a ^ 0x8000) > (s16v)(b ^ 0x8000)); // true is -1
+#endif
+}
+
+ZORCC_INLINE u8v addOneWhere(u8v v, s8v a, s8v b)
+{
+#if defined(ZORCC_TIER_avx512)
+    return (u8v)_mm512_mask_sub_epi8(reg(v), _mm512_cmpgt_epi8_mask(reg(a), reg(b)), reg(v), _mm512_set1_epi8(-1));
+#else
+    return v - (u8v)(a > b);                                    // true is -1
+#endif
+}
+
+// All bits in the even elements, or in the odd ones.
+template <class V> ZORCC_INLINE V alternatingMask(bool odd)
+{
+    V mask = {};
+    for (size_t i = 0; i < sizeof(V) / sizeof(mask[0]); ++i) mask[i] = (i & 1) == odd ? ~mask[i] : mask[i];
+    return mask;
 }
 
 } // namespace

@@ -62,7 +62,9 @@ def contracted(path):
 
 
 def weak(path):
-    return [line for line in output_of("nm", path).splitlines() if re.search(r" [WwVuiB-D] \S+$", line)]
+    """Symbols that are weak, or writable other than by relocations."""
+    symbols = output_of("nm", "--format=sysv", path).splitlines()
+    return [line for line in symbols if re.search(r"\|\s*[WwVuiB-D]\s*\|", line) and ".data.rel.ro" not in line]
 
 
 findings = Findings()

@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: MIT
+// Row drivers of the RGB and YCbCr (ITU-R BT.601) conversions, compiled once for every tier.
+#include "lumachroma/bt601_rows.h"
+
+#include "lumachroma/bt601_formulas.h"
+
+namespace zorcc::ZORCC_TIER {
+
+namespace {
+
+// ---- 4:2:0 with filtered chroma -------------------------------------------------------------------------------------
+
+constexpr int tileChroma = 512; // chroma samples of a row that are upsampled at a time
+
+// Columns 2 * first to 2 * (first + count) - 1 of a row of full size. Of its four nearest chroma samples the nearest
+// counts 9, its neighbours in the row and in the column 3 each, the diagonal one 1, of 16. Edges repeat.
+void upsample(const uint8_t* near, const uint8_t* far, int chromaWidth, int first, int count, uint8_t* full)
+{
+    uint16_t mixed[tileChroma + 2]; // 3 to 1 of the two rows, and a sample more on either side
+    const auto mix = [=](int x) { return static_cast<uint16_t>(3 * near[x] + far[x]); };
+    mixed[0] = mix(first > 0 ? first - 1 : 0);
+    for (int i = 0; i < count; ++i) mixed[i + 1] = mix(first + i);
+    mixed[count + 1] = mix(first + count < chromaWidth ? first + count : chromaWidth - 1);
+    for (int i = 0; i < count; ++i) {
+        full[2 * i] = static_cast<uint8_t>((3 * mixed[i + 1] + mixed[i] + 8) >> 4);
+        full[2 * i + 1] = static_cast<uint8_t>((3 * mixed[i + 1] + mixed[i + 2] + 8) >> 4);
+    }
+}
+
+// Upsamples the chroma of a tile at a time and converts it as 4:4:4.
+template <class Formula, class Destination>
+void filtered420(const Image& from, const Image& to, ZorSize size, uint8_t alpha)
+{
+    const RowsOf<Destination> destination(to);
+    const int chromaWidth = size.width / 2, chromaHeight = size.height / 2;
+    for (int y = 0; y < size.height; ++y) {
+        const int near = y / 2, neighbour = y % 2 == 0 ? near - 1 : near + 1;
+        const int far = neighbour < 0 || neighbour >= chromaHeight ? near : neighbour;
+        for (int first = 0; first < chromaWidth; first += tileChroma) {
+            const int count = chromaWidth - first < tileChroma ? chromaWidth - first : tileChroma;
+            uint8_t full[2][2 * tileChroma];
+            for (int c = 0; c < 2; ++c)
+                upsample(from.row(c + 1, near), from.row(c + 1, far), chromaWidth, first, count, full[c]);
+            const P3<> ycc = {{{from.row(0, y) + 2 * first, full[0], full[1]}}};
+            convertPixels(ycc, Formula{alpha}, fromPixel(destination[y], 2 * first), 2 * count);
+        }
+    }
+}
+
+} // namespace
+
+const Bt601Rows bt601Rows = {
+    .myRGBToYCbCr_8u_C3R = rows<C3<>, RgbToBt601, C3<>>,
+    .myRGBToYCbCr_8u_AC4R = rows<AC4<>, RgbToBt601, AC4<>>,
+    .myRGBToYCbCr_8u_C3P3R = rows<C3<>, RgbToBt601, P3<>>,
+    .myRGBToYCbCr_8u_AC4P3R = rows<AC4<>, RgbToBt601, P3<>>,
+    .myRGBToYCbCr_8u_P3R = rows<P3<>, RgbToBt601, P3<>>,
+    .myYCbCrToRGB_8u_C3R = rows<C3<>, Bt601ToRgb, C3<>>,
+    .myYCbCrToRGB_8u_AC4R = rows<AC4<>, Bt601ToRgb, AC4<>>,
+    .myYCbCrToRGB_8u_P3R = rows<P3<>, Bt601ToRgb, P3<>>,
+    .myYCbCrToRGB_8u_P3C3R = rows<P3<>, Bt601PlanesToRgb, C3<>>,
+    .myYCbCrToRGB_8u_P3C4R = rows<P3<>, WithAlpha<Bt601PlanesToRgb>, C4<>>,
+
+    .myRGBToYCbCr422_8u_C3C2R = rows<C3<>, RgbToBt601_422, Yuy2>,
+    .myRGBToYCbCr422_8u_P3C2R = rows<P3<>, RgbToBt601_422, Yuy2>,
+    .myYCbCr422ToRGB_8u_C2C3R = rows<Yuy2, Bt601PackedToRgb, C3<>>,
+    .myYCbCr422ToRGB_8u_C2P3R = rows<Yuy2, Bt601PackedToRgb, P3<>>,
+    .myYCbCr422ToRGB_8u_P3C3R = rows<Planar422, Bt601PlanesToRgb, C3<>>,
+
+    .myRGBToYCbCr420_8u_C3P3R = rows<C3<>, RgbToBt601_420, Planar420>,
+    .myYCbCr420ToRGB_8u_P3C3R = rows<Planar420, Bt601ToRgb, C3<>>,
+    .myYCbCr420ToBGR_8u_P3C3R = rows<Planar420, Bt601ToRgb, Bgr>,
+    .myYCbCr420ToBGR_8u_P3C4R = rows<Planar420, WithAlpha<Bt601ToRgb>, Bgra>,
+    .myYCrCb420ToRGB_8u_P3C4R = rows<Planar420, WithAlpha<Bt601ToRgb>, C4<>>,
+    .myYCrCb420ToBGR_Filter_8u_P3C4R = filtered420<WithAlpha<Bt601ToRgb>, Bgra>,
+
+    .myYCbCr411ToBGR_8u_P3C3R = rows<Planar411, Bt601_411ToRgb, Bgr>,
+    .myYCbCr411ToBGR_8u_P3C4R = rows<Planar411, WithAlpha<Bt601_411ToRgb>, Bgra>,
+};
+
+} // namespace zorcc::ZORCC_TIER

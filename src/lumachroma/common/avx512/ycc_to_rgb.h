@@ -1,0 +1,136 @@
+// SPDX-License-Identifier: MIT
+// Luma and shared chroma to RGB by the dot products of AVX-512: every sum as it is written down, in 32 bits.
+#pragma once
+
+#include "simd/avx512/wide_pixels.h"
+
+namespace zorcc::ZORCC_TIER {
+namespace {
+
+template <ToRgb k> class DotProductsToRgb {
+    // Weights beyond 16 bits are those of R and B. They are products of a coefficient and a small factor, by which the
+    // sample is multiplied first.
+    static constexpr int factorOf(int weight)
+    {
+        int factor = 1;
+        while (weight / factor > 32767 || weight % factor != 0) ++factor;
+        return factor;
+    }
+    static constexpr int factorR = factorOf(k.r), factorB = factorOf(k.b);
+
+public:
+    // A quarter of the weight of luma has to fit an element; luma of weight 1 has a quicker way.
+    static constexpr bool possible =
+        k.y % 4 == 0 && k.y / 4 < 32768 && k.y != 65536 && 255 * factorR < 32768 && 255 * factorB < 32768;
+
+    template <int rows> Unsaturated<rows> operator()(const Subsampled<rows>& ycc) const
+    {
+        return operator()(toLanes(ycc.y, ycc.chroma));
+    }
+
+    template <int rows, LumaOrder order> Unsaturated<rows> operator()(const YccLanes<rows, order>& ycc) const
+    {
+        const s16v lower = fillPair16(k.y / 4, 0), upper = fillPair16(0, k.y / 4);
+        Unsaturated<rows> rgb;
+        for (int half = 0; half < 2; ++half) {
+            const s16v uv = ycc.chroma[half], multiples = uv * fillPair16(factorB, factorR);
+            const s32v g = mulAddPairs(fill32(k.constantG), uv, fillPair16(-k.g1, -k.g2 % factorR));
+            const s32v chroma[3] = {mulAddPairs(fill32(k.constantR), multiples, fillPair16(0, k.r / factorR)),
+                                    mulAddPairs(g, multiples, fillPair16(0, -k.g2 / factorR)),
+                                    mulAddPairs(fill32(k.constantB), multiples, fillPair16(k.b / factorB, 0))};
+            for (int row = 0; row < rows; ++row)
+                for (int c = 0; c < 3; ++c) {
+                    const s16v* luma = ycc.luma[row];
+                    if constexpr (order == LumaOrder::byColumn) {
+                        const s16v weight = half == 0 ? lower : upper;
+                        rgb.c[row][c][half] = upperHalves(mulAddPairs(chroma[c], luma[0], weight),
+                                                          mulAddPairs(chroma[c], luma[1], weight));
+                    } else {
+                        rgb.c[row][c][half] = upperHalves(mulAddPairs(chroma[c], luma[half], lower),
+                                                          mulAddPairs(chroma[c], luma[half], upper));
+                    }
+                }
+        }
+        return rgb;
+    }
+
+    YccToRgb<k> single() const { return {}; }
+
+private:
+    UpperHalves upperHalves;
+    ToYccLanes toLanes;
+};
+
+template <int rows> ZORCC_INLINE UnsaturatedWithAlpha<rows> withAlpha(const Unsaturated<rows>& rgb, uint8_t alpha)
+{
+    return {rgb, fill8(alpha)};
+}
+
+// ---- layouts --------------------------------------------------------------------------------------------------------
+
+template <PackedOrder order> struct PackedInLanes : Packed422<order> {
+    YccLanes<1, LumaOrder::byHalf> load(int x) const
+    {
+        constexpr bool lumaFirst = order == PackedOrder::lumaFirst;
+        YccLanes<1, LumaOrder::byHalf> ycc;
+        for (int half = 0; half < 2; ++half) {
+            const u8v bytes = zorcc::ZORCC_TIER::load(this->at(0, x) + half * vectorBytes);
+            ycc.luma[0][half] = mulAddPairs(bytes, lumaFirst ? fillPair8(4, 0) : fillPair8(0, 4));
+            ycc.chroma[half] = lumaFirst ? secondOfPairs(bytes) : firstOfPairs(bytes);
+        }
+        return ycc;
+    }
+};
+
+template <Order order> struct C3OfWide : C3<uint8_t, order> {
+    using C3<uint8_t, order>::store;
+    void store(int x, const Unsaturated<1>& p) const { storeThrees(this->at(0, x), p); }
+
+    StoreThrees<order == Order::reversed> storeThrees;
+};
+
+template <Order order> struct C4OfWide : C4<uint8_t, order> {
+    using C4<uint8_t, order>::store;
+    void store(int x, const UnsaturatedWithAlpha<1>& p) const { storeFours(this->at(0, x), p); }
+
+    StoreFours<order == Order::reversed> storeFours;
+};
+
+template <Order order> struct P3OfWide : P3<uint8_t, order> {
+    using P3<uint8_t, order>::store;
+    void store(int x, const Unsaturated<1>& p) const
+    {
+        store(x, Pixels<3>{{{saturated(p.c[0][0]), saturated(p.c[0][1]), saturated(p.c[0][2])}}});
+    }
+};
+
+// ---- where they are used --------------------------------------------------------------------------------------------
+
+template <class Layout> struct InLanes : std::type_identity<Layout> {
+};
+template <PackedOrder order> struct InLanes<Packed422<order>> : std::type_identity<PackedInLanes<order>> {
+};
+
+template <class Layout> struct OfWide;
+template <Order order> struct OfWide<C3<uint8_t, order>> : std::type_identity<C3OfWide<order>> {
+};
+template <Order order> struct OfWide<C4<uint8_t, order>> : std::type_identity<C4OfWide<order>> {
+};
+template <Order order> struct OfWide<P3<uint8_t, order>> : std::type_identity<P3OfWide<order>> {
+};
+
+// Sources that share chroma.
+template <class From, ToRgb k, class To>
+requires(DotProductsToRgb<k>::possible&& From::group* From::rowsAtOnce > 1) struct OnThisTier<From, YccToRgb<k>, To> {
+    using Source = typename InLanes<From>::type;
+    using Formula = DotProductsToRgb<k>;
+    using Destination = typename OfWide<To>::type;
+};
+
+template <class From, ToRgb k, class To>
+struct OnThisTier<From, WithAlpha<YccToRgb<k>>, To> : OnThisTier<From, YccToRgb<k>, To> {
+    using Formula = WithAlpha<typename OnThisTier<From, YccToRgb<k>, To>::Formula>;
+};
+
+} // namespace
+} // namespace zorcc::ZORCC_TIER

@@ -1,0 +1,99 @@
+// SPDX-License-Identifier: MIT
+// RGB to luma and chroma by any coefficients: chroma of every pixel, and chroma that two pixels of a row (4:2:2) or the
+// four of a 2 x 2 block (4:2:0) share, which is formed from their sums.
+#pragma once
+
+#include "lumachroma/common/weighted_sums.h"
+#include "pixels/subsampled.h"
+
+namespace zorcc::ZORCC_TIER {
+namespace {
+
+// ---- chroma of every pixel ------------------------------------------------------------------------------------------
+
+// A matrix whose results need no clamp: each channel is (weighted sum + bias) >> 16.
+template <Weights y, int yBias, Weights first, Weights second, int chromaBias> struct MatrixToYcc {
+    Pixels<3> operator()(const Pixels<3>& rgb) const
+    {
+        const auto [r, g, b] = rgb.c[0];
+        const u8v rgLo = zipLow(r, g), bgLo = zipLow(b, g), rgHi = zipHigh(r, g), bgHi = zipHigh(b, g);
+        return {{{packWhole(weigh<y, yBias>(rgLo, bgLo), weigh<y, yBias>(rgHi, bgHi)),
+                  packWhole(weigh<first, chromaBias>(rgLo, bgLo), weigh<first, chromaBias>(rgHi, bgHi)),
+                  packWhole(weigh<second, chromaBias>(rgLo, bgLo), weigh<second, chromaBias>(rgHi, bgHi))}}};
+    }
+};
+
+// ---- shared chroma: a way to weigh luma and a way to form chroma, for one row or two --------------------------------
+
+template <int rows, class Luma, class Chroma> struct RgbToSubsampled {
+    Subsampled<rows> operator()(const Pixels<3, rows>& rgb) const
+    {
+        Subsampled<rows> out;
+        s16v sum[3] = {};
+        for (int row = 0; row < rows; ++row) {
+            const auto [r, g, b] = rgb.c[row];
+            out.y[row] = Luma::of(r, g, b);
+            for (int c = 0; c < 3; ++c) sum[c] += mulAddPairs(rgb.c[row][c], fillPair8(1, 1));
+        }
+        out.chroma = Chroma::of(sum[0], sum[1], sum[2]);
+        return out;
+    }
+};
+
+// (weighted sum + bias) >> 16 in 0..255, with a bias for the even and one for the odd pixels of a row.
+template <Weights w, int evenBias = 0, int oddBias = evenBias> struct WeightedLuma {
+    static_assert(evenBias % 256 == 0 && oddBias % 256 == 0); // whole in 8.8 fixed point
+
+    ZORCC_INLINE u8v of(u8v r, u8v g, u8v b)
+    {
+        const u16v bias = (u16v)fillPair16(evenBias / 256, oddBias / 256);
+        return packWhole(weigh<w>(zipLow(r, g), zipLow(b, g)) + bias, weigh<w>(zipHigh(r, g), zipHigh(b, g)) + bias);
+    }
+};
+
+// (bias + weighted sum) >> shift of 16-bit sums of bytes, saturated to 16 bits. Weights that pass 16 bits are reduced
+// by 65536, for which the caller makes up, or, above 32767, take a shift of their own.
+template <Weights w, int bias, int shift> class WeightedSums {
+public:
+    ZORCC_INLINE s16v of(s16v r, s16v g, s16v b)
+    {
+        return packSigned(sum(zipLow(r, g), zipLow(b, g)) >> shift, sum(zipHigh(r, g), zipHigh(b, g)) >> shift);
+    }
+
+private:
+    // weight * first + second * other, with a weight of up to 16 unsigned bits.
+    template <int weight, int other> ZORCC_INLINE s32v add(s32v to, s16v pairs)
+    {
+        if constexpr (weight > 32767) to += (s32v)((u32v)pairs << 16 >> 1); // 32768 first
+        return mulAddPairs(to, pairs, fillPair16(weight > 32767 ? weight - 32768 : weight, other));
+    }
+
+    ZORCC_INLINE s32v sum(s16v rg, s16v bg) { return add<w.r, w.g>(add<w.b, 0>(fill32(bias), bg), rg); }
+};
+
+// By colour differences. With S the weighted sum and C the luma (S + bias) >> 16 of the pixels' sums, the first channel
+// is (sum of B - C) * u >> (16 + shift), the second the same with R and v.
+template <Weights luma, int bias, int u, int v, int shift> struct DifferenceChroma {
+    ZORCC_INLINE u8v of(s16v r, s16v g, s16v b)
+    {
+        constexpr Weights rest = {luma.r, luma.g - 65536, luma.b}; // G itself makes up for the 65536
+        const s16v c = WeightedSums<rest, bias, 16>::of(r, g, b) + g;
+        return packAround128(scale<u>(b - c) >> shift, scale<v>(r - c) >> shift);
+    }
+};
+
+// By a matrix: each channel is (weighted sum + bias) >> shift.
+template <Weights first, int firstBias, Weights second, int secondBias, int shift> struct MatrixChroma {
+    ZORCC_INLINE u8v of(s16v r, s16v g, s16v b)
+    {
+        return packUnsigned(WeightedSums<first, firstBias, shift>::of(r, g, b),
+                            WeightedSums<second, secondBias, shift>::of(r, g, b));
+    }
+};
+
+} // namespace
+} // namespace zorcc::ZORCC_TIER
+
+#if defined(ZORCC_TIER_avx512)
+    #include "lumachroma/common/avx512/rgb_to_ycc.h"
+#endif

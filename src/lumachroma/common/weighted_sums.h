@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: MIT
+// Weighted sums of 8-bit channels with coefficients of 16 bits or a little more, exactly, in 16-bit lanes. Coefficients
+// are in units of 1/65536.
+#pragma once
+
+#include "lumachroma/common/coefficients.h"
+#include "simd/vec.h"
+
+namespace zorcc::ZORCC_TIER {
+namespace {
+
+// A coefficient k as 256 high + low with low in -128..127.
+constexpr int highPart(int k) { return (k + 128) >> 8; }
+constexpr int lowPart(int k) { return k - 256 * highPart(k); }
+
+// The extremes of a sum of products of bytes with coefficients.
+constexpr int maxOf(int a, int b, int c = 0) { return 255 * ((a > 0 ? a : 0) + (b > 0 ? b : 0) + (c > 0 ? c : 0)); }
+constexpr int minOf(int a, int b, int c = 0) { return -maxOf(-a, -b, -c); }
+constexpr bool sumFits16(int a, int b) { return maxOf(a, b) <= 32767 && minOf(a, b) >= -32768; }
+constexpr bool fits8(int k) { return k >= -128 && k <= 127; }
+
+// H + floor((L + constant % 256) / 256) + floor(constant / 256) for 16-bit L in low..high, modulo 65536.
+// Where L passes the signed range it is moved into the unsigned one by a multiple of 256.
+template <int low, int high, int constant> ZORCC_INLINE u16v combine(u16v h, s16v l)
+{
+    constexpr int fraction = constant & 0xff;
+    if constexpr (high + fraction <= 32767 && low >= -32768) {
+        return h + (u16v)((l + fill16(fraction)) >> 8) + (u16v)fill16(constant >> 8);
+    } else {
+        constexpr int lift = (255 - low) / 256;
+        static_assert(high + fraction + 256 * lift <= 65535);
+        return h + (((u16v)l + (u16v)fill16(fraction + 256 * lift)) >> 8) + (u16v)fill16((constant >> 8) - lift);
+    }
+}
+
+// floor((w.r R + w.g G + w.b B + constant) / 256) modulo 65536, from the zipped bytes (R, G) and (B, G).
+//
+// With every coefficient as 256 high + low the sum is 256 H + L, so that its floor is H + floor(L / 256): two sums of
+// byte products. H may need all of 16 unsigned bits; to keep its two parts within the signed ones of a byte
+// multiply-add, the high part of G is divided between both pairs.
+template <Weights w, int constant = 0> ZORCC_INLINE u16v weigh(u8v rg, u8v bg)
+{
+    constexpr int r = highPart(w.r), b = highPart(w.b), g = highPart(w.g);
+    constexpr int gWithR = g > 0 && r > 0 && g > 128 - r ? 128 - r : g, gWithB = g - gWithR;
+    constexpr int rLow = lowPart(w.r), gLow = lowPart(w.g), bLow = lowPart(w.b);
+    static_assert(fits8(r) && fits8(b) && fits8(gWithR) && fits8(gWithB));
+    static_assert(sumFits16(r, gWithR) && sumFits16(b, gWithB) && sumFits16(rLow, gLow));
+
+    const u16v high = (u16v)mulAddPairs(rg, fillPair8(r, gWithR)) + (u16v)mulAddPairs(bg, fillPair8(b, gWithB));
+    const u16v low = (u16v)mulAddPairs(rg, fillPair8(rLow, gLow)) + (u16v)mulAddPairs(bg, fillPair8(bLow, 0));
+    return combine<minOf(rLow, gLow, bLow), maxOf(rLow, gLow, bLow), constant>(high, (s16v)low);
+}
+
+// floor((first a + second b + constant) / 256) modulo 65536, from the zipped bytes (a, b).
+template <int first, int second, int constant> ZORCC_INLINE s16v weighPair(u8v ab)
+{
+    constexpr int a = highPart(first), b = highPart(second), aLow = lowPart(first), bLow = lowPart(second);
+    static_assert(fits8(a) && fits8(b) && sumFits16(a, b) && sumFits16(aLow, bLow));
+
+    const u16v high = (u16v)mulAddPairs(ab, fillPair8(a, b));
+    return (s16v)combine<minOf(aLow, bLow), maxOf(aLow, bLow), constant>(high, mulAddPairs(ab, fillPair8(aLow, bLow)));
+}
+
+// A coefficient of 17 bits as 65536 whole + part with a signed 16-bit part.
+constexpr int wholePart(int k) { return (k + 32768) >> 16; }
+constexpr int signedPart(int k) { return k - 65536 * wholePart(k); }
+
+// whole v for the few wholes that occur.
+template <int whole> ZORCC_INLINE s16v times(s16v v)
+{
+    static_assert(whole >= -1 && whole <= 2);
+    return whole == 0 ? s16v{} : whole == 1 ? v : whole == 2 ? v + v : -v;
+}
+
+// floor(k v / 65536)
+template <int k> ZORCC_INLINE s16v scale(s16v v) { return mulHigh(v, fill16(signedPart(k))) + times<wholePart(k)>(v); }
+
+// k v - 65536 floor(k v / 65536): what scale leaves.
+template <int k> ZORCC_INLINE u16v scaleRest(s16v v) { return (u16v)v * (u16v)fill16(signedPart(k)); }
+
+// Rounded to nearest, a half upwards.
+template <int k> ZORCC_INLINE s16v scaleRounded(s16v v) { return scale<k>(v) + (s16v)(scaleRest<k>(v) >> 15); }
+
+// ---- packing results ------------------------------------------------------------------------------------------------
+
+// Signed differences to 128: a block's eight from `lo`, then eight from `hi`, saturated.
+ZORCC_INLINE u8v packAround128(s16v lo, s16v hi) { return (u8v)packSigned(lo, hi) ^ fill8(0x80); }
+
+// The upper bytes of 8.8 fixed point.
+ZORCC_INLINE u8v packWhole(u16v lo, u16v hi) { return packUnsigned((s16v)(lo >> 8), (s16v)(hi >> 8)); }
+
+} // namespace
+} // namespace zorcc::ZORCC_TIER

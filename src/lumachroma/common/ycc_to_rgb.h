@@ -1,0 +1,196 @@
+// SPDX-License-Identifier: MIT
+// Luma and two chroma channels to RGB, by any coefficients, for chroma of every pixel and for chroma that two columns
+// (and two rows) share. Exact: the same bytes as the sums in 32 bits.
+#pragma once
+
+#include "lumachroma/common/weighted_sums.h"
+#include "pixels/alpha.h"
+#include "pixels/subsampled.h"
+
+namespace zorcc::ZORCC_TIER {
+namespace {
+
+// R, G, B in 16 bits.
+struct WideRgb {
+    s16v c[3];
+};
+
+// ---- what chroma adds to luma of weight 1 ---------------------------------------------------------------------------
+
+// The floors of the chroma products, which are all that rounding needs where luma is whole.
+template <ToRgb k> class ChromaOffsets {
+public:
+    ZORCC_INLINE WideRgb of(u8v uv)
+    {
+        const s16v u = firstOfPairs(uv) - 128, v = secondOfPairs(uv) - 128;
+        return {
+            {product<k.r, k.constantR>(v), product2<-k.g1, -k.g2, k.constantG>(u, v), product<k.b, k.constantB>(u)}};
+    }
+
+private:
+    // The constants centre chroma, which u and v are already, and round.
+    template <int constant, int weights> static constexpr bool rounds()
+    {
+        static_assert(constant + 128 * weights == 0 || constant + 128 * weights == 32768);
+        return constant + 128 * weights == 32768;
+    }
+
+    template <int weight, int constant> ZORCC_INLINE s16v product(s16v c)
+    {
+        return rounds<constant, weight>() ? scaleRounded<weight>(c) : scale<weight>(c);
+    }
+
+    template <int first, int second, int constant> ZORCC_INLINE s16v product2(s16v u, s16v v)
+    {
+        const s16v sum = addOneWhere(scale<first>(u) + scale<second>(v), scaleRest<first>(u), ~scaleRest<second>(v));
+        if constexpr (rounds<constant, first + second>())
+            return sum + (s16v)((scaleRest<first>(u) + scaleRest<second>(v)) >> 15);
+        return sum;
+    }
+};
+
+// ---- chroma of every pixel ------------------------------------------------------------------------------------------
+
+// Every channel is whole units of luma and chroma, added in 16 bits, and a rest of less than 16 bits in 8.8 fixed
+// point.
+template <ToRgb k> class FullChromaToRgb {
+public:
+    Pixels<3> operator()(const Pixels<3>& ycc) const
+    {
+        const auto [y, u, v] = ycc.c[0];
+        const WideRgb lo = channels(zipLow(y, v), zipLow(y, u), zipLow(u, v));
+        const WideRgb hi = channels(zipHigh(y, v), zipHigh(y, u), zipHigh(u, v));
+        Pixels<3> rgb;
+        for (int c = 0; c < 3; ++c) rgb.c[0][c] = packUnsigned(lo.c[c], hi.c[c]);
+        return rgb;
+    }
+
+private:
+    static constexpr int yWhole = wholePart(k.y), yPart = signedPart(k.y);
+    static_assert(yWhole == 1);
+
+    // From zipped bytes.
+    ZORCC_INLINE WideRgb channels(u8v yv, u8v yu, u8v uv)
+    {
+        const s16v y = firstOfPairs(yv), v = secondOfPairs(yv), u = firstOfPairs(uv);
+        if constexpr (k.y == 65536) {
+            const WideRgb offset = ChromaOffsets<k>::of(uv);
+            return {{y + offset.c[0], y + offset.c[1], y + offset.c[2]}};
+        } else {
+            return {{y + fromOneChroma<k.r, k.constantR>(yv, v), y + fromBothChroma(yv, uv, v),
+                     y + fromOneChroma<k.b, k.constantB>(yu, u)}};
+        }
+    }
+
+    // R or B less the whole of luma: `c` is the chroma channel that drives it. Whole units are counted from 128, which
+    // keeps the rest small.
+    template <int weight, int constant> ZORCC_INLINE s16v fromOneChroma(u8v yc, s16v c)
+    {
+        constexpr int whole = wholePart(weight), part = signedPart(weight);
+        return times<whole>(c - 128) + (weighPair<yPart, part, constant + 128 * 65536 * whole>(yc) >> 8);
+    }
+
+    // G likewise.
+    ZORCC_INLINE s16v fromBothChroma(u8v yv, u8v uv, s16v v)
+    {
+        constexpr int whole = wholePart(-k.g2), part = signedPart(-k.g2), constant = k.constantG + 128 * 65536 * whole;
+        static_assert(wholePart(-k.g1) == 0);
+        // Luma, second and first chroma channel in the places of R, G and B.
+        constexpr Weights w = {yPart, part, -k.g1};
+        return times<whole>(v - 128) + ((s16v)weigh<w, constant>(yv, uv) >> 8);
+    }
+};
+
+// ---- shared chroma, luma of weight 1 --------------------------------------------------------------------------------
+
+// Offsets are formed once for a pair of columns and applied to the bytes of luma as what is to be added and what is to
+// be subtracted, one of them being 0. That they saturate at 255 makes no difference to the saturated result.
+template <ToRgb k> struct SharedChromaOnWholeLuma {
+    template <int rows> Pixels<3, rows> operator()(const Subsampled<rows>& ycc) const
+    {
+        const WideRgb offset = ChromaOffsets<k>::of(zipHalves(ycc.chroma));
+        Pixels<3, rows> rgb;
+        for (int c = 0; c < 3; ++c) {
+            const u8v both = packUnsigned(offset.c[c], -offset.c[c]);
+            const u8v more = zipLow(both, both), less = zipHigh(both, both);
+            for (int row = 0; row < rows; ++row) rgb.c[row][c] = subSaturate(addSaturate(ycc.y[row], more), less);
+        }
+        return rgb;
+    }
+};
+
+// ---- shared chroma, luma scaled -------------------------------------------------------------------------------------
+
+// Luma and chroma products are 16.16 fixed point in two halves, added with a carry. Even and odd columns are kept in
+// vectors of their own, so that the chroma of a pair of columns stands in the lane of both.
+template <ToRgb k> class SharedChromaOnScaledLuma {
+public:
+    template <int rows> Pixels<3, rows, Columns::evenThenOdd> operator()(const Subsampled<rows>& ycc) const
+    {
+        const u8v uv = zipHalves(ycc.chroma);
+        const Chroma chroma[3] = {chromaHalves<0, k.r, k.constantR>(uv), chromaHalves<-k.g1, -k.g2, k.constantG>(uv),
+                                  chromaHalves<k.b, 0, k.constantB>(uv)};
+        Pixels<3, rows, Columns::evenThenOdd> rgb;
+        for (int row = 0; row < rows; ++row) {
+            const Luma even = lumaHalves(mulAddPairs(ycc.y[row], fillPair8(2, 0)));
+            const Luma odd = lumaHalves(mulAddPairs(ycc.y[row], fillPair8(0, 2)));
+            for (int c = 0; c < 3; ++c) rgb.c[row][c] = packUnsigned(whole(even, chroma[c]), whole(odd, chroma[c]));
+        }
+        return rgb;
+    }
+
+private:
+    struct Luma {
+        s16v high;
+        u16v low;
+    };
+    struct Chroma {
+        s16v high;
+        u16v carryLimit; // 65535 - low: a low half of luma above it carries
+    };
+
+    // From luma doubled, which brings its weight into 16 bits.
+    ZORCC_INLINE Luma lumaHalves(s16v twice)
+    {
+        static_assert(k.y % 2 == 0);
+        const u16v weight = (u16v)fill16(k.y / 2);
+        return {(s16v)mulHigh((u16v)twice, weight), (u16v)twice * weight};
+    }
+
+    template <int first, int second, int constant> ZORCC_INLINE Chroma chromaHalves(u8v uv)
+    {
+        const s16v u = firstOfPairs(uv), v = secondOfPairs(uv);
+        const s16v parts = fillPair16(signedPart(first), signedPart(second));
+        const s32v lo = mulAddPairs(fill32(constant), (s16v)zipLow(uv, u8v{}), parts);
+        const s32v hi = mulAddPairs(fill32(constant), (s16v)zipHigh(uv, u8v{}), parts);
+        const u16v carryLimit = (u16v)fill16(-1 - constant) - scaleRest<first>(u) - scaleRest<second>(v);
+        return {packSigned(lo >> 16, hi >> 16) + times<wholePart(first)>(u) + times<wholePart(second)>(v), carryLimit};
+    }
+
+    // The whole part of the sum.
+    ZORCC_INLINE s16v whole(const Luma& y, const Chroma& c)
+    {
+        return addOneWhere(y.high + c.high, y.low, c.carryLimit);
+    }
+};
+
+// ---- all of them ----------------------------------------------------------------------------------------------------
+
+template <ToRgb k> struct YccToRgb {
+    Pixels<3> operator()(const Pixels<3>& ycc) const { return FullChromaToRgb<k>{}(ycc); }
+
+    template <int rows> auto operator()(const Subsampled<rows>& ycc) const
+    {
+        if constexpr (k.y == 65536)
+            return SharedChromaOnWholeLuma<k>{}(ycc);
+        else
+            return SharedChromaOnScaledLuma<k>{}(ycc);
+    }
+};
+
+} // namespace
+} // namespace zorcc::ZORCC_TIER
+
+#if defined(ZORCC_TIER_avx512)
+    #include "lumachroma/common/avx512/ycc_to_rgb.h"
+#endif

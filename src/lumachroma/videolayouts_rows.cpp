@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: MIT
+// Row drivers between the layouts of video, and of deinterlacing, compiled once for every tier.
+#include "lumachroma/videolayouts_rows.h"
+
+#include "lumachroma/videolayouts_formulas.h"
+
+namespace zorcc::ZORCC_TIER {
+
+namespace {
+
+// A slice of a frame: its rows, and which of them it completes. Rows beyond the frame's edges repeat those at them.
+struct Slice {
+    const Image& image;
+    ZorSize size;
+    FrameEdges edges;
+
+    int firstLuma() const { return edges.top ? 0 : 1; }
+    int endLuma() const { return size.height - (edges.bottom ? 0 : 1); }
+    int endChroma() const { return size.height / 2 - (edges.bottom ? 0 : 1); }
+
+    bool hasLuma(int y) const { return y >= firstLuma() && y < endLuma(); }
+    bool hasChroma(int y) const { return y / 2 < endChroma(); }
+
+    uint8_t* luma(int y) const { return image.row(0, y < 0 ? 0 : y < size.height ? y : size.height - 1); }
+
+    // The upper and the lower of the two chroma rows that row `pair` of 4:2:0 lies between: this one and the next, for
+    // the last one those before it.
+    uint8_t* upper(int pair) const
+    {
+        const int rows = size.height / 2, row = pair + 1 < rows ? pair : rows - 2;
+        return image.row(1, row < 0 ? 0 : row);
+    }
+    uint8_t* lower(int pair) const { return size.height > 2 ? upper(pair) + image.step[1] : upper(pair); }
+};
+
+template <Unit... units> using LumaPixels = Sequences<2 * vectorBytes, Line{units}...>;
+constexpr Unit lumaUnit{1, 0}, pairUnit{2, 1}, packedUnit{4, 1};
+
+void deinterlaceToYUY2(const Image& from, const Image& to, ZorSize size, FrameEdges edges)
+{
+    const Slice slice{from, size, edges};
+    for (int y = 0; y < size.height; ++y) {
+        uint8_t* const row = to.row(0, y);
+        uint8_t* const luma[] = {slice.luma(y - 1), slice.luma(y), slice.luma(y + 1)};
+        uint8_t* const chroma[] = {slice.upper(y / 2), slice.lower(y / 2)};
+        const LumaPixels<packedUnit> packed = {{{row}}};
+        if (slice.hasLuma(y) && slice.hasChroma(y)) {
+            const LumaPixels<lumaUnit, lumaUnit, lumaUnit, pairUnit, pairUnit> rows = {
+                {{luma[0], luma[1], luma[2], chroma[0], chroma[1]}}};
+            convertRow(rows, Rounded<PackedRow>{}, packed, size.width);
+        } else if (slice.hasLuma(y)) {
+            const LumaPixels<packedUnit, lumaUnit, lumaUnit, lumaUnit> rows = {{{row, luma[0], luma[1], luma[2]}}};
+            convertRow(rows, Rounded<PackedLuma>{}, packed, size.width);
+        } else if (slice.hasChroma(y)) {
+            const LumaPixels<packedUnit, pairUnit, pairUnit> rows = {{{row, chroma[0], chroma[1]}}};
+            convertRow(rows, Rounded<PackedChroma>{}, packed, size.width);
+        }
+    }
+}
+
+void deinterlaceToYV12(const Image& from, const Image& to, ZorSize size, FrameEdges edges)
+{
+    using ThreeRows = Sequences<vectorBytes, Line{{1}}, Line{{1}}, Line{{1}}>;
+    const Slice slice{from, size, edges};
+    for (int y = slice.firstLuma(); y < slice.endLuma(); ++y) {
+        const ThreeRows rows = {{{slice.luma(y - 1), slice.luma(y), slice.luma(y + 1)}}};
+        convertRow(rows, Rounded<LowPass>{}, Chroma<1>{{{to.row(0, y)}}}, size.width);
+    }
+    for (int k = 0; k < slice.endChroma(); ++k) {
+        const BothChroma<2> rows = {{{slice.upper(k), slice.lower(k)}}};
+        const BothChroma<1> planes = {{{to.row(1, k), to.row(2, k)}}};
+        convertRow(rows, Rounded<PlanesBetween, roundedBlock / 2>{}, planes, size.width / 2);
+    }
+}
+
+} // namespace
+
+const VideoLayoutsRows videoLayoutsRows = {
+    .myYUY2ToUYVY_8u_C2R = repack<SwapLumaAndChroma>,
+    .myUYVYToYUY2_8u_C2R = repack<SwapLumaAndChroma>,
+    .myYUY2ToNV12_8u_C2P2R = unpack<YUY2, ChromaForm::pairs, 2>,
+    .myUYVYToNV12_8u_C2P2R = unpack<UYVY, ChromaForm::pairs, 2>,
+    .myNV12ToYUY2_8u_P2C2R = pack<YUY2, ChromaForm::pairs, 2>,
+    .myNV12ToUYVY_8u_P2C2R = pack<UYVY, ChromaForm::pairs, 2>,
+    .myYV12ToYUY2_8u_P3C2R = pack<YUY2, ChromaForm::planes, 2>,
+    .myYV12ToUYVY_8u_P3C2R = pack<UYVY, ChromaForm::planes, 2>,
+    .myDeinterlaceToYUY2_8u_P2C2R = deinterlaceToYUY2,
+    .myDeinterlaceToYV12_8u_P2P3R = deinterlaceToYV12,
+};
+
+} // namespace zorcc::ZORCC_TIER

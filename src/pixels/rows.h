@@ -1,0 +1,397 @@
+// SPDX-License-Identifier: MIT
+// Rows of an image in a memory layout, and the walk over them: the one loop in which every conversion runs.
+//
+// A layout turns the next pixels of a row, as many as a vector holds samples, into vectors of one channel each, or
+// back. A formula turns such vectors into others and never accesses memory. rows<Source, Formula, Destination> is a
+// driver: it loads, calculates and stores, and never touches a byte outside the rows.
+#pragma once
+
+#include <type_traits>
+
+#include "frame/convert.h"
+#include "frame/parallel.h"
+#include "simd/interleave.h"
+
+namespace zorcc::ZORCC_TIER {
+namespace {
+
+// ---- what layouts hand to formulas, and formulas to layouts ---------------------------------------------------------
+
+// The channels of the next pixels of one row, or of two rows that are converted together.
+template <int channels, int rows = 1, Columns columns = Columns::inOrder, class Sample = uint8_t> struct Pixels {
+    Vec<Sample> c[rows][channels];
+};
+
+template <class Sample, int channels = 3> using Samples = Pixels<channels, 1, Columns::inOrder, Sample>;
+
+template <int channels, int rows>
+ZORCC_INLINE Pixels<channels, rows> inOrder(const Pixels<channels, rows, Columns::evenThenOdd>& pixels)
+{
+    Pixels<channels, rows> ordered;
+    for (int row = 0; row < rows; ++row)
+        for (int i = 0; i < channels; ++i) ordered.c[row][i] = zipHalves(pixels.c[row][i]);
+    return ordered;
+}
+
+template <int channels>
+ZORCC_INLINE Pixels<channels, 2> stack(const Pixels<channels>& upper, const Pixels<channels>& lower)
+{
+    Pixels<channels, 2> both;
+    for (int c = 0; c < channels; ++c) {
+        both.c[0][c] = upper.c[0][c];
+        both.c[1][c] = lower.c[0][c];
+    }
+    return both;
+}
+
+template <int channels, Columns columns>
+ZORCC_INLINE Pixels<channels, 1, columns> rowOf(const Pixels<channels, 2, columns>& both, int row)
+{
+    Pixels<channels, 1, columns> one;
+    for (int c = 0; c < channels; ++c) one.c[0][c] = both.c[row][c];
+    return one;
+}
+
+// Luma of one row or of two, and the chroma that each pair of columns shares: per block eight samples of the first
+// chroma channel, then eight of the second.
+template <int rows> struct Subsampled {
+    u8v y[rows];
+    u8v chroma;
+};
+
+// ---- lines: where the samples of a layout's pixels are --------------------------------------------------------------
+
+// `bytes` bytes of a line hold (1 << log2Pixels) pixels.
+struct Unit {
+    int bytes, log2Pixels = 0;
+
+    constexpr ptrdiff_t offset(int pixels) const { return static_cast<ptrdiff_t>(pixels >> log2Pixels) * bytes; }
+};
+
+// A row of a plane. Where `rows` rows of the plane are converted together, it is number `row` of them.
+struct Line {
+    Unit unit;
+    int plane = 0, row = 0, rows = 1;
+};
+
+template <Line... all> struct Lines {
+    static constexpr int lines = sizeof...(all);
+    static constexpr Line line[] = {all...};
+    static constexpr int pixelsAtOnce = vectorBytes; // what a load gives and a store takes
+    static constexpr int rowsAtOnce = 1;             // rows of the image that the lines hold
+    static constexpr int group = 1;                  // pixels of a row that share samples
+
+    uint8_t* start[lines];
+
+    uint8_t* at(int l, int x) const { return start[l] + line[l].unit.offset(x); }
+};
+
+// An image as a sequence of rows in a layout, or of pairs of rows.
+template <class Layout> class RowsOf {
+public:
+    [[gnu::always_inline]] explicit RowsOf(const Image& image)
+    {
+        for (int l = 0; l < Layout::lines; ++l) {
+            const Line& line = Layout::line[l];
+            first[l] = image.row(line.plane, line.row);
+            step[l] = line.rows * image.step[line.plane];
+        }
+    }
+
+    [[gnu::always_inline]] Layout operator[](ptrdiff_t y) const
+    {
+        Layout row;
+        for (int l = 0; l < Layout::lines; ++l) {
+            row.start[l] = first[l] + y * step[l];
+            // In a register: compilers would calculate several pointers in a vector and take it apart again.
+            asm("" : "+r"(row.start[l]));
+        }
+        return row;
+    }
+
+private:
+    uint8_t* first[Layout::lines];
+    ptrdiff_t step[Layout::lines];
+};
+
+// The rest of a row, from pixel x on.
+template <class Layout> ZORCC_INLINE Layout fromPixel(Layout row, int x)
+{
+    for (int l = 0; l < Layout::lines; ++l) row.start[l] = row.at(l, x);
+    return row;
+}
+
+constexpr Line ofRowPair(Line line, int row)
+{
+    return {line.unit, line.plane, line.row + row * line.rows, 2 * line.rows};
+}
+
+template <class Layout> struct Twice;
+template <Line... all> struct Twice<Lines<all...>> {
+    using Type = Lines<ofRowPair(all, 0)..., ofRowPair(all, 1)...>;
+};
+
+// Two rows of a layout that holds one: the lines of the upper row, then those of the lower.
+template <class Layout> struct TwoRows : Twice<typename Layout::Base>::Type {
+    static constexpr int rowsAtOnce = 2;
+
+    Layout state; // what a layout holds beside its lines
+
+    Layout row(int r) const
+    {
+        Layout one = state;
+        for (int l = 0; l < Layout::lines; ++l) one.start[l] = this->start[r * Layout::lines + l];
+        return one;
+    }
+
+    auto load(int x) const { return stack(row(0).load(x), row(1).load(x)); }
+
+    template <class Pair> void store(int x, const Pair& pair) const
+    {
+        for (int r = 0; r < 2; ++r) row(r).store(x, rowOf(pair, r));
+    }
+};
+
+// ---- formulas -------------------------------------------------------------------------------------------------------
+
+// Some formulas work in two steps, `prepare` and the call: what comes before their divisions and the rest. The walk
+// prepares the next vector before it finishes the current one, so that processors, which do not look far ahead, find
+// work while divisions last: 10 to 25 % here. Formulas that do not wait lose by it.
+template <class Formula, class Loaded>
+concept WorksInTwoSteps = requires(const Formula& formula, const Loaded& pixels)
+{
+    formula.prepare(pixels);
+};
+
+// What the formula is called with.
+template <class Formula, class Loaded> ZORCC_INLINE auto prepared(const Formula& formula, const Loaded& pixels)
+{
+    if constexpr (WorksInTwoSteps<Formula, Loaded>)
+        return formula.prepare(pixels);
+    else
+        return pixels;
+}
+
+// The formula for the pixels from column x on: formulas that see where they are say so by a member `at`.
+template <class Formula> ZORCC_INLINE decltype(auto) formulaAt(const Formula& formula, int x)
+{
+    if constexpr (requires { formula.at(x); })
+        return formula.at(x);
+    else
+        return (formula);
+}
+
+// One formula for the whole blocks of a row, another for the pixels after them, where the contract wants it so.
+template <int pixels, class Blocks, class Rest> struct InBlocks {
+};
+
+// The formula for a pixel that has none to share chroma with, on 4:4:4: the formula itself unless it has another.
+template <class Formula> ZORCC_INLINE auto singleOf(const Formula& formula)
+{
+    if constexpr (requires { formula.single(); })
+        return formula.single();
+    else
+        return formula;
+}
+
+// A tier's quicker way of a conversion: layouts of the same memory and a formula that give the same bytes. Specialised
+// where there is one.
+template <class From, class By, class To> struct OnThisTier {
+    using Source = From;
+    using Formula = By;
+    using Destination = To;
+};
+
+// ---- pixels of a row ------------------------------------------------------------------------------------------------
+
+// A copy of the first pixels of a row, long enough for a load or a store, with zeros after them.
+template <class Layout> class Stage {
+public:
+    // `width` pixels, fewer than a load or a store takes.
+    Stage(const Layout& row, int width) : staged(row)
+    {
+        for (int l = 0; l < Layout::lines; ++l) {
+            __builtin_memcpy(bytes[l], row.start[l], bytesOf(l, width));
+            staged.start[l] = bytes[l];
+        }
+    }
+
+    const Layout& row() const { return staged; }
+
+    void copyTo(const Layout& row, int width) const
+    {
+        for (int l = 0; l < Layout::lines; ++l) __builtin_memcpy(row.start[l], bytes[l], bytesOf(l, width));
+    }
+
+private:
+    static constexpr size_t bytesOf(int l, int pixels)
+    {
+        return static_cast<size_t>(Layout::line[l].unit.offset(pixels));
+    }
+    static constexpr size_t mostBytes()
+    {
+        size_t most = 0;
+        for (int l = 0; l < Layout::lines; ++l)
+            if (bytesOf(l, Layout::pixelsAtOnce) > most) most = bytesOf(l, Layout::pixelsAtOnce);
+        return most;
+    }
+    alignas(vectorBytes) uint8_t bytes[Layout::lines][mostBytes()] = {};
+    Layout staged;
+};
+
+// Converts `width` pixels, fewer than a load takes.
+template <class Source, class Formula, class Destination>
+ZORCC_INLINE void convertShortRow(const Source from, const Formula formula, const Destination to, int width)
+{
+    const Stage<Source> source(from, width);
+    const Stage<Destination> destination(to, width); // with what a store keeps
+    destination.row().store(0, formulaAt(formula, 0)(prepared(formula, source.row().load(0))));
+    destination.copyTo(to, width);
+}
+
+// Formulas of wide samples have some hundred instructions for each cache line, so that the instructions which a
+// processor holds at a time cover few lines; images beyond the caches gain a tenth to twice their speed when lines are
+// requested this far ahead. Bytes have too many pixels in a line for that. `width` is a multiple of a load's pixels:
+// nothing beyond the row is requested.
+constexpr int prefetchedBytes = 1024;
+template <class Layout> ZORCC_INLINE void prefetchAhead(const Layout& row, int x, int width)
+{
+    if constexpr (requires { typename Layout::Sample; }) {
+        constexpr int step = Layout::pixelsAtOnce;
+        constexpr int ahead = (prefetchedBytes / Layout::line[0].unit.bytes + step - 1) / step * step;
+        if (sizeof(typename Layout::Sample) == 1 || x + ahead >= width) return;
+        for (int l = 0; l < Layout::lines; ++l)
+            for (ptrdiff_t b = 0; b < Layout::line[l].unit.offset(step); b += 64)
+                __builtin_prefetch(row.at(l, x + ahead) + b);
+    }
+}
+
+// Converts `width` pixels, a multiple of a load's and at least one.
+template <class Source, class Formula, class Destination>
+ZORCC_INLINE void convertVectors(const Source from, const Formula formula, const Destination to, int width)
+{
+    constexpr int step = Source::pixelsAtOnce;
+    if constexpr (WorksInTwoSteps<Formula, decltype(from.load(0))>) {
+        auto next = formula.prepare(from.load(0));
+        for (int x = step; x < width; x += step) {
+            prefetchAhead(from, x, width);
+            prefetchAhead(to, x, width);
+            const auto current = next;
+            next = formula.prepare(from.load(x));
+            to.store(x - step, formula(current));
+        }
+        to.store(width - step, formula(next));
+    } else {
+        for (int x = 0; x < width; x += step) {
+            prefetchAhead(from, x, width);
+            prefetchAhead(to, x, width);
+            to.store(x, formulaAt(formula, x)(from.load(x)));
+        }
+    }
+}
+
+// Converts `width` pixels, a multiple of the group that shares samples. Source and destination may be the same row of
+// the same layout: the last load, which overlaps the one before it, is read before anything is written.
+template <class Source, class Formula, class Destination>
+ZORCC_INLINE void convertPixels(const Source from, const Formula formula, const Destination to, int width)
+{
+    constexpr int step = Source::pixelsAtOnce;
+    static_assert(step == Destination::pixelsAtOnce);
+    if (width < step) {
+        if (width > 0) convertShortRow(from, formula, to, width);
+    } else if (width % step == 0) {
+        convertVectors(from, formula, to, width);
+    } else {
+        const auto last = prepared(formula, from.load(width - step));
+        convertVectors(from, formula, to, width - width % step);
+        to.store(width - step, formulaAt(formula, width - step)(last));
+    }
+}
+
+constexpr int larger(int a, int b) { return a > b ? a : b; }
+
+// Converts a row of any width. Pixels after the last whole group are converted on their own, as 4:4:4: a source says
+// which chroma they have, a destination which of their samples have a place.
+template <class Source, class Formula, class Destination>
+ZORCC_INLINE void convertRow(const Source from, const Formula formula, const Destination to, int width)
+{
+    constexpr int group = larger(Source::group, Destination::group);
+    const int whole = width & -group;
+    convertPixels(from, formula, to, whole);
+    if constexpr (requires { from.remainder(whole, width); }) {
+        if (whole == width) return;
+        auto rest = from.remainder(whole, width);
+        convertShortRow(rest.planes(), singleOf(formula), fromPixel(to, whole), width - whole);
+    } else if constexpr (requires { to.storeRemainder(whole, width, {}); }) {
+        if (whole == width) return;
+        typename Destination::Remainder rest;
+        convertShortRow(fromPixel(from, whole), singleOf(formula), rest.planes(), width - whole);
+        to.storeRemainder(whole, width, rest);
+    }
+}
+
+template <class Source, int pixels, class Blocks, class Rest, class Destination>
+ZORCC_INLINE void convertRow(const Source from, const InBlocks<pixels, Blocks, Rest>, const Destination to, int width)
+{
+    const int whole = width - width % pixels;
+    convertPixels(from, Blocks{}, to, whole);
+    convertPixels(fromPixel(from, whole), Rest{}, fromPixel(to, whole), width - whole);
+}
+
+// ---- rows of an image -----------------------------------------------------------------------------------------------
+
+enum class Threads {
+    one,
+    aboveThreshold, // of 4096 pixels
+    always
+};
+
+// Whether formulas look at pixels wherever in a row they are.
+template <class Formula> constexpr bool seesPlaceInRow = false;
+template <int pixels, class Blocks, class Rest> constexpr bool seesPlaceInRow<InBlocks<pixels, Blocks, Rest>> = true;
+
+// Whether the rows of an image, of whole groups of pixels, follow each other without gaps.
+template <class Layout> ZORCC_INLINE bool isContiguous(const Image& image, int width)
+{
+    bool contiguous = width % Layout::group == 0;
+    for (const Line& line : Layout::line)
+        contiguous = contiguous && line.rows == 1 && image.step[line.plane] == line.unit.offset(width);
+    return contiguous;
+}
+
+template <class Layout, int rowsAtOnce>
+using WithRows = std::conditional_t<Layout::rowsAtOnce == rowsAtOnce, std::type_identity<Layout>,
+                                    std::type_identity<TwoRows<Layout>>>::type;
+
+// A driver. `arguments` are those of the formula.
+template <class From, class By, class To, Threads threads = Threads::one, class... Arguments>
+void rows(const Image& from, const Image& to, ZorSize size, Arguments... arguments)
+{
+    using Way = OnThisTier<From, By, To>;
+    constexpr int rowsAtOnce = larger(From::rowsAtOnce, To::rowsAtOnce);
+    using Source = WithRows<typename Way::Source, rowsAtOnce>;
+    using Destination = WithRows<typename Way::Destination, rowsAtOnce>;
+    const typename Way::Formula formula{arguments...};
+
+    auto [width, height] = size;
+    height /= rowsAtOnce;
+    if constexpr (threads == Threads::one && !seesPlaceInRow<By>) { // contiguous images are one row
+        const int64_t pixels = static_cast<int64_t>(width) * height;
+        if (pixels <= INT32_MAX && isContiguous<Source>(from, width) && isContiguous<Destination>(to, width)) {
+            width = static_cast<int>(pixels);
+            height = 1;
+        }
+    }
+    const RowsOf<Source> source(from);
+    const RowsOf<Destination> destination(to);
+    const auto row = [&](int y) { convertRow(source[y], formula, destination[y], width); };
+    if constexpr (threads == Threads::one)
+        for (int y = 0; y < height; ++y) convertRow(source[y], formula, destination[y], width);
+    else if constexpr (threads == Threads::aboveThreshold)
+        rowsAboveThreshold(width, height, row);
+    else
+        rowsAlways(height, row);
+}
+
+} // namespace
+} // namespace zorcc::ZORCC_TIER
