@@ -44,14 +44,14 @@ template <class Sample> struct RgbToHls {
         V order;
     };
 
-    Prepared prepare(const Samples<Sample>& rgb) const
+    [[gnu::always_inline]] Prepared prepare(const Samples<Sample>& rgb) const
     {
         const auto [r, g, b] = rgb.c[0];
         const Hexcone<Sample> cone(r, g, b);
         return {lightnessOf(cone), cone.chroma, divisorOf(cone), cone.middle - cone.smallest, cone.order};
     }
 
-    Samples<Sample> operator()(const Prepared& of) const
+    [[gnu::always_inline]] Samples<Sample> operator()(const Prepared& of) const
     {
         const V one = V{} + 1;
         const auto formula = [](f32v chroma, f32v divisor, f32v rise, f32v from) __attribute__((always_inline))
@@ -74,13 +74,13 @@ template <> struct RgbToHls<uint8_t> {
         u8v lightness, divisor;
     };
 
-    Prepared prepare(const Samples<uint8_t>& rgb) const
+    [[gnu::always_inline]] Prepared prepare(const Samples<uint8_t>& rgb) const
     {
         const Hexcone<uint8_t> cone(rgb.c[0][0], rgb.c[0][1], rgb.c[0][2]);
         return {cone, lightnessOf(cone), divisorOf(cone)};
     }
 
-    Samples<uint8_t> operator()(const Prepared& of) const
+    [[gnu::always_inline]] Samples<uint8_t> operator()(const Prepared& of) const
     {
         return {{{hueOf(of.cone, fallsShort), of.lightness, ratio(of.cone.chroma, of.divisor)}}};
     }
@@ -101,7 +101,7 @@ template <> struct RgbToHls<float> {
         f32v from;
     };
 
-    Prepared prepare(const Samples<float>& rgb) const
+    [[gnu::always_inline]] Prepared prepare(const Samples<float>& rgb) const
     {
         const auto [r, g, b] = rgb.c[0];
         const Hexcone<float> cone(r, g, b);
@@ -110,7 +110,7 @@ template <> struct RgbToHls<float> {
                 lookUp(hueFromByOrder, cone.order)};
     }
 
-    Samples<float> operator()(const Prepared& of) const
+    [[gnu::always_inline]] Samples<float> operator()(const Prepared& of) const
     {
         const f32v hue = degrees(of.rise60, of.chroma, of.from), none = {};
         const s32v coloured = of.chroma > 1.1920929e-7f;
@@ -148,7 +148,7 @@ struct HighAndLow {
 template <class Sample> struct HlsToRgb {
     using V = Vec<Sample>;
 
-    Samples<Sample> operator()(const Samples<Sample>& hls) const
+    [[gnu::always_inline]] Samples<Sample> operator()(const Samples<Sample>& hls) const
     {
         const V h = hls.c[0][0], l = hls.c[0][1], s = hls.c[0][2];
         const V sextant = sextantOf(h);
@@ -190,14 +190,14 @@ template <> struct HlsToRgb<float> {
         f32v slope[3]; // how far a channel's angle is from where it is low: 0..60 on the ramps, less or more beyond
     };
 
-    Prepared prepare(const Samples<float>& hls) const
+    [[gnu::always_inline]] Prepared prepare(const Samples<float>& hls) const
     {
         const f32v h = hls.c[0][0] * 360, red = h + 120, blue = h - 120;
         return {{hls.c[0][1], hls.c[0][2]}, {max(red - 360, 240 - red), min(h, 240 - h), min(blue, 240 - blue)}};
     }
 
     // Where a channel begins to fall it is high, not low plus all of the difference, which may be off by a digit.
-    Samples<float> operator()(const Prepared& of) const
+    [[gnu::always_inline]] Samples<float> operator()(const Prepared& of) const
     {
         Samples<float> rgb;
         for (int c = 0; c < 3; ++c)

@@ -37,14 +37,14 @@ template <class Sample, Conversion conversion> struct RgbToHsv {
         V order;
     };
 
-    Prepared prepare(const Samples<Sample>& rgb) const
+    [[gnu::always_inline]] Prepared prepare(const Samples<Sample>& rgb) const
     {
         const auto [r, g, b] = rgb.c[0];
         const Hexcone<Sample> cone(r, g, b);
         return {cone.largest, cone.chroma, cone.largest - cone.middle, cone.order};
     }
 
-    Samples<Sample> operator()(const Prepared& of) const
+    [[gnu::always_inline]] Samples<Sample> operator()(const Prepared& of) const
     {
         const auto formula =
             [](f32v chroma, f32v value, f32v fall, f32v start, f32v correction) __attribute__((always_inline))
@@ -68,9 +68,12 @@ private:
 
 #if defined(ZORCC_TIER_avx512)
 template <> struct RgbToHsv<uint8_t, Conversion::truncating> {
-    Hexcone<uint8_t> prepare(const Samples<uint8_t>& rgb) const { return {rgb.c[0][0], rgb.c[0][1], rgb.c[0][2]}; }
+    [[gnu::always_inline]] Hexcone<uint8_t> prepare(const Samples<uint8_t>& rgb) const
+    {
+        return {rgb.c[0][0], rgb.c[0][1], rgb.c[0][2]};
+    }
 
-    Samples<uint8_t> operator()(const Hexcone<uint8_t>& cone) const
+    [[gnu::always_inline]] Samples<uint8_t> operator()(const Hexcone<uint8_t>& cone) const
     {
         return {{{hueOf(cone, fallsShort), ratio(cone.chroma, cone.largest), cone.largest}}};
     }
@@ -91,7 +94,7 @@ using RgbToHsvOfWords = RgbToHsv<uint16_t, Conversion::rounding>;
 template <class Sample> struct HsvToRgb {
     using V = Vec<Sample>;
 
-    Samples<Sample> operator()(const Samples<Sample>& hsv) const
+    [[gnu::always_inline]] Samples<Sample> operator()(const Samples<Sample>& hsv) const
     {
         const V h = hsv.c[0][0], s = hsv.c[0][1], v = hsv.c[0][2];
         const auto formula = [](f32v hue, f32v saturation, f32v value) __attribute__((always_inline))

@@ -28,7 +28,7 @@ using Bt709FullToRgb = YccToRgb<bt709::fullToRgb>;
 
 // Full range 4:2:2, every sample limited to 1..254. The constant of Cr is 2 less than that of Cb.
 struct RgbToBt709Full_422 {
-    Subsampled<1> operator()(const Pixels<3>& rgb) const
+    [[gnu::always_inline]] Subsampled<1> operator()(const Pixels<3>& rgb) const
     {
         using Unlimited = RgbToSubsampled<1, WeightedLuma<bt709::fullFromRgb.y, ycbcr::fullLuma>,
                                           YCbCrChroma<bt709::fullFromRgb, 2, ycbcr::chromaBias(2) - 2>>;
@@ -38,7 +38,7 @@ struct RgbToBt709Full_422 {
 
     // A pixel without a partner is a pair of two of it.
     struct Single {
-        Pixels<3> operator()(const Pixels<3>& rgb) const
+        [[gnu::always_inline]] Pixels<3> operator()(const Pixels<3>& rgb) const
         {
             Pixels<3> lo, hi; // every pixel twice
             for (int c = 0; c < 3; ++c) {

@@ -34,7 +34,7 @@ struct FilterOddRow {
 
 // Of samples and their right neighbours: each, and its average with the neighbour.
 template <class Rounding> struct DoubleColumns {
-    Vectors<2> operator()(const Vectors<2>& s) const
+    [[gnu::always_inline]] Vectors<2> operator()(const Vectors<2>& s) const
     {
         return zip(firstHalf(s), Vectors<1>{{Rounding::average(s.v[0], s.v[1])}});
     }
@@ -42,7 +42,7 @@ template <class Rounding> struct DoubleColumns {
 
 // The row halfway between two such.
 template <class Rounding> struct DoubleColumnsBetween {
-    Vectors<2> operator()(const Vectors<4>& s) const
+    [[gnu::always_inline]] Vectors<2> operator()(const Vectors<4>& s) const
     {
         const DoubleColumns<Rounding> doubled;
         const Vectors<2> upper = doubled(firstHalf(s)), lower = doubled(secondHalf(s));
@@ -52,7 +52,7 @@ template <class Rounding> struct DoubleColumnsBetween {
 
 // The even columns of the row halfway between two.
 template <class Rounding> struct EvenColumnsBetween {
-    Vectors<1> operator()(const Vectors<4>& s) const
+    [[gnu::always_inline]] Vectors<1> operator()(const Vectors<4>& s) const
     {
         const Vectors<2> rows = OnBoth<EvenColumns>{}(s);
         return {{Rounding::average(rows.v[0], rows.v[1])}};

@@ -39,7 +39,7 @@ namespace {
 // ((B << 16) - s + 32767) >> 16 = B - ((s + 32768) >> 16): B less the rounded luma; likewise to R. 8.8 fixed point
 // holds both lumas, as 32768 is a multiple of its unit.
 struct RgbToYuv {
-    Pixels<3> operator()(const Pixels<3>& rgb) const
+    [[gnu::always_inline]] Pixels<3> operator()(const Pixels<3>& rgb) const
     {
         const auto [r, g, b] = rgb.c[0];
         const Half lo = half(zipLow(r, g), zipLow(b, g)), hi = half(zipHigh(r, g), zipHigh(b, g));
@@ -64,7 +64,7 @@ private:
 // 4:4:4 by a matrix. The whole blocks of a row (blockLuma) round each term of luma down to 1/256 before they are added;
 // the pixels after them round the sum alone.
 template <bool blockLuma> struct MatrixToYuv {
-    Pixels<3> operator()(const Pixels<3>& rgb) const
+    [[gnu::always_inline]] Pixels<3> operator()(const Pixels<3>& rgb) const
     {
         const auto [r, g, b] = rgb.c[0];
         const u8v rgLo = zipLow(r, g), bgLo = zipLow(b, g), rgHi = zipHigh(r, g), bgHi = zipHigh(b, g);

@@ -16,16 +16,16 @@ template <class Formula> struct CopyingAlpha {
 
     template <class Sample>
     requires WorksInTwoSteps<Formula, Samples<Sample>>
-    auto prepare(const Samples<Sample, 4>& from) const { return split(from); }
+    [[gnu::always_inline]] auto prepare(const Samples<Sample, 4>& from) const { return split(from); }
 
     template <class Prepared, class Sample>
-    Samples<Sample, 4> operator()(const BesideAlpha<Prepared, Sample>& from) const
+    [[gnu::always_inline]] Samples<Sample, 4> operator()(const BesideAlpha<Prepared, Sample>& from) const
     {
         const auto [a, b, c] = Formula{}(from.colour).c[0];
         return {{{a, b, c, from.alpha}}};
     }
 
-    template <class Sample> Samples<Sample, 4> operator()(const Samples<Sample, 4>& from) const
+    template <class Sample> [[gnu::always_inline]] Samples<Sample, 4> operator()(const Samples<Sample, 4>& from) const
     {
         return operator()(split(from));
     }
@@ -44,7 +44,10 @@ template <class Formula> struct WithAlpha {
     uint8_t alpha;
     Formula formula{};
 
-    template <class Source> auto operator()(const Source& source) const { return withAlpha(formula(source), alpha); }
+    template <class Source> [[gnu::always_inline]] auto operator()(const Source& source) const
+    {
+        return withAlpha(formula(source), alpha);
+    }
 
     auto single() const
     {

@@ -40,16 +40,20 @@ ZORCC_INLINE auto throughFloats(Formula formula, const Inputs&... inputs)
 template <template <class> class Formula> struct SignedSamples {
     using Unsigned = Formula<uint16_t>;
 
-    auto prepare(const Samples<int16_t>& from) const requires WorksInTwoSteps<Unsigned, Samples<uint16_t>>
+    [[gnu::always_inline]] auto
+    prepare(const Samples<int16_t>& from) const requires WorksInTwoSteps<Unsigned, Samples<uint16_t>>
     {
         return Unsigned{}.prepare(flipped<uint16_t>(from));
     }
 
-    template <class Prepared> Samples<int16_t> operator()(const Prepared& of) const
+    template <class Prepared> [[gnu::always_inline]] Samples<int16_t> operator()(const Prepared& of) const
     {
         return flipped<int16_t>(Unsigned{}(of));
     }
-    Samples<int16_t> operator()(const Samples<int16_t>& from) const { return operator()(flipped<uint16_t>(from)); }
+    [[gnu::always_inline]] Samples<int16_t> operator()(const Samples<int16_t>& from) const
+    {
+        return operator()(flipped<uint16_t>(from));
+    }
 
 private:
     template <class To, class From> static Samples<To> flipped(const Samples<From>& from)

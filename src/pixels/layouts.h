@@ -26,7 +26,7 @@ template <class S, int perPixel, int seen, Order order> struct Interleaved : Lin
     using Sample = S;
     static constexpr int pixelsAtOnce = vectorBytes / int{sizeof(S)};
 
-    Samples<S, seen> load(int x) const
+    [[gnu::always_inline]] Samples<S, seen> load(int x) const
     {
         Vec<S> v[perPixel];
         deinterleave(this->at(0, x), v);
@@ -36,7 +36,7 @@ template <class S, int perPixel, int seen, Order order> struct Interleaved : Lin
         return p;
     }
 
-    template <Columns columns> void store(int x, Pixels<seen, 1, columns, S> p) const
+    template <Columns columns> [[gnu::always_inline]] void store(int x, Pixels<seen, 1, columns, S> p) const
     {
         if constexpr (perPixel == 4 && columns != Columns::inOrder) return store(x, inOrder(p));
         arrange<order>(p.c[0]);
@@ -59,20 +59,23 @@ template <class S, Order order, Line... planes> struct Planes : Lines<planes...>
     using Sample = S;
     static constexpr int channels = sizeof...(planes), pixelsAtOnce = vectorBytes / int{sizeof(S)};
 
-    Samples<S, channels> load(int x) const
+    [[gnu::always_inline]] Samples<S, channels> load(int x) const
     {
         Samples<S, channels> p;
-        for (int c = 0; c < channels; ++c) p.c[0][c] = zorcc::ZORCC_TIER::load<Vec<S>>(this->at(c, x));
+        this->each([&](int c) { p.c[0][c] = zorcc::ZORCC_TIER::load<Vec<S>>(this->at(c, x)); });
         arrange<order>(p.c[0]);
         return p;
     }
 
-    void store(int x, Samples<S, channels> p) const
+    [[gnu::always_inline]] void store(int x, Samples<S, channels> p) const
     {
         arrange<order>(p.c[0]);
-        for (int c = 0; c < channels; ++c) zorcc::ZORCC_TIER::store(this->at(c, x), p.c[0][c]);
+        this->each([&](int c) { zorcc::ZORCC_TIER::store(this->at(c, x), p.c[0][c]); });
     }
-    void store(int x, const Pixels<channels, 1, Columns::evenThenOdd>& p) const { store(x, inOrder(p)); }
+    [[gnu::always_inline]] void store(int x, const Pixels<channels, 1, Columns::evenThenOdd>& p) const
+    {
+        store(x, inOrder(p));
+    }
 };
 
 template <class S, int p> inline constexpr Line planeOf{{sizeof(S)}, p};

@@ -12,7 +12,7 @@ namespace {
 struct Bits565 : Lines<Line{{2}}> {
     using Base = Lines<Line{{2}}>;
 
-    Pixels<3> load(int x) const
+    [[gnu::always_inline]] Pixels<3> load(int x) const
     {
         u8v v[2];
         loadBlocks(at(0, x), v);

@@ -6,7 +6,9 @@
 // driver: it loads, calculates and stores, and never touches a byte outside the rows.
 #pragma once
 
+#include <algorithm>
 #include <type_traits>
+#include <utility>
 
 #include "frame/convert.h"
 #include "frame/parallel.h"
@@ -84,6 +86,13 @@ template <Line... all> struct Lines {
     uint8_t* start[lines];
 
     uint8_t* at(int l, int x) const { return start[l] + line[l].unit.offset(x); }
+
+    // f(0) .. f(lines - 1). Written out: a loop over the lines would keep their pointers in memory.
+    template <class F> [[gnu::always_inline]] static void each(const F& f)
+    {
+        [&]<int... l>(std::integer_sequence<int, l...>) __attribute__((always_inline)) { (f(l), ...); }
+        (std::make_integer_sequence<int, lines>());
+    }
 };
 
 // An image as a sequence of rows in a layout, or of pairs of rows.
@@ -91,21 +100,21 @@ template <class Layout> class RowsOf {
 public:
     [[gnu::always_inline]] explicit RowsOf(const Image& image)
     {
-        for (int l = 0; l < Layout::lines; ++l) {
+        Layout::each([&](int l) {
             const Line& line = Layout::line[l];
             first[l] = image.row(line.plane, line.row);
             step[l] = line.rows * image.step[line.plane];
-        }
+        });
     }
 
     [[gnu::always_inline]] Layout operator[](ptrdiff_t y) const
     {
         Layout row;
-        for (int l = 0; l < Layout::lines; ++l) {
+        Layout::each([&](int l) {
             row.start[l] = first[l] + y * step[l];
             // In a register: compilers would calculate several pointers in a vector and take it apart again.
             asm("" : "+r"(row.start[l]));
-        }
+        });
         return row;
     }
 
@@ -115,9 +124,10 @@ private:
 };
 
 // The rest of a row, from pixel x on.
-template <class Layout> ZORCC_INLINE Layout fromPixel(Layout row, int x)
+template <class Layout> ZORCC_INLINE Layout fromPixel(const Layout& whole, int x)
 {
-    for (int l = 0; l < Layout::lines; ++l) row.start[l] = row.at(l, x);
+    Layout row = whole;
+    Layout::each([&](int l) { row.start[l] = whole.at(l, x); });
     return row;
 }
 
@@ -140,13 +150,13 @@ template <class Layout> struct TwoRows : Twice<typename Layout::Base>::Type {
     Layout row(int r) const
     {
         Layout one = state;
-        for (int l = 0; l < Layout::lines; ++l) one.start[l] = this->start[r * Layout::lines + l];
+        Layout::each([&](int l) { one.start[l] = this->start[r * Layout::lines + l]; });
         return one;
     }
 
-    auto load(int x) const { return stack(row(0).load(x), row(1).load(x)); }
+    [[gnu::always_inline]] auto load(int x) const { return stack(row(0).load(x), row(1).load(x)); }
 
-    template <class Pair> void store(int x, const Pair& pair) const
+    template <class Pair> [[gnu::always_inline]] void store(int x, const Pair& pair) const
     {
         for (int r = 0; r < 2; ++r) row(r).store(x, rowOf(pair, r));
     }
@@ -204,23 +214,31 @@ template <class From, class By, class To> struct OnThisTier {
 
 // ---- pixels of a row ------------------------------------------------------------------------------------------------
 
+// The bytes that a load or a store takes from one line, at most.
+template <class Layout>
+constexpr ptrdiff_t longestLine = [] {
+    ptrdiff_t most = 0;
+    for (const Line& line : Layout::line) most = std::max(most, line.unit.offset(Layout::pixelsAtOnce));
+    return most;
+}();
+
 // A copy of the first pixels of a row, long enough for a load or a store, with zeros after them.
 template <class Layout> class Stage {
 public:
     // `width` pixels, fewer than a load or a store takes.
-    Stage(const Layout& row, int width) : staged(row)
+    [[gnu::always_inline]] Stage(const Layout& row, int width) : staged(row)
     {
-        for (int l = 0; l < Layout::lines; ++l) {
+        Layout::each([&](int l) {
             __builtin_memcpy(bytes[l], row.start[l], bytesOf(l, width));
             staged.start[l] = bytes[l];
-        }
+        });
     }
 
     const Layout& row() const { return staged; }
 
-    void copyTo(const Layout& row, int width) const
+    [[gnu::always_inline]] void copyTo(const Layout& row, int width) const
     {
-        for (int l = 0; l < Layout::lines; ++l) __builtin_memcpy(row.start[l], bytes[l], bytesOf(l, width));
+        Layout::each([&](int l) { __builtin_memcpy(row.start[l], bytes[l], bytesOf(l, width)); });
     }
 
 private:
@@ -228,20 +246,13 @@ private:
     {
         return static_cast<size_t>(Layout::line[l].unit.offset(pixels));
     }
-    static constexpr size_t mostBytes()
-    {
-        size_t most = 0;
-        for (int l = 0; l < Layout::lines; ++l)
-            if (bytesOf(l, Layout::pixelsAtOnce) > most) most = bytesOf(l, Layout::pixelsAtOnce);
-        return most;
-    }
-    alignas(vectorBytes) uint8_t bytes[Layout::lines][mostBytes()] = {};
+    alignas(vectorBytes) uint8_t bytes[Layout::lines][longestLine<Layout>] = {};
     Layout staged;
 };
 
 // Converts `width` pixels, fewer than a load takes.
 template <class Source, class Formula, class Destination>
-ZORCC_INLINE void convertShortRow(const Source from, const Formula formula, const Destination to, int width)
+ZORCC_INLINE void convertShortRow(const Source& from, const Formula& formula, const Destination& to, int width)
 {
     const Stage<Source> source(from, width);
     const Stage<Destination> destination(to, width); // with what a store keeps
@@ -260,15 +271,16 @@ template <class Layout> ZORCC_INLINE void prefetchAhead(const Layout& row, int x
         constexpr int step = Layout::pixelsAtOnce;
         constexpr int ahead = (prefetchedBytes / Layout::line[0].unit.bytes + step - 1) / step * step;
         if (sizeof(typename Layout::Sample) == 1 || x + ahead >= width) return;
-        for (int l = 0; l < Layout::lines; ++l)
+        Layout::each([&](int l) {
             for (ptrdiff_t b = 0; b < Layout::line[l].unit.offset(step); b += 64)
                 __builtin_prefetch(row.at(l, x + ahead) + b);
+        });
     }
 }
 
 // Converts `width` pixels, a multiple of a load's and at least one.
 template <class Source, class Formula, class Destination>
-ZORCC_INLINE void convertVectors(const Source from, const Formula formula, const Destination to, int width)
+ZORCC_INLINE void convertVectors(const Source& from, const Formula& formula, const Destination& to, int width)
 {
     constexpr int step = Source::pixelsAtOnce;
     if constexpr (WorksInTwoSteps<Formula, decltype(from.load(0))>) {
@@ -293,7 +305,7 @@ ZORCC_INLINE void convertVectors(const Source from, const Formula formula, const
 // Converts `width` pixels, a multiple of the group that shares samples. Source and destination may be the same row of
 // the same layout: the last load, which overlaps the one before it, is read before anything is written.
 template <class Source, class Formula, class Destination>
-ZORCC_INLINE void convertPixels(const Source from, const Formula formula, const Destination to, int width)
+ZORCC_INLINE void convertPixels(const Source& from, const Formula& formula, const Destination& to, int width)
 {
     constexpr int step = Source::pixelsAtOnce;
     static_assert(step == Destination::pixelsAtOnce);
@@ -308,14 +320,12 @@ ZORCC_INLINE void convertPixels(const Source from, const Formula formula, const 
     }
 }
 
-constexpr int larger(int a, int b) { return a > b ? a : b; }
-
 // Converts a row of any width. Pixels after the last whole group are converted on their own, as 4:4:4: a source says
 // which chroma they have, a destination which of their samples have a place.
 template <class Source, class Formula, class Destination>
-ZORCC_INLINE void convertRow(const Source from, const Formula formula, const Destination to, int width)
+ZORCC_INLINE void convertRow(const Source& from, const Formula& formula, const Destination& to, int width)
 {
-    constexpr int group = larger(Source::group, Destination::group);
+    constexpr int group = std::max(Source::group, Destination::group);
     const int whole = width & -group;
     convertPixels(from, formula, to, whole);
     if constexpr (requires { from.remainder(whole, width); }) {
@@ -331,7 +341,8 @@ ZORCC_INLINE void convertRow(const Source from, const Formula formula, const Des
 }
 
 template <class Source, int pixels, class Blocks, class Rest, class Destination>
-ZORCC_INLINE void convertRow(const Source from, const InBlocks<pixels, Blocks, Rest>, const Destination to, int width)
+ZORCC_INLINE void convertRow(const Source& from, const InBlocks<pixels, Blocks, Rest>&, const Destination& to,
+                             int width)
 {
     const int whole = width - width % pixels;
     convertPixels(from, Blocks{}, to, whole);
@@ -360,21 +371,20 @@ template <class Layout> ZORCC_INLINE bool isContiguous(const Image& image, int w
 }
 
 template <class Layout, int rowsAtOnce>
-using WithRows = std::conditional_t<Layout::rowsAtOnce == rowsAtOnce, std::type_identity<Layout>,
-                                    std::type_identity<TwoRows<Layout>>>::type;
+using WithRows = typename std::conditional_t<Layout::rowsAtOnce == rowsAtOnce, std::type_identity<Layout>,
+                                             std::type_identity<TwoRows<Layout>>>::type;
 
 // A driver. `arguments` are those of the formula.
 template <class From, class By, class To, Threads threads = Threads::one, class... Arguments>
 void rows(const Image& from, const Image& to, ZorSize size, Arguments... arguments)
 {
     using Way = OnThisTier<From, By, To>;
-    constexpr int rowsAtOnce = larger(From::rowsAtOnce, To::rowsAtOnce);
+    constexpr int rowsAtOnce = std::max(From::rowsAtOnce, To::rowsAtOnce);
     using Source = WithRows<typename Way::Source, rowsAtOnce>;
     using Destination = WithRows<typename Way::Destination, rowsAtOnce>;
     const typename Way::Formula formula{arguments...};
 
-    auto [width, height] = size;
-    height /= rowsAtOnce;
+    int width = size.width, height = size.height / rowsAtOnce;
     if constexpr (threads == Threads::one && !seesPlaceInRow<By>) { // contiguous images are one row
         const int64_t pixels = static_cast<int64_t>(width) * height;
         if (pixels <= INT32_MAX && isContiguous<Source>(from, width) && isContiguous<Destination>(to, width)) {
@@ -386,7 +396,7 @@ void rows(const Image& from, const Image& to, ZorSize size, Arguments... argumen
     const RowsOf<Destination> destination(to);
     const auto row = [&](int y) { convertRow(source[y], formula, destination[y], width); };
     if constexpr (threads == Threads::one)
-        for (int y = 0; y < height; ++y) convertRow(source[y], formula, destination[y], width);
+        for (int y = 0; y < height; ++y) row(y);
     else if constexpr (threads == Threads::aboveThreshold)
         rowsAboveThreshold(width, height, row);
     else

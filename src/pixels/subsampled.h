@@ -31,10 +31,13 @@ struct Planar422 : Lines<Line{{1}, 0}, Line{{1, 1}, 1}, Line{{1, 1}, 2}> {
     static constexpr int group = 2;
     using Remainder = YccPixels;
 
-    Subsampled<1> load(int x) const { return {{zorcc::ZORCC_TIER::load(at(0, x))}, loadHalves(at(1, x), at(2, x))}; }
+    [[gnu::always_inline]] Subsampled<1> load(int x) const
+    {
+        return {{zorcc::ZORCC_TIER::load(at(0, x))}, loadHalves(at(1, x), at(2, x))};
+    }
     YccPixels remainder(int x, int width) const { return withLastChroma(*this, x, width); }
 
-    void store(int x, const Subsampled<1>& s) const
+    [[gnu::always_inline]] void store(int x, const Subsampled<1>& s) const
     {
         zorcc::ZORCC_TIER::store(at(0, x), s.y[0]);
         storeHalves(at(1, x), at(2, x), s.chroma);
@@ -46,12 +49,12 @@ struct Planar422 : Lines<Line{{1}, 0}, Line{{1, 1}, 1}, Line{{1, 1}, 2}> {
 struct Planar420 : Lines<Line{{1}, 0, 0, 2}, Line{{1}, 0, 1, 2}, Line{{1, 1}, 1}, Line{{1, 1}, 2}> {
     static constexpr int rowsAtOnce = 2;
 
-    Subsampled<2> load(int x) const
+    [[gnu::always_inline]] Subsampled<2> load(int x) const
     {
         return {{zorcc::ZORCC_TIER::load(at(0, x)), zorcc::ZORCC_TIER::load(at(1, x))}, loadHalves(at(2, x), at(3, x))};
     }
 
-    void store(int x, const Subsampled<2>& s) const
+    [[gnu::always_inline]] void store(int x, const Subsampled<2>& s) const
     {
         zorcc::ZORCC_TIER::store(at(0, x), s.y[0]);
         zorcc::ZORCC_TIER::store(at(1, x), s.y[1]);
@@ -63,7 +66,7 @@ struct Planar420 : Lines<Line{{1}, 0, 0, 2}, Line{{1}, 0, 1, 2}, Line{{1, 1}, 1}
 struct Planar411 : Lines<Line{{1}, 0}, Line{{1, 2}, 1}, Line{{1, 2}, 2}> {
     static constexpr int group = 4;
 
-    Subsampled<1> load(int x) const
+    [[gnu::always_inline]] Subsampled<1> load(int x) const
     {
         return {{zorcc::ZORCC_TIER::load(at(0, x))}, loadDoubledQuarters(at(1, x), at(2, x))};
     }
@@ -78,7 +81,7 @@ template <PackedOrder order> struct Packed422 : Lines<Line{{4, 1}}> {
     static constexpr int luma = order == PackedOrder::lumaFirst ? 0 : 1, chroma = 1 - luma; // bytes of a pixel
     using Remainder = YccPixels;
 
-    Subsampled<1> load(int x) const
+    [[gnu::always_inline]] Subsampled<1> load(int x) const
     {
         u8v v[2];
         toBlocks({zorcc::ZORCC_TIER::load(at(0, x)), zorcc::ZORCC_TIER::load(at(0, x) + vectorBytes)}, v);
@@ -96,7 +99,7 @@ template <PackedOrder order> struct Packed422 : Lines<Line{{4, 1}}> {
         return {{{p[luma]}, {p[chroma]}, {x > 0 ? p[chroma - 2] : p[chroma]}}};
     }
 
-    void store(int x, const Subsampled<1>& s) const
+    [[gnu::always_inline]] void store(int x, const Subsampled<1>& s) const
     {
         const u8v pairs = zipHalves(s.chroma), even = luma == 0 ? s.y[0] : pairs, odd = luma == 0 ? pairs : s.y[0];
         storeBlocks(at(0, x), {zipLow(even, odd), zipHigh(even, odd)});

@@ -109,8 +109,13 @@ private:
 
     void receive(int c, int64_t s)
     {
-        for (int n = 0; n < Weights::rowsAbove; ++n)
-            for (int j = 0; j < steps; ++j) errors[c].incoming[n][j] = received(c, n, s + j + ahead);
+        const int64_t x = s + ahead;
+        const int end = tileRow.inImage(x).end;
+        for (int n = 0; n < Weights::rowsAbove; ++n) {
+            float* const incoming = errors[c].incoming[n];
+            __builtin_memcpy(incoming, errorRow(c, n) + x, static_cast<size_t>(end) * sizeof(float));
+            for (int j = end; j < steps; ++j) incoming[j] = 0;
+        }
     }
 
     // From the last rows of the band, to be received by the next one, which comes much later.

@@ -60,7 +60,7 @@ public:
     }
 
     // Loads the part `in` of the columns from x on of row y, as floats from 0 to white. The others are `outside`.
-    void load(int y, int64_t x, Span in, float* row) const
+    [[gnu::always_inline]] void load(int y, int64_t x, Span in, float* row) const
     {
         const auto [first, count, perPixel] = channels;
         const Src* const src = reinterpret_cast<const Src*>(from.row(0, y)) + x * perPixel;
@@ -77,7 +77,8 @@ public:
     }
 
     // Stores it; fromFloats(row, samples, dst) converts.
-    template <class FromFloats> void store(int y, int64_t x, Span in, const float* row, FromFloats fromFloats) const
+    template <class FromFloats>
+    [[gnu::always_inline]] void store(int y, int64_t x, Span in, const float* row, FromFloats fromFloats) const
     {
         const auto [first, count, perPixel] = channels;
         Dst* const dst = reinterpret_cast<Dst*>(to.row(0, y));

@@ -13,7 +13,7 @@ namespace {
 
 // A matrix whose results need no clamp: each channel is (weighted sum + bias) >> 16.
 template <Weights y, int yBias, Weights first, Weights second, int chromaBias> struct MatrixToYcc {
-    Pixels<3> operator()(const Pixels<3>& rgb) const
+    [[gnu::always_inline]] Pixels<3> operator()(const Pixels<3>& rgb) const
     {
         const auto [r, g, b] = rgb.c[0];
         const u8v rgLo = zipLow(r, g), bgLo = zipLow(b, g), rgHi = zipHigh(r, g), bgHi = zipHigh(b, g);
@@ -26,7 +26,7 @@ template <Weights y, int yBias, Weights first, Weights second, int chromaBias> s
 // ---- shared chroma: a way to weigh luma and a way to form chroma, for one row or two --------------------------------
 
 template <int rows, class Luma, class Chroma> struct RgbToSubsampled {
-    Subsampled<rows> operator()(const Pixels<3, rows>& rgb) const
+    [[gnu::always_inline]] Subsampled<rows> operator()(const Pixels<3, rows>& rgb) const
     {
         Subsampled<rows> out;
         s16v sum[3] = {};

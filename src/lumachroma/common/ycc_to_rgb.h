@@ -55,7 +55,7 @@ private:
 // point.
 template <ToRgb k> class FullChromaToRgb {
 public:
-    Pixels<3> operator()(const Pixels<3>& ycc) const
+    [[gnu::always_inline]] Pixels<3> operator()(const Pixels<3>& ycc) const
     {
         const auto [y, u, v] = ycc.c[0];
         const WideRgb lo = channels(zipLow(y, v), zipLow(y, u), zipLow(u, v));
@@ -106,7 +106,7 @@ private:
 // Offsets are formed once for a pair of columns and applied to the bytes of luma as what is to be added and what is to
 // be subtracted, one of them being 0. That they saturate at 255 makes no difference to the saturated result.
 template <ToRgb k> struct SharedChromaOnWholeLuma {
-    template <int rows> Pixels<3, rows> operator()(const Subsampled<rows>& ycc) const
+    template <int rows> [[gnu::always_inline]] Pixels<3, rows> operator()(const Subsampled<rows>& ycc) const
     {
         const WideRgb offset = ChromaOffsets<k>::of(zipHalves(ycc.chroma));
         Pixels<3, rows> rgb;
@@ -125,7 +125,8 @@ template <ToRgb k> struct SharedChromaOnWholeLuma {
 // vectors of their own, so that the chroma of a pair of columns stands in the lane of both.
 template <ToRgb k> class SharedChromaOnScaledLuma {
 public:
-    template <int rows> Pixels<3, rows, Columns::evenThenOdd> operator()(const Subsampled<rows>& ycc) const
+    template <int rows>
+    [[gnu::always_inline]] Pixels<3, rows, Columns::evenThenOdd> operator()(const Subsampled<rows>& ycc) const
     {
         const u8v uv = zipHalves(ycc.chroma);
         const Chroma chroma[3] = {chromaHalves<0, k.r, k.constantR>(uv), chromaHalves<-k.g1, -k.g2, k.constantG>(uv),
@@ -177,9 +178,9 @@ private:
 // ---- all of them ----------------------------------------------------------------------------------------------------
 
 template <ToRgb k> struct YccToRgb {
-    Pixels<3> operator()(const Pixels<3>& ycc) const { return FullChromaToRgb<k>{}(ycc); }
+    [[gnu::always_inline]] Pixels<3> operator()(const Pixels<3>& ycc) const { return FullChromaToRgb<k>{}(ycc); }
 
-    template <int rows> auto operator()(const Subsampled<rows>& ycc) const
+    template <int rows> [[gnu::always_inline]] auto operator()(const Subsampled<rows>& ycc) const
     {
         if constexpr (k.y == 65536)
             return SharedChromaOnWholeLuma<k>{}(ycc);

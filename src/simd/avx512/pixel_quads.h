@@ -88,7 +88,7 @@ ZORCC_INLINE PixelQuads<2> stack(const PixelQuads<1>& upper, const PixelQuads<1>
 // From sums of two rows of two groups, the second of them with odd columns first: sums of pairs of columns, in order.
 class SumsOfColumns {
 public:
-    ChannelPairs operator()(const ChannelPairs& a, const ChannelPairs& b) const
+    [[gnu::always_inline]] ChannelPairs operator()(const ChannelPairs& a, const ChannelPairs& b) const
     {
         return {sum(a.outer, b.outer), sum(a.inner, b.inner)};
     }
@@ -118,7 +118,7 @@ struct GatherTable {
 // Byte 2 of the lanes of four groups of 16 columns, in the order of the columns.
 class GatherColumns {
 public:
-    u8v operator()(const s32v (&v)[4]) const
+    [[gnu::always_inline]] u8v operator()(const s32v (&v)[4]) const
     {
         static constexpr GatherTable table([](int i) { return 4 * laneOfColumn(i % 16, i / 16) + 2; });
         const __m512i from = reg(load(table.from));
@@ -136,7 +136,7 @@ private:
 // second.
 class GatherChroma {
 public:
-    u8v operator()(const s32v (&u)[2], const s32v (&v)[2]) const
+    [[gnu::always_inline]] u8v operator()(const s32v (&u)[2], const s32v (&v)[2]) const
     {
         static constexpr GatherTable table([](int i) { return 4 * (i / 16 % 2 * 8 + i % 8) + i / 8 % 2 * 2; });
         const __m512i from = reg(load(table.from));

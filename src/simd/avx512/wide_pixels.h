@@ -90,7 +90,7 @@ ZORCC_INLINE UnsaturatedWithAlpha<1> rowOf(const UnsaturatedWithAlpha<2>& both, 
 // The upper halves of lanes of even and of odd columns, side by side.
 class UpperHalves {
 public:
-    s16v operator()(s32v even, s32v odd) const
+    [[gnu::always_inline]] s16v operator()(s32v even, s32v odd) const
     {
         const u8v down = fillBlock(_mm_setr_epi8(2, 3, 2, 3, 6, 7, 6, 7, 10, 11, 10, 11, 14, 15, 14, 15));
         return (s16v)_mm512_mask_shuffle_epi8(reg(odd), lowerHalves, reg(even), reg(down));
@@ -119,7 +119,7 @@ constexpr ScatterThrees scatterThrees;
 
 template <bool reversed> class StoreThrees {
 public:
-    void operator()(uint8_t* p, const Unsaturated<1>& v) const
+    [[gnu::always_inline]] void operator()(uint8_t* p, const Unsaturated<1>& v) const
     {
         const auto part = [&](int n) { return v.c[0][reversed ? 2 - n % 3 : n % 3][n / 3]; };
         __m512i packed[3];
@@ -155,7 +155,7 @@ constexpr ScatterFours scatterFours;
 
 template <bool reversed> class StoreFours {
 public:
-    void operator()(uint8_t* p, const UnsaturatedWithAlpha<1>& v) const
+    [[gnu::always_inline]] void operator()(uint8_t* p, const UnsaturatedWithAlpha<1>& v) const
     {
         const auto& [first, second, third] = v.rgb.c[0];
         const __m512i both = reg(reversed ? packUnsigned(first[0], first[1]) : packUnsigned(third[0], third[1]));

@@ -18,7 +18,7 @@ template <Weights w, int bias, Order order> ZORCC_INLINE s32v dotProduct(const C
 
 // 4:4:4: (weighted sum + bias) >> 16.
 template <Weights y, int yBias, Weights u, Weights v, int bias, Order order> struct DotProductsToYcc {
-    Pixels<3> operator()(const PixelQuads<1>& rgb) const
+    [[gnu::always_inline]] Pixels<3> operator()(const PixelQuads<1>& rgb) const
     {
         s32v sum[3][4];
         for (int group = 0; group < 4; ++group) {
@@ -35,7 +35,7 @@ template <Weights y, int yBias, Weights u, Weights v, int bias, Order order> str
 
 // 4:2:0: chroma of the sums over four pixels, (weighted sum + bias) >> 18.
 template <Weights y, int yBias, Weights u, Weights v, int bias, Order order> struct DotProductsTo420 {
-    Subsampled<2> operator()(const PixelQuads<2>& rgb) const
+    [[gnu::always_inline]] Subsampled<2> operator()(const PixelQuads<2>& rgb) const
     {
         s32v luma[2][4], first[2], second[2];
         ChannelPairs columns[2];
@@ -61,7 +61,10 @@ template <Weights y, int yBias, Weights u, Weights v, int bias, Order order> str
 template <class Layout> struct InQuads : Layout::Base {
     using Base = typename Layout::Base;
 
-    PixelQuads<1> load(int x) const { return loadQuads<Layout::line[0].unit.bytes>(this->at(0, x)); }
+    [[gnu::always_inline]] PixelQuads<1> load(int x) const
+    {
+        return loadQuads<Layout::line[0].unit.bytes>(this->at(0, x));
+    }
 };
 
 // Whether a sum over so many pixels never leaves 0..255: bytes are gathered without saturation.

@@ -23,12 +23,13 @@ public:
     static constexpr bool possible =
         k.y % 4 == 0 && k.y / 4 < 32768 && k.y != 65536 && 255 * factorR < 32768 && 255 * factorB < 32768;
 
-    template <int rows> Unsaturated<rows> operator()(const Subsampled<rows>& ycc) const
+    template <int rows> [[gnu::always_inline]] Unsaturated<rows> operator()(const Subsampled<rows>& ycc) const
     {
         return operator()(toLanes(ycc.y, ycc.chroma));
     }
 
-    template <int rows, LumaOrder order> Unsaturated<rows> operator()(const YccLanes<rows, order>& ycc) const
+    template <int rows, LumaOrder order>
+    [[gnu::always_inline]] Unsaturated<rows> operator()(const YccLanes<rows, order>& ycc) const
     {
         const s16v lower = fillPair16(k.y / 4, 0), upper = fillPair16(0, k.y / 4);
         Unsaturated<rows> rgb;
@@ -69,7 +70,7 @@ template <int rows> ZORCC_INLINE UnsaturatedWithAlpha<rows> withAlpha(const Unsa
 // ---- layouts --------------------------------------------------------------------------------------------------------
 
 template <PackedOrder order> struct PackedInLanes : Packed422<order> {
-    YccLanes<1, LumaOrder::byHalf> load(int x) const
+    [[gnu::always_inline]] YccLanes<1, LumaOrder::byHalf> load(int x) const
     {
         constexpr bool lumaFirst = order == PackedOrder::lumaFirst;
         YccLanes<1, LumaOrder::byHalf> ycc;
@@ -84,21 +85,21 @@ template <PackedOrder order> struct PackedInLanes : Packed422<order> {
 
 template <Order order> struct C3OfWide : C3<uint8_t, order> {
     using C3<uint8_t, order>::store;
-    void store(int x, const Unsaturated<1>& p) const { storeThrees(this->at(0, x), p); }
+    [[gnu::always_inline]] void store(int x, const Unsaturated<1>& p) const { storeThrees(this->at(0, x), p); }
 
     StoreThrees<order == Order::reversed> storeThrees;
 };
 
 template <Order order> struct C4OfWide : C4<uint8_t, order> {
     using C4<uint8_t, order>::store;
-    void store(int x, const UnsaturatedWithAlpha<1>& p) const { storeFours(this->at(0, x), p); }
+    [[gnu::always_inline]] void store(int x, const UnsaturatedWithAlpha<1>& p) const { storeFours(this->at(0, x), p); }
 
     StoreFours<order == Order::reversed> storeFours;
 };
 
 template <Order order> struct P3OfWide : P3<uint8_t, order> {
     using P3<uint8_t, order>::store;
-    void store(int x, const Unsaturated<1>& p) const
+    [[gnu::always_inline]] void store(int x, const Unsaturated<1>& p) const
     {
         store(x, Pixels<3>{{{saturated(p.c[0][0]), saturated(p.c[0][1]), saturated(p.c[0][2])}}});
     }
