@@ -1,22 +1,21 @@
 // SPDX-License-Identifier: MIT
-// Calls any exported conversion through one signature. What each of its parameters takes is told by the parameters'
-// types and their order, when this is compiled:
+// Calls any exported conversion in one way. Its parameters are
 //
-//     images, size, extras                                      most functions
-//     source, region, size, step, destination, step, extras     those that convert a region
+//     images, size, arguments                                      most functions
+//     source, region, size, step, destination, step, arguments     those that convert a region
 //
 // An image is a pointer and a step, both again for a second plane, or an array of planes and a step for all or an array
-// of steps; there are no steps where all images are without gaps.
+// of steps; there are no steps where all images are without gaps. The table names the arguments.
 #pragma once
 
 #include <array>
-#include <functional>
+#include <cstdint>
+#include <optional>
 #include <tuple>
 #include <type_traits>
 #include <utility>
 
-#include "interface/extra.h"
-#include "interface/formats.h"
+#include "interface/names.h"
 #include "zorcc.h"
 
 namespace zorcc::interface {
@@ -27,7 +26,33 @@ struct Image {
     int step[maxPlanes] = {};
 };
 
-// The arguments of a call.
+// Arguments beside images and size.
+struct Extra {
+    std::uint8_t alpha = 0;
+    int slice = 21; // of a deinterlacing conversion: the whole frame
+    int noise = 0;  // of a bit-depth reduction
+    int levels = 16;
+    ZorDitherMethod method = zorDitherMethodNone;
+    int grid = zorBayerRGGB; // as a number, which may be one that the type does not name
+    int interpolation = 0;
+    std::optional<ZorRect> region = std::nullopt; // of the source; all of it if there is none
+    void* scratch = nullptr;
+    int scratchStep = 0;
+};
+
+// The names of arguments, as the table has them.
+namespace arguments {
+inline constexpr auto alpha = &Extra::alpha;
+inline constexpr auto slice = &Extra::slice;
+inline constexpr auto noise = &Extra::noise;
+inline constexpr auto levels = &Extra::levels;
+inline constexpr auto method = &Extra::method;
+inline constexpr auto grid = &Extra::grid;
+inline constexpr auto interpolation = &Extra::interpolation;
+inline constexpr auto scratch = &Extra::scratch;
+inline constexpr auto scratchStep = &Extra::scratchStep;
+} // namespace arguments
+
 struct Call {
     Image source, destination;
     ZorSize size;
@@ -40,18 +65,36 @@ struct Signature {
     bool steps;                         // takes steps at all; otherwise rows follow each other without gaps
     bool sourceArray, destinationArray; // takes an array of plane pointers
     bool sourceSteps, destinationSteps; // takes a step for every plane; otherwise one step serves all
-    bool slice;                         // takes the position of the image in a frame
-    bool scratch;                       // takes scratch memory
+    Sample source, destination;
+
+    constexpr bool operator==(const Signature&) const = default;
 };
+
+// What the name of a function says of its signature.
+constexpr Signature signatureOf(const Name& name)
+{
+    const auto array = [](const Name::Side& side) { return isPlanar(side) && side.layout != "P2"; };
+    const auto stepOfEachPlane = [&](const Name::Side& side) {
+        return name.steps && isPlanar(side) && shapeOf(name, side).log2X > 0;
+    };
+    return {name.steps,
+            array(name.source),
+            array(name.destination),
+            stepOfEachPlane(name.source),
+            stepOfEachPlane(name.destination),
+            sampleOf(name.source),
+            sampleOf(name.destination)};
+}
 
 // ---- parameters -----------------------------------------------------------------------------------------------------
 
-enum class Takes { plane, planes, step, steps, region, size, extra };
+enum class Takes { plane, planes, step, steps, region, size };
 
+// A parameter before the arguments.
 struct Parameter {
     Takes takes;
     bool ofDestination = false; // of an image's
-    int number = 0;             // of the plane, of the extra
+    int number = 0;             // of the plane
 };
 
 template <class T> constexpr Takes takenBy()
@@ -60,41 +103,45 @@ template <class T> constexpr Takes takenBy()
     if (std::is_same_v<T, ZorSize>) return Takes::size;
     if (std::is_same_v<T, int>) return Takes::step;
     if (std::is_same_v<T, const int*>) return Takes::steps;
-    if (!std::is_pointer_v<T>) return Takes::extra;
     return std::is_pointer_v<std::remove_pointer_t<T>> ? Takes::planes : Takes::plane;
 }
 
-// Of samples that may be written.
-template <class T> inline constexpr bool pointsToDestination = !std::is_const_v<std::remove_pointer_t<T>>;
-template <class T> inline constexpr bool pointsToDestination<T* const*> = !std::is_const_v<T>;
+// Samples behind a pointer or an array of pointers.
+template <class T> struct Pointed {
+    using Type = T;
+};
+template <class T> struct Pointed<T*> : Pointed<T> {
+};
+template <class T> struct Pointed<T* const> : Pointed<T> {
+};
+template <class T> using SampleOf = typename Pointed<T>::Type;
 
-// How many parameters stand before the extras.
-template <class... T> constexpr int imagesAndSize()
+template <class T> constexpr Sample sampleOfType()
 {
-    if ((std::is_same_v<T, ZorRect> || ...)) return 6;
-    constexpr Takes takes[] = {takenBy<T>()...};
-    int size = 0;
-    while (takes[size] != Takes::size) ++size;
-    return size + 1;
+    using S = std::remove_const_t<T>;
+    if (std::is_same_v<S, std::uint8_t>) return Sample::u8;
+    if (std::is_same_v<S, std::uint16_t>) return Sample::u16;
+    if (std::is_same_v<S, std::int16_t>) return Sample::s16;
+    return std::is_same_v<S, float> ? Sample::f32 : Sample::s32;
 }
 
 template <class... T> constexpr std::array<Parameter, sizeof...(T)> parametersOf()
 {
-    constexpr int count = sizeof...(T), firstExtra = imagesAndSize<T...>();
-    constexpr bool toDestination[] = {pointsToDestination<T>...};
-    std::array<Parameter, count> all{Parameter{takenBy<T>()}...};
-    bool ofDestination = false;
+    std::array<Parameter, sizeof...(T)> all{
+        Parameter{takenBy<T>(), std::is_pointer_v<T> && !std::is_const_v<SampleOf<T>>}...};
     int plane = -1;
-    for (int i = 0; i < firstExtra; ++i) {
-        if (all[i].takes == Takes::plane || all[i].takes == Takes::planes) {
-            plane = toDestination[i] == ofDestination ? plane + 1 : 0;
-            ofDestination = toDestination[i];
+    bool ofDestination = false;
+    for (Parameter& p : all) {
+        if (p.takes == Takes::plane || p.takes == Takes::planes) {
+            plane = p.ofDestination == ofDestination ? plane + 1 : 0;
+            ofDestination = p.ofDestination;
         }
-        all[i] = {all[i].takes, ofDestination, plane};
+        p = {p.takes, ofDestination, plane};
     }
-    for (int i = firstExtra; i < count; ++i) all[i] = {Takes::extra, false, i - firstExtra};
     return all;
 }
+
+// ---- values of parameters -------------------------------------------------------------------------------------------
 
 // Arrays of planes live in the argument.
 template <class T> struct PlaneArray {
@@ -108,7 +155,7 @@ template <class T> struct PlaneArray {
     operator T() const { return null ? nullptr : plane; }
 };
 
-template <class T, Parameter p, class Extras> auto argument(const Call& call)
+template <class T, Parameter p> auto valueOf(const Call& call)
 {
     const Image& image = p.ofDestination ? call.destination : call.source;
     if constexpr (p.takes == Takes::plane) return static_cast<T>(image.plane[p.number]);
@@ -118,55 +165,69 @@ template <class T, Parameter p, class Extras> auto argument(const Call& call)
     if constexpr (p.takes == Takes::region)
         return call.extra.region.value_or(ZorRect{0, 0, call.size.width, call.size.height});
     if constexpr (p.takes == Takes::size) return call.size;
-    if constexpr (p.takes == Takes::extra) return call.extra.*std::get<p.number>(membersOf(Extras{}));
+}
+
+// An argument is of the parameter's type, but for enumerators as numbers and scratch memory of any type.
+template <class T, class Member> T argumentOf(const Member& value)
+{
+    static_assert(std::is_same_v<T, Member> || (std::is_enum_v<T> && std::is_same_v<Member, int>) ||
+                  (std::is_pointer_v<T> && std::is_same_v<Member, void*>));
+    return static_cast<T>(value);
 }
 
 // ---- functions ------------------------------------------------------------------------------------------------------
 
-template <auto function> struct Bound;
+template <auto function, auto... arguments> struct Bound;
 
-template <class... T, ZorStatus (*function)(T...)> struct Bound<function> {
-    static ZorStatus call(const Call& call) { return bind(call)(); }
+template <class... T, ZorStatus (*function)(T...), auto... arguments> struct Bound<function, arguments...> {
+    static constexpr auto parameters = parametersOf<T...>();
+    static constexpr std::size_t firstArgument = sizeof...(T) - sizeof...(arguments);
 
-    // The call, to be made as often as wanted without converting arguments again. It outlives what this gives.
-    static std::function<ZorStatus()> prepare(const Call& call) { return bind(call); }
+    // Every parameter after the images and the size is an argument.
+    static_assert(parameters[firstArgument - 1].takes == Takes::size ||
+                  (firstArgument == 6 && parameters[1].takes == Takes::region));
+
+    static ZorStatus call(const Call& call)
+    {
+        return callWith(call, std::make_index_sequence<firstArgument>{},
+                        std::make_index_sequence<sizeof...(arguments)>{});
+    }
 
     static constexpr Signature signature()
     {
+        constexpr Sample samples[] = {sampleOfType<SampleOf<T>>()...};
         Signature s{};
-        for (const Parameter& p : parameters) {
+        for (std::size_t i = 0; i < firstArgument; ++i) {
+            const Parameter& p = parameters[i];
             s.steps |= p.takes == Takes::step || p.takes == Takes::steps;
             (p.ofDestination ? s.destinationArray : s.sourceArray) |= p.takes == Takes::planes;
             (p.ofDestination ? s.destinationSteps : s.sourceSteps) |=
                 p.takes == Takes::steps || (p.takes == Takes::plane && p.number > 0);
+            if (p.takes == Takes::plane || p.takes == Takes::planes)
+                (p.ofDestination ? s.destination : s.source) = samples[i];
         }
-        s.slice = holds<&Extra::slice>(Taken{});
-        s.scratch = holds<&Extra::scratch>(Taken{});
         return s;
     }
 
-private:
-    static constexpr auto parameters = parametersOf<T...>();
-
-    static constexpr std::size_t firstExtra = imagesAndSize<T...>();
-
-    template <std::size_t... k> static auto typesBehindSize(std::index_sequence<k...>)
+    template <class Member> static constexpr bool takes([[maybe_unused]] Member argument)
     {
-        return Types<std::tuple_element_t<firstExtra + k, std::tuple<T...>>...>{};
+        return (takesArgument(argument, arguments) || ...);
     }
 
-    using Taken = decltype(extrasOf(typesBehindSize(std::make_index_sequence<sizeof...(T) - firstExtra>{})));
+private:
+    template <std::size_t i> using TypeAt = std::tuple_element_t<i, std::tuple<T...>>;
 
-    static auto bind(const Call& call)
+    template <std::size_t... i, std::size_t... k>
+    static ZorStatus callWith(const Call& call, std::index_sequence<i...>, std::index_sequence<k...>)
     {
-        return [&]<std::size_t... i>(std::index_sequence<i...>)
-        {
-            return [arguments = std::tuple{argument<T, parameters[i], Taken>(call)...}] {
-                return std::apply([](const auto&... argument) { return function(static_cast<T>(argument)...); },
-                                  arguments);
-            };
-        }
-        (std::index_sequence_for<T...>{});
+        return function(valueOf<TypeAt<i>, parameters[i]>(call)...,
+                        argumentOf<TypeAt<firstArgument + k>>(call.extra.*arguments)...);
+    }
+
+    template <class A, class B> static constexpr bool takesArgument(A a, B b)
+    {
+        if constexpr (std::is_same_v<A, B>) return a == b;
+        return false;
     }
 };
 

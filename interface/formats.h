@@ -1,16 +1,43 @@
 // SPDX-License-Identifier: MIT
-// Pixel formats as data: what a caller of the library must lay out in memory. Shared by tests, benchmarks and the tool.
+// Pixel formats as data: what a caller of the library must lay out in memory. Tests, benchmarks and the tool share it.
 #pragma once
 
 #include <cstddef>
+#include <stdexcept>
 #include <string_view>
+#include <utility>
 
 namespace zorcc::interface {
 
-// Colour models: Bayer mosaics, grey, R'G'B', analogue-television Y'UV, Y'CbCr by its matrix, which is anyYcc where
-// samples only change places, and the hexcone models. In channel strings M stands for a mosaic's sample, L for grey (in
-// those of HLS for lightness), U for Cb, V for Cr (in those of HSV for the value).
+// ---- colour models --------------------------------------------------------------------------------------------------
+
+// The Y'CbCr models differ in their matrix; anyYcc is that of conversions which only move samples.
 enum class Model { mosaic, grey, rgb, yuv, bt601, bt709, bt709full, anyYcc, hls, hsv };
+
+struct ModelProperties {
+    Model model;
+    std::string_view
+        channels;            // one letter each: M of a mosaic, L of grey and of HLS, U and V for Cb and Cr, A for alpha
+    std::string_view matrix; // as names of formats and the tool's options say it; empty without luma and chroma
+};
+
+inline constexpr ModelProperties models[] = {
+    {Model::mosaic, "M", ""},        {Model::grey, "L", ""},          {Model::rgb, "RGBA", ""},
+    {Model::yuv, "YUVA", "yuv"}, // analogue-television Y'UV
+    {Model::bt601, "YUVA", "bt601"}, {Model::bt709, "YUVA", "bt709"}, {Model::bt709full, "YUVA", "bt709full"},
+    {Model::anyYcc, "YUVA", "any"},  {Model::hls, "HLSA", ""},        {Model::hsv, "HSVA", ""},
+};
+
+constexpr const ModelProperties& propertiesOf(Model model)
+{
+    for (const ModelProperties& row : models)
+        if (row.model == model) return row;
+    throw std::logic_error("a colour model without properties");
+}
+
+constexpr bool isYcc(Model model) { return !propertiesOf(model).matrix.empty(); } // luma and chroma
+
+// ---- samples and planes ---------------------------------------------------------------------------------------------
 
 enum class Sample { u8, u16, s16, s32, f32 };
 
@@ -49,125 +76,137 @@ struct Format {
 };
 
 // Bytes of one row of plane p, and its rows, that an image of the given size occupies. An odd last pixel counts for
-// nothing in a subsampled plane; a packed 4:2:2 row ends behind the last pixel's own two bytes.
+// nothing in a subsampled plane; a packed 4:2:2 row ends after the last pixel's own two bytes.
 constexpr std::size_t rowBytes(const Format& f, int p, int width)
 {
     return static_cast<std::size_t>(width >> f.plane[p].log2X) * f.plane[p].samples * sampleBytes(f.sample);
 }
 constexpr int rows(const Format& f, int p, int height) { return height >> f.plane[p].log2Y; }
 
+// ---- all formats ----------------------------------------------------------------------------------------------------
+
+// What a format follows from. Channels in memory order; subsampled chroma planes hold one sample for
+// (1 << log2X) x (1 << log2Y) pixels.
+struct Shape {
+    Model model;
+    Sample sample;
+    Layout layout;
+    int channels;
+    int log2X = 0, log2Y = 0;
+    bool reversed = false;    // blue before red, Cr before Cb
+    bool chromaFirst = false; // packed 4:2:2: chroma before luma
+};
+
+struct Text {
+    char letters[24] = {};
+    std::size_t length = 0;
+
+    constexpr Text& operator+=(std::string_view text)
+    {
+        for (char c : text) letters[length++] = c;
+        return *this;
+    }
+    constexpr Text& operator+=(char c)
+    {
+        letters[length++] = c;
+        return *this;
+    }
+    constexpr operator std::string_view() const { return {letters, length}; }
+};
+
+constexpr Text channelsOf(const Shape& s)
+{
+    Text text;
+    text += propertiesOf(s.model).channels.substr(0, s.channels);
+    char* const c = text.letters;
+    if (s.reversed) std::swap(c[s.model == Model::rgb ? 0 : 1], c[2]);
+    if (s.layout != Layout::packed422) return text;
+    Text pair;
+    for (int i : {0, 1, 0, 2}) pair += c[i];
+    if (s.chromaFirst)
+        for (int i : {0, 2}) std::swap(pair.letters[i], pair.letters[i + 1]);
+    return pair;
+}
+
+// What follows the channels in the name of a format.
+constexpr std::string_view arrangementOf(const Shape& s)
+{
+    if (s.layout == Layout::packedBits) return "565";
+    if (s.layout == Layout::packed422) return "";
+    if (s.layout == Layout::planar) return s.log2X > 1 ? "411p" : s.log2Y ? "420p" : s.log2X ? "422p" : "444p";
+    constexpr std::string_view single[] = {"8", "16", "16s", "32s", "f32"}; // by sample type
+    constexpr std::string_view three[] = {"24", "48", "48s", "96s", "f32"};
+    constexpr std::string_view four[] = {"", "64", "64s", "128s", "f32"};
+    return (s.channels == 1 ? single : s.channels == 3 ? three : four)[static_cast<int>(s.sample)];
+}
+
+constexpr Text nameOf(const Shape& s)
+{
+    Text text;
+    if (s.model == Model::anyYcc && s.layout == Layout::semiPlanar) return text += s.log2Y ? "nv12" : "nv11";
+    if (s.model == Model::anyYcc && s.layout == Layout::planar && s.reversed) return text += s.log2Y ? "yv12" : "yv16";
+    if (s.model == Model::anyYcc && s.layout == Layout::planar)
+        return text += s.log2Y > 1 ? "i410" : s.log2X > 1 ? "i411" : s.log2Y ? "i420" : "i422";
+    if (s.model == Model::anyYcc && !s.chromaFirst && !s.reversed) return text += "yuy2";
+    if (s.channels == 1) {
+        text += s.model == Model::mosaic ? "bayer" : "grey";
+    } else {
+        const Text channels = channelsOf(s);
+        for (char c : std::string_view(channels)) text += static_cast<char>(c - 'A' + 'a');
+    }
+    text += arrangementOf(s);
+    if (isYcc(s.model) && s.model != Model::yuv && s.model != Model::anyYcc)
+        (text += "_") += propertiesOf(s.model).matrix;
+    return text;
+}
+
+template <Shape s> struct FormatOf {
+    static constexpr Text name = nameOf(s), channels = channelsOf(s);
+
+    static constexpr Format make()
+    {
+        Format f{name, channels, s.model, s.sample, s.layout, 1, {{s.channels}}};
+        const PlaneShape chroma{s.layout == Layout::semiPlanar ? 2 : 1, s.log2X, s.log2Y};
+        if (s.layout == Layout::packed422) f.plane[0] = {2};
+        if (s.layout == Layout::packedBits) f.plane[0] = {1};
+        if (s.layout == Layout::semiPlanar || s.layout == Layout::planar) {
+            f.planes = s.layout == Layout::semiPlanar ? 2 : s.channels;
+            f.plane[0] = {1};
+            for (int p = 1; p < f.planes; ++p) f.plane[p] = p < 3 ? chroma : PlaneShape{1};
+        }
+        return f;
+    }
+    static constexpr Format format = make();
+};
+
+// One object for each format: they compare by their addresses.
+template <Shape s> inline constexpr const Format& format = FormatOf<s>::format;
+
 namespace formats {
 
-constexpr Format interleaved(std::string_view name, std::string_view channels, Model model, Sample sample)
-{
-    return {name, channels, model, sample, Layout::interleaved, 1, {{static_cast<int>(channels.size()), 0, 0}}};
-}
+template <Model model, int channels, Sample sample = Sample::u8, bool reversed = false>
+inline constexpr const Format& interleaved =
+    format<Shape{model, sample, Layout::interleaved, channels, 0, 0, reversed}>;
 
-// Chroma planes (1 and 2) hold one sample for (1 << log2X) x (1 << log2Y) pixels.
-constexpr Format planar(std::string_view name, std::string_view channels, Model model, Sample sample, int log2X = 0,
-                        int log2Y = 0)
-{
-    return {name,
-            channels,
-            model,
-            sample,
-            Layout::planar,
-            static_cast<int>(channels.size()),
-            {{1, 0, 0}, {1, log2X, log2Y}, {1, log2X, log2Y}, {channels.size() > 3 ? 1 : 0, 0, 0}}};
-}
+template <Model model, int channels, int log2X = 0, int log2Y = 0>
+inline constexpr const Format& planar = format<Shape{model, Sample::u8, Layout::planar, channels, log2X, log2Y}>;
 
-constexpr Format packed422(std::string_view name, std::string_view channels, Model model)
-{
-    return {name, channels, model, Sample::u8, Layout::packed422, 1, {{2, 0, 0}}};
-}
-
-// A plane of luma and one of pairs of chroma samples, each for (1 << log2X) x (1 << log2Y) pixels.
-constexpr Format semiPlanar(std::string_view name, std::string_view channels, Model model, int log2X, int log2Y)
-{
-    return {name, channels, model, Sample::u8, Layout::semiPlanar, 2, {{1, 0, 0}, {2, log2X, log2Y}}};
-}
-
-constexpr Format packedBits(std::string_view name, std::string_view channels, Model model)
-{
-    return {name, channels, model, Sample::u16, Layout::packedBits, 1, {{1, 0, 0}}};
-}
-
-inline constexpr Format rgb24 = interleaved("rgb24", "RGB", Model::rgb, Sample::u8);
-inline constexpr Format bgr24 = interleaved("bgr24", "BGR", Model::rgb, Sample::u8);
-inline constexpr Format rgba = interleaved("rgba", "RGBA", Model::rgb, Sample::u8);
-inline constexpr Format bgra = interleaved("bgra", "BGRA", Model::rgb, Sample::u8);
-inline constexpr Format rgb444p = planar("rgb444p", "RGB", Model::rgb, Sample::u8);
-inline constexpr Format rgb565 = packedBits("rgb565", "RGB", Model::rgb); // R in the lowest bits
-
-inline constexpr Format rgb48 = interleaved("rgb48", "RGB", Model::rgb, Sample::u16);
-inline constexpr Format rgba64 = interleaved("rgba64", "RGBA", Model::rgb, Sample::u16);
-inline constexpr Format rgb48s = interleaved("rgb48s", "RGB", Model::rgb, Sample::s16);
-inline constexpr Format rgba64s = interleaved("rgba64s", "RGBA", Model::rgb, Sample::s16);
-inline constexpr Format rgbf32 = interleaved("rgbf32", "RGB", Model::rgb, Sample::f32);
-inline constexpr Format rgbaf32 = interleaved("rgbaf32", "RGBA", Model::rgb, Sample::f32);
-
-inline constexpr Format grey8 = interleaved("grey8", "L", Model::grey, Sample::u8);
-inline constexpr Format grey16 = interleaved("grey16", "L", Model::grey, Sample::u16);
-inline constexpr Format grey16s = interleaved("grey16s", "L", Model::grey, Sample::s16);
-inline constexpr Format greyf32 = interleaved("greyf32", "L", Model::grey, Sample::f32);
-
-// One sample a pixel, of the colour that its place in the mosaic tells.
-inline constexpr Format bayer8 = interleaved("bayer8", "M", Model::mosaic, Sample::u8);
-inline constexpr Format bayer16 = interleaved("bayer16", "M", Model::mosaic, Sample::u16);
-
-inline constexpr Format yuv24 = interleaved("yuv24", "YUV", Model::yuv, Sample::u8);
-inline constexpr Format yuva = interleaved("yuva", "YUVA", Model::yuv, Sample::u8);
-inline constexpr Format yuv444p = planar("yuv444p", "YUV", Model::yuv, Sample::u8);
-inline constexpr Format yuva444p = planar("yuva444p", "YUVA", Model::yuv, Sample::u8);
-inline constexpr Format yuv422p = planar("yuv422p", "YUV", Model::yuv, Sample::u8, 1, 0);
-inline constexpr Format yuv420p = planar("yuv420p", "YUV", Model::yuv, Sample::u8, 1, 1);
-inline constexpr Format yuyv = packed422("yuyv", "YUYV", Model::yuv);
-
-inline constexpr Format yuv24_bt601 = interleaved("yuv24_bt601", "YUV", Model::bt601, Sample::u8);
-inline constexpr Format yuva_bt601 = interleaved("yuva_bt601", "YUVA", Model::bt601, Sample::u8);
-inline constexpr Format yuv444p_bt601 = planar("yuv444p_bt601", "YUV", Model::bt601, Sample::u8);
-inline constexpr Format yuv422p_bt601 = planar("yuv422p_bt601", "YUV", Model::bt601, Sample::u8, 1, 0);
-inline constexpr Format yuv420p_bt601 = planar("yuv420p_bt601", "YUV", Model::bt601, Sample::u8, 1, 1);
-inline constexpr Format yvu420p_bt601 = planar("yvu420p_bt601", "YVU", Model::bt601, Sample::u8, 1, 1);
-inline constexpr Format yuv411p_bt601 = planar("yuv411p_bt601", "YUV", Model::bt601, Sample::u8, 2, 0);
-inline constexpr Format yuyv_bt601 = packed422("yuyv_bt601", "YUYV", Model::bt601);
-
-inline constexpr Format yuv444p_bt709 = planar("yuv444p_bt709", "YUV", Model::bt709, Sample::u8);
-inline constexpr Format yuv420p_bt709 = planar("yuv420p_bt709", "YUV", Model::bt709, Sample::u8, 1, 1);
-inline constexpr Format yvu420p_bt709 = planar("yvu420p_bt709", "YVU", Model::bt709, Sample::u8, 1, 1);
-inline constexpr Format yuv420p_bt709full = planar("yuv420p_bt709full", "YUV", Model::bt709full, Sample::u8, 1, 1);
-inline constexpr Format uyvy_bt709full = packed422("uyvy_bt709full", "UYVY", Model::bt709full);
-
-inline constexpr Format i422 = planar("i422", "YUV", Model::anyYcc, Sample::u8, 1, 0);
-inline constexpr Format yv16 = planar("yv16", "YVU", Model::anyYcc, Sample::u8, 1, 0);
-inline constexpr Format i420 = planar("i420", "YUV", Model::anyYcc, Sample::u8, 1, 1);
-inline constexpr Format yv12 = planar("yv12", "YVU", Model::anyYcc, Sample::u8, 1, 1);
-inline constexpr Format i411 = planar("i411", "YUV", Model::anyYcc, Sample::u8, 2, 0);
-inline constexpr Format i410 = planar("i410", "YUV", Model::anyYcc, Sample::u8, 2, 2);
-inline constexpr Format nv12 = semiPlanar("nv12", "YUV", Model::anyYcc, 1, 1);
-inline constexpr Format nv11 = semiPlanar("nv11", "YUV", Model::anyYcc, 2, 0);
-inline constexpr Format yuy2 = packed422("yuy2", "YUYV", Model::anyYcc);
-inline constexpr Format uyvy = packed422("uyvy", "UYVY", Model::anyYcc);
-inline constexpr Format yvyu = packed422("yvyu", "YVYU", Model::anyYcc);
-
-inline constexpr Format bgr444p = planar("bgr444p", "BGR", Model::rgb, Sample::u8);
-inline constexpr Format bgra444p = planar("bgra444p", "BGRA", Model::rgb, Sample::u8);
-
-inline constexpr Format hls24 = interleaved("hls24", "HLS", Model::hls, Sample::u8);
-inline constexpr Format hlsa = interleaved("hlsa", "HLSA", Model::hls, Sample::u8);
-inline constexpr Format hls48 = interleaved("hls48", "HLS", Model::hls, Sample::u16);
-inline constexpr Format hlsa64 = interleaved("hlsa64", "HLSA", Model::hls, Sample::u16);
-inline constexpr Format hls48s = interleaved("hls48s", "HLS", Model::hls, Sample::s16);
-inline constexpr Format hlsa64s = interleaved("hlsa64s", "HLSA", Model::hls, Sample::s16);
-inline constexpr Format hlsf32 = interleaved("hlsf32", "HLS", Model::hls, Sample::f32);
-inline constexpr Format hlsaf32 = interleaved("hlsaf32", "HLSA", Model::hls, Sample::f32);
-inline constexpr Format hls444p = planar("hls444p", "HLS", Model::hls, Sample::u8);
-inline constexpr Format hlsa444p = planar("hlsa444p", "HLSA", Model::hls, Sample::u8);
-
-inline constexpr Format hsv24 = interleaved("hsv24", "HSV", Model::hsv, Sample::u8);
-inline constexpr Format hsva = interleaved("hsva", "HSVA", Model::hsv, Sample::u8);
-inline constexpr Format hsv48 = interleaved("hsv48", "HSV", Model::hsv, Sample::u16);
-inline constexpr Format hsva64 = interleaved("hsva64", "HSVA", Model::hsv, Sample::u16);
+inline constexpr const Format& grey8 = interleaved<Model::grey, 1>;
+inline constexpr const Format& grey16 = interleaved<Model::grey, 1, Sample::u16>;
+inline constexpr const Format& greyf32 = interleaved<Model::grey, 1, Sample::f32>;
+inline constexpr const Format& rgb24 = interleaved<Model::rgb, 3>;
+inline constexpr const Format& rgb48 = interleaved<Model::rgb, 3, Sample::u16>;
+inline constexpr const Format& rgbf32 = interleaved<Model::rgb, 3, Sample::f32>;
+inline constexpr const Format& rgba = interleaved<Model::rgb, 4>;
+inline constexpr const Format& rgba64 = interleaved<Model::rgb, 4, Sample::u16>;
+inline constexpr const Format& bgra = interleaved<Model::rgb, 4, Sample::u8, true>;
+inline constexpr const Format& rgb444p = planar<Model::rgb, 3>;
+inline constexpr const Format& yuva = interleaved<Model::yuv, 4>;
+inline constexpr const Format& yuv444p = planar<Model::yuv, 3>;
+inline constexpr const Format& yuv422p = planar<Model::yuv, 3, 1>;
+inline constexpr const Format& yuv420p = planar<Model::yuv, 3, 1, 1>;
+inline constexpr const Format& i420 = planar<Model::anyYcc, 3, 1, 1>;
+inline constexpr const Format& i411 = planar<Model::anyYcc, 3, 2>;
 
 } // namespace formats
 

@@ -8,7 +8,29 @@ namespace zorcc::interface {
 
 namespace {
 
-using namespace formats;
+constexpr Alpha alphaOf(const Name& name, bool isArgument)
+{
+    if (!hasAlpha(name.destination)) return Alpha::none;
+    if (isArgument) return Alpha::argument;
+    if (!hasAlpha(name.source)) return Alpha::zero;
+    if (name.source.layout == "C4") return Alpha::converted;
+    return isPlanar(name.source) || isPlanar(name.destination) ? Alpha::copy : Alpha::keep;
+}
+
+template <class Bound, class NameOf> constexpr Function describe(std::string_view text, NameOf)
+{
+    constexpr Name name = NameOf{}();
+    static_assert(Bound::signature() == signatureOf(name), "name and parameters differ");
+    return {text,
+            {},
+            &format<shapeOf(name, name.source)>,
+            &format<shapeOf(name, name.destination)>,
+            alphaOf(name, Bound::takes(arguments::alpha)),
+            Bound::signature(),
+            Bound::takes(arguments::slice),
+            Bound::takes(arguments::scratch),
+            Bound::call};
+}
 
 // A row that opens a family has no name; functions() leaves it out when it fills in the titles.
 struct Row {
@@ -16,17 +38,11 @@ struct Row {
     Function function;
 };
 
-#define ZOR_FAMILY(identifier, text) {text, {}},
-#define ZOR_FUNCTION(function, source, destination, alpha)                                                             \
-    {{},                                                                                                               \
-     {#function,                                                                                                       \
-      {},                                                                                                              \
-      &source,                                                                                                         \
-      &destination,                                                                                                    \
-      Alpha::alpha,                                                                                                    \
-      Bound<&function>::signature(),                                                                                   \
-      Bound<&function>::call,                                                                                          \
-      Bound<&function>::prepare}},
+using namespace arguments;
+
+#define ZOR_FAMILY(text) {text, {}},
+#define ZOR_FUNCTION(function, ...)                                                                                    \
+    {{}, describe<Bound<&function __VA_OPT__(, ) __VA_ARGS__>>(#function, [] { return parse(#function); })},
 constexpr Row rowTable[] = {
 #include "interface/functions.def"
 };
@@ -66,7 +82,7 @@ constexpr Table table = makeTable();
 
 Extra Function::withScratch(Extra extra, ZorSize size) const
 {
-    if (signature.scratch) { // what the demosaicing functions ask for
+    if (takesScratch) { // what the demosaicing functions ask for
         thread_local std::vector<std::uint8_t> memory;
         constexpr int rows = 64;
         extra.scratchStep = 32 * (size.width + 32);

@@ -6,10 +6,11 @@
 #include <string_view>
 
 #include "interface/call.h"
-#include "interface/formats.h"
 
 namespace zorcc::interface {
 
+// What becomes of a destination's fourth channel: there is none, it is kept, copied from the source, set to 0 or to an
+// argument, or converted as the other channels are.
 enum class Alpha { none, keep, copy, zero, argument, converted };
 
 struct Function {
@@ -19,8 +20,8 @@ struct Function {
     const Format* destination;
     Alpha alpha;
     Signature signature;
+    bool takesSlice, takesScratch;
     ZorStatus (*bound)(const Call&);
-    std::function<ZorStatus()> (*prepare)(const Call&);
 
     ZorStatus operator()(const Image& from, const Image& to, ZorSize size, const Extra& extra = {}) const
     {

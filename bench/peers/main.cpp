@@ -56,7 +56,7 @@ Result compare(const Function& function, const Variant& variant, ZorSize size, c
     };
     std::vector<Runner> runners;
     for (const auto& [name, tier] : tiersHere())
-        runners.push_back({name, [t = tier] { setActiveTier(t); }, function.prepare(call)});
+        runners.push_back({name, [t = tier] { setActiveTier(t); }, [&] { function.bound(call); }});
     runners.push_back({"memcpy", {}, [&] { std::memcpy(copyDestination.data(), copySource.data(), copyBytes); }});
     for (const Peer* peer : peers) runners.push_back({peer->name, peer->select, peer->prepare(job)});
     race(runners, seconds);

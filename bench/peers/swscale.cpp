@@ -19,19 +19,18 @@ using interface::Image;
 
 AVPixelFormat pixelFormat(const Format& format)
 {
-    using namespace interface::formats;
     static constexpr struct {
-        const Format* ours;
+        std::string_view ours;
         AVPixelFormat theirs;
     } pairs[] = {
-        {&i420, AV_PIX_FMT_YUV420P},    {&i422, AV_PIX_FMT_YUV422P},    {&i411, AV_PIX_FMT_YUV411P},
-        {&nv12, AV_PIX_FMT_NV12},       {&yuy2, AV_PIX_FMT_YUYV422},    {&uyvy, AV_PIX_FMT_UYVY422},
-        {&rgb24, AV_PIX_FMT_RGB24},     {&bgr24, AV_PIX_FMT_BGR24},     {&rgba, AV_PIX_FMT_RGBA},
-        {&bgra, AV_PIX_FMT_BGRA},       {&yuv444p, AV_PIX_FMT_YUV444P}, {&yuv422p, AV_PIX_FMT_YUV422P},
-        {&yuv420p, AV_PIX_FMT_YUV420P}, {&yuyv, AV_PIX_FMT_YUYV422},    {&rgb565, AV_PIX_FMT_BGR565LE},
+        {"i420", AV_PIX_FMT_YUV420P},    {"i422", AV_PIX_FMT_YUV422P},    {"i411", AV_PIX_FMT_YUV411P},
+        {"nv12", AV_PIX_FMT_NV12},       {"yuy2", AV_PIX_FMT_YUYV422},    {"uyvy", AV_PIX_FMT_UYVY422},
+        {"rgb24", AV_PIX_FMT_RGB24},     {"bgr24", AV_PIX_FMT_BGR24},     {"rgba", AV_PIX_FMT_RGBA},
+        {"bgra", AV_PIX_FMT_BGRA},       {"yuv444p", AV_PIX_FMT_YUV444P}, {"yuv422p", AV_PIX_FMT_YUV422P},
+        {"yuv420p", AV_PIX_FMT_YUV420P}, {"yuyv", AV_PIX_FMT_YUYV422},    {"rgb565", AV_PIX_FMT_BGR565LE},
     };
     for (const auto& pair : pairs)
-        if (pair.ours->name == format.name) return pair.theirs;
+        if (pair.ours == format.name) return pair.theirs;
     return AV_PIX_FMT_NONE;
 }
 

@@ -26,14 +26,14 @@ def prototypes(header):
 
 
 def table_rows(table):
-    """{name: title of its family} of the functions of the interface table."""
+    """{name: (title of its family, [names of its arguments])} of the functions of the interface table."""
     rows, family = {}, None
     with open(table, encoding="ascii") as file:
-        for kind, name, title in re.findall(r'^ZOR_(FAMILY|FUNCTION)\((\w+), (?:"(.*)")?', file.read(), flags=re.M):
-            if kind == "FAMILY":
+        for title, name, arguments in re.findall(r'^ZOR_(?:FAMILY\("(.*)"\)|FUNCTION\((\w+)(.*)\))$', file.read(), re.M):
+            if title:
                 family = title
             else:
-                rows[name] = family
+                rows[name] = family, arguments.split(", ")[1:]
     if not rows:
         sys.exit(f"{table}: no functions found")
     return rows

@@ -11,29 +11,6 @@ using namespace interface;
 
 namespace {
 
-std::string_view channelNames(Model model)
-{
-    switch (model) {
-    case Model::mosaic:
-        return "M";
-    case Model::grey:
-        return "L";
-    case Model::rgb:
-        return "RGBA";
-    case Model::yuv:
-    case Model::bt601:
-    case Model::bt709:
-    case Model::bt709full:
-    case Model::anyYcc:
-        return "YUVA";
-    case Model::hls:
-        return "HLSA";
-    case Model::hsv:
-        return "HSVA";
-    }
-    throw std::logic_error("unknown colour model");
-}
-
 struct Field {
     int shift, bits;
 };
@@ -50,7 +27,7 @@ Field fieldOf(const Format& format, int channel)
 Pixels::Pixels(const Format& format, const Image& image, ZorSize imageSize)
     : size(imageSize), sampleType(format.sample), sampleBytes(interface::sampleBytes(format.sample))
 {
-    const std::string_view names = channelNames(format.model);
+    const std::string_view names = propertiesOf(format.model).channels;
     for (int c = 0; c < static_cast<int>(names.size()); ++c) {
         const std::size_t position = format.channels.find(names[c]);
         Place& p = place[c];

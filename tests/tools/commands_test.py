@@ -27,9 +27,9 @@ MOVED = {"i422", "yv16", "i420", "yv12", "i411", "i410", "nv12", "nv11", "yuy2",
 class List(unittest.TestCase):
     def test_shows_every_row_of_the_table(self):
         table = read(os.path.join(SOURCE, "interface/functions.def")).decode()
-        rows = re.findall(r"^ZOR_FUNCTION\((\w+), (\w+), (\w+),", table, re.MULTILINE)
+        rows = re.findall(r"^ZOR_FUNCTION\((\w+)", table, re.MULTILINE)
         self.assertGreaterEqual(len(rows), 33)
-        self.assertEqual([tuple(row) for row in functions()], rows)
+        self.assertEqual([row[0] for row in functions()], rows)
 
     def test_columns_line_up(self):
         lines = zorcc("list").splitlines()

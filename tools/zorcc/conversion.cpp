@@ -49,14 +49,14 @@ bool isOf(const Function& function, std::optional<interface::Model> matrix)
 {
     if (!matrix) return true;
     for (const interface::Model model : {function.source->model, function.destination->model})
-        if (isYcc(model) && model != interface::Model::anyYcc && model != *matrix) return false;
+        if (interface::isYcc(model) && model != interface::Model::anyYcc && model != *matrix) return false;
     return true;
 }
 
 // Does it in a way that has to be asked for.
 bool isVariant(const Function& function)
 {
-    return function.signature.slice || function.name.find("_Filter_") != std::string_view::npos ||
+    return function.takesSlice || function.name.find("_Filter_") != std::string_view::npos ||
            function.name.find("_Interlace_") != std::string_view::npos;
 }
 
@@ -127,7 +127,7 @@ Conversion findDeinterlacing(const Format& from, const Format& to)
 {
     const bool fullHeight = !isRgb(to) && to.log2X() == 1 && to.log2Y() == 0;
     for (const Function& function : interface::functions())
-        if (function.signature.slice && (function.destination->log2Y() == 0) == fullHeight &&
+        if (function.takesSlice && (function.destination->log2Y() == 0) == fullHeight &&
             rearrangementCost(from, *function.source))
             return {&function, function.destination};
     throw Cause("deinterlacing takes 4:2:0, and the picture is " + std::string(from.name));

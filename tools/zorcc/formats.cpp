@@ -132,10 +132,9 @@ const Format& withModel(const Format& format, interface::Model model)
 {
     using namespace interface::formats;
     // What files hold although no function has it.
-    static constexpr Format others[] = {
-        planar("yuv422p_bt709", "YUV", interface::Model::bt709, Sample::u8, 1, 0),
-        planar("yuv444p_bt709full", "YUV", interface::Model::bt709full, Sample::u8),
-        planar("yuv422p_bt709full", "YUV", interface::Model::bt709full, Sample::u8, 1, 0)};
+    static constexpr const Format* others[] = {&planar<interface::Model::bt709, 3, 1>,
+                                               &planar<interface::Model::bt709full, 3>,
+                                               &planar<interface::Model::bt709full, 3, 1>};
     const auto isTwin = [&](const Format& f) {
         return f.model == model && f.channels == format.channels && f.sample == format.sample &&
                f.layout == format.layout && f.log2X() == format.log2X() && f.log2Y() == format.log2Y();
@@ -144,15 +143,15 @@ const Format& withModel(const Format& format, interface::Model model)
     for (const interface::Function& function : interface::functions())
         for (const Format* f : {function.source, function.destination})
             if (isTwin(*f)) return *f;
-    for (const Format& f : others)
-        if (isTwin(f)) return f;
+    for (const Format* f : others)
+        if (isTwin(*f)) return *f;
     throw Cause(std::string(format.name) + " exists by another matrix only");
 }
 
 bool isSameModel(interface::Model a, interface::Model b)
 {
     using interface::Model;
-    if (a == Model::anyYcc || b == Model::anyYcc) return isYcc(a) && isYcc(b);
+    if (a == Model::anyYcc || b == Model::anyYcc) return interface::isYcc(a) && interface::isYcc(b);
     const auto isRgb = [](Model model) { return model == Model::rgb || model == Model::grey; };
     return a == b || (isRgb(a) && isRgb(b));
 }

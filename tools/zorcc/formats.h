@@ -37,14 +37,6 @@ inline const Format& byMatrix(const Format& format, interface::Model matrix)
     return format.model == interface::Model::yuv ? withModel(format, matrix) : format;
 }
 
-// Whether a model has luma and chroma.
-constexpr bool isYcc(interface::Model model)
-{
-    using interface::Model;
-    return model == Model::yuv || model == Model::bt601 || model == Model::bt709 || model == Model::bt709full ||
-           model == Model::anyYcc;
-}
-
 // Whether values of one model are values of the other: formats whose samples only change places go with any matrix.
 bool isSameModel(interface::Model a, interface::Model b);
 

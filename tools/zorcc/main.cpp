@@ -13,7 +13,8 @@
 
 namespace {
 
-using namespace zorcc::tool;
+using namespace zorcc;
+using namespace tool;
 
 constexpr int failed = 1, badUsage = 2;
 
@@ -35,6 +36,14 @@ ZorSize parseSize(const std::string& text)
         if (height.ec == std::errc() && height.ptr == end && size.width > 0 && size.height > 0) return size;
     }
     throw CLI::ValidationError("--size", "'" + text + "' is no size such as 640x480");
+}
+
+std::map<std::string, interface::Model> namedMatrices()
+{
+    std::map<std::string, interface::Model> named;
+    for (const interface::ModelProperties& row : interface::models)
+        if (interface::isYcc(row.model) && row.model != interface::Model::anyYcc) named.emplace(row.matrix, row.model);
+    return named;
 }
 
 template <class Size> void addSize(CLI::App* command, Size& size, const std::string& help)
@@ -105,11 +114,7 @@ void addCommands(CLI::App& app, Options& o)
         ->add_option("--matrix", o.convert.in.matrix,
                      "matrix of .y4m files, and of formats whose names tell none: yuv, bt601, bt709, bt709full")
         ->type_name("NAME")
-        ->transform(CLI::Transformer(
-            std::map<std::string, zorcc::interface::Model>{{"yuv", zorcc::interface::Model::yuv},
-                                                           {"bt601", zorcc::interface::Model::bt601},
-                                                           {"bt709", zorcc::interface::Model::bt709},
-                                                           {"bt709full", zorcc::interface::Model::bt709full}}));
+        ->transform(CLI::Transformer(namedMatrices()));
     command->add_flag("--deinterlace", o.convert.deinterlace,
                       "smooth each 4:2:0 picture vertically, so that its two fields no longer show as combs");
     addTiming(command, o.convert.timing);
