@@ -106,7 +106,7 @@ template <class T> constexpr Takes takenBy()
     return std::is_pointer_v<std::remove_pointer_t<T>> ? Takes::planes : Takes::plane;
 }
 
-// Samples behind a pointer or an array of pointers.
+// What a pointer or an array of pointers leads to.
 template <class T> struct Pointed {
     using Type = T;
 };

@@ -2,7 +2,7 @@
 // The caller's scratch buffer as lines of floats. zorcc.h tells callers how large it must be.
 #pragma once
 
-#include "frame/image.h"
+#include "frame/convert.h"
 #include "simd/floats.h"
 
 namespace zorcc::ZORCC_TIER {

@@ -2,7 +2,7 @@
 // Row drivers of the support primitives: fills and copies that bypass the caches, and reductions.
 #pragma once
 
-#include "frame/image.h"
+#include "frame/convert.h"
 #include "simd/tier.h"
 
 namespace zorcc {

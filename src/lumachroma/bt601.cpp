@@ -5,144 +5,142 @@
 
 using namespace zorcc;
 
+static constexpr auto& rows = bt601Rows;
+
 ZorStatus zoriRGBToYCbCr_8u_C3R(const uint8_t* pSrc, int srcStep, uint8_t* pDst, int dstStep, ZorSize roiSize)
 {
-    return convert(bt601Rows().myRGBToYCbCr_8u_C3R, interleaved(pSrc, srcStep), interleaved(pDst, dstStep), roiSize);
+    return convert(rows().myRGBToYCbCr_8u_C3R, interleaved(pSrc, srcStep), interleaved(pDst, dstStep), roiSize);
 }
 
 ZorStatus zoriRGBToYCbCr_8u_AC4R(const uint8_t* pSrc, int srcStep, uint8_t* pDst, int dstStep, ZorSize roiSize)
 {
-    return convert(bt601Rows().myRGBToYCbCr_8u_AC4R, interleaved(pSrc, srcStep), interleaved(pDst, dstStep), roiSize);
+    return convert(rows().myRGBToYCbCr_8u_AC4R, interleaved(pSrc, srcStep), interleaved(pDst, dstStep), roiSize);
 }
 
 ZorStatus zoriRGBToYCbCr_8u_C3P3R(const uint8_t* pSrc, int srcStep, uint8_t* const pDst[3], int dstStep,
                                   ZorSize roiSize)
 {
-    return convert(bt601Rows().myRGBToYCbCr_8u_C3P3R, interleaved(pSrc, srcStep), planar<3>(pDst, dstStep), roiSize);
+    return convert(rows().myRGBToYCbCr_8u_C3P3R, interleaved(pSrc, srcStep), planar<3>(pDst, dstStep), roiSize);
 }
 
 ZorStatus zoriRGBToYCbCr_8u_AC4P3R(const uint8_t* pSrc, int srcStep, uint8_t* const pDst[3], int dstStep,
                                    ZorSize roiSize)
 {
-    return convert(bt601Rows().myRGBToYCbCr_8u_AC4P3R, interleaved(pSrc, srcStep), planar<3>(pDst, dstStep), roiSize);
+    return convert(rows().myRGBToYCbCr_8u_AC4P3R, interleaved(pSrc, srcStep), planar<3>(pDst, dstStep), roiSize);
 }
 
 ZorStatus zoriRGBToYCbCr_8u_P3R(const uint8_t* const pSrc[3], int srcStep, uint8_t* const pDst[3], int dstStep,
                                 ZorSize roiSize)
 {
-    return convert(bt601Rows().myRGBToYCbCr_8u_P3R, planar<3>(pSrc, srcStep), planar<3>(pDst, dstStep), roiSize);
+    return convert(rows().myRGBToYCbCr_8u_P3R, planar<3>(pSrc, srcStep), planar<3>(pDst, dstStep), roiSize);
 }
 
 ZorStatus zoriRGBToYCbCr422_8u_C3C2R(const uint8_t* pSrc, int srcStep, uint8_t* pDst, int dstStep, ZorSize roiSize)
 {
-    return convert(bt601Rows().myRGBToYCbCr422_8u_C3C2R, interleaved(pSrc, srcStep), interleaved(pDst, dstStep),
-                   roiSize);
+    return convert(rows().myRGBToYCbCr422_8u_C3C2R, interleaved(pSrc, srcStep), interleaved(pDst, dstStep), roiSize);
 }
 
 ZorStatus zoriRGBToYCbCr422_8u_P3C2R(const uint8_t* const pSrc[3], int srcStep, uint8_t* pDst, int dstStep,
                                      ZorSize roiSize)
 {
-    return convert(bt601Rows().myRGBToYCbCr422_8u_P3C2R, planar<3>(pSrc, srcStep), interleaved(pDst, dstStep), roiSize);
+    return convert(rows().myRGBToYCbCr422_8u_P3C2R, planar<3>(pSrc, srcStep), interleaved(pDst, dstStep), roiSize);
 }
 
 ZorStatus zoriRGBToYCbCr420_8u_C3P3R(const uint8_t* pSrc, int srcStep, uint8_t* const pDst[3], const int dstStep[3],
                                      ZorSize roiSize)
 {
-    return convert(evenPart, bt601Rows().myRGBToYCbCr420_8u_C3P3R, interleaved(pSrc, srcStep), planar(pDst, dstStep),
+    return convert(evenSizes, rows().myRGBToYCbCr420_8u_C3P3R, interleaved(pSrc, srcStep), planar(pDst, dstStep),
                    roiSize);
 }
 
 ZorStatus zoriYCbCrToRGB_8u_C3R(const uint8_t* pSrc, int srcStep, uint8_t* pDst, int dstStep, ZorSize roiSize)
 {
-    return convert(bt601Rows().myYCbCrToRGB_8u_C3R, interleaved(pSrc, srcStep), interleaved(pDst, dstStep), roiSize);
+    return convert(rows().myYCbCrToRGB_8u_C3R, interleaved(pSrc, srcStep), interleaved(pDst, dstStep), roiSize);
 }
 
 ZorStatus zoriYCbCrToRGB_8u_AC4R(const uint8_t* pSrc, int srcStep, uint8_t* pDst, int dstStep, ZorSize roiSize)
 {
-    return convert(bt601Rows().myYCbCrToRGB_8u_AC4R, interleaved(pSrc, srcStep), interleaved(pDst, dstStep), roiSize);
+    return convert(rows().myYCbCrToRGB_8u_AC4R, interleaved(pSrc, srcStep), interleaved(pDst, dstStep), roiSize);
 }
 
 ZorStatus zoriYCbCrToRGB_8u_P3R(const uint8_t* const pSrc[3], int srcStep, uint8_t* const pDst[3], int dstStep,
                                 ZorSize roiSize)
 {
-    return convert(bt601Rows().myYCbCrToRGB_8u_P3R, planar<3>(pSrc, srcStep), planar<3>(pDst, dstStep), roiSize);
+    return convert(rows().myYCbCrToRGB_8u_P3R, planar<3>(pSrc, srcStep), planar<3>(pDst, dstStep), roiSize);
 }
 
 ZorStatus zoriYCbCrToRGB_8u_P3C3R(const uint8_t* const pSrc[3], int srcStep, uint8_t* pDst, int dstStep,
                                   ZorSize roiSize)
 {
-    return convert(bt601Rows().myYCbCrToRGB_8u_P3C3R, planar<3>(pSrc, srcStep), interleaved(pDst, dstStep), roiSize);
+    return convert(rows().myYCbCrToRGB_8u_P3C3R, planar<3>(pSrc, srcStep), interleaved(pDst, dstStep), roiSize);
 }
 
 ZorStatus zoriYCbCrToRGB_8u_P3C4R(const uint8_t* const pSrc[3], int srcStep, uint8_t* pDst, int dstStep,
                                   ZorSize roiSize, uint8_t aval)
 {
-    return convert(bt601Rows().myYCbCrToRGB_8u_P3C4R, planar<3>(pSrc, srcStep), interleaved(pDst, dstStep), roiSize,
-                   aval);
+    return convert(rows().myYCbCrToRGB_8u_P3C4R, planar<3>(pSrc, srcStep), interleaved(pDst, dstStep), roiSize, aval);
 }
 
 ZorStatus zoriYCbCr422ToRGB_8u_C2C3R(const uint8_t* pSrc, int srcStep, uint8_t* pDst, int dstStep, ZorSize roiSize)
 {
-    return convert(bt601Rows().myYCbCr422ToRGB_8u_C2C3R, interleaved(pSrc, srcStep), interleaved(pDst, dstStep),
-                   roiSize);
+    return convert(rows().myYCbCr422ToRGB_8u_C2C3R, interleaved(pSrc, srcStep), interleaved(pDst, dstStep), roiSize);
 }
 
 ZorStatus zoriYCbCr422ToRGB_8u_C2P3R(const uint8_t* pSrc, int srcStep, uint8_t* const pDst[3], int dstStep,
                                      ZorSize roiSize)
 {
-    return convert(bt601Rows().myYCbCr422ToRGB_8u_C2P3R, interleaved(pSrc, srcStep), planar<3>(pDst, dstStep), roiSize);
+    return convert(rows().myYCbCr422ToRGB_8u_C2P3R, interleaved(pSrc, srcStep), planar<3>(pDst, dstStep), roiSize);
 }
 
 ZorStatus zoriYCbCr422ToRGB_8u_P3C3R(const uint8_t* const pSrc[3], const int srcStep[3], uint8_t* pDst, int dstStep,
                                      ZorSize roiSize)
 {
-    return convert(bt601Rows().myYCbCr422ToRGB_8u_P3C3R, planar(pSrc, srcStep), interleaved(pDst, dstStep), roiSize);
+    return convert(rows().myYCbCr422ToRGB_8u_P3C3R, planar(pSrc, srcStep), interleaved(pDst, dstStep), roiSize);
 }
 
 ZorStatus zoriYCbCr420ToRGB_8u_P3C3R(const uint8_t* const pSrc[3], const int srcStep[3], uint8_t* pDst, int dstStep,
                                      ZorSize roiSize)
 {
-    return convert(evenPart, bt601Rows().myYCbCr420ToRGB_8u_P3C3R, planar(pSrc, srcStep), interleaved(pDst, dstStep),
+    return convert(evenSizes, rows().myYCbCr420ToRGB_8u_P3C3R, planar(pSrc, srcStep), interleaved(pDst, dstStep),
                    roiSize);
 }
 
 ZorStatus zoriYCbCr420ToBGR_8u_P3C3R(const uint8_t* const pSrc[3], const int srcStep[3], uint8_t* pDst, int dstStep,
                                      ZorSize roiSize)
 {
-    return convert(evenPart, bt601Rows().myYCbCr420ToBGR_8u_P3C3R, planar(pSrc, srcStep), interleaved(pDst, dstStep),
+    return convert(evenSizes, rows().myYCbCr420ToBGR_8u_P3C3R, planar(pSrc, srcStep), interleaved(pDst, dstStep),
                    roiSize);
 }
 
 ZorStatus zoriYCbCr420ToBGR_8u_P3C4R(const uint8_t* const pSrc[3], const int srcStep[3], uint8_t* pDst, int dstStep,
                                      ZorSize roiSize, uint8_t aval)
 {
-    return convert(evenPart, bt601Rows().myYCbCr420ToBGR_8u_P3C4R, planar(pSrc, srcStep), interleaved(pDst, dstStep),
+    return convert(evenSizes, rows().myYCbCr420ToBGR_8u_P3C4R, planar(pSrc, srcStep), interleaved(pDst, dstStep),
                    roiSize, aval);
 }
 
 ZorStatus zoriYCrCb420ToRGB_8u_P3C4R(const uint8_t* const pSrc[3], const int srcStep[3], uint8_t* pDst, int dstStep,
                                      ZorSize roiSize, uint8_t aval)
 {
-    return convert(evenPart, bt601Rows().myYCrCb420ToRGB_8u_P3C4R, planarCrCb(pSrc, srcStep),
-                   interleaved(pDst, dstStep), roiSize, aval);
+    return convert(evenSizes, rows().myYCrCb420ToRGB_8u_P3C4R, planarCrCb(pSrc, srcStep), interleaved(pDst, dstStep),
+                   roiSize, aval);
 }
 
 ZorStatus zoriYCbCr411ToBGR_8u_P3C3R(const uint8_t* const pSrc[3], const int srcStep[3], uint8_t* pDst, int dstStep,
                                      ZorSize roiSize)
 {
-    return convert(bt601Rows().myYCbCr411ToBGR_8u_P3C3R, planar(pSrc, srcStep), interleaved(pDst, dstStep), roiSize);
+    return convert(rows().myYCbCr411ToBGR_8u_P3C3R, planar(pSrc, srcStep), interleaved(pDst, dstStep), roiSize);
 }
 
 ZorStatus zoriYCbCr411ToBGR_8u_P3C4R(const uint8_t* const pSrc[3], const int srcStep[3], uint8_t* pDst, int dstStep,
                                      ZorSize roiSize, uint8_t aval)
 {
-    return convert(bt601Rows().myYCbCr411ToBGR_8u_P3C4R, planar(pSrc, srcStep), interleaved(pDst, dstStep), roiSize,
-                   aval);
+    return convert(rows().myYCbCr411ToBGR_8u_P3C4R, planar(pSrc, srcStep), interleaved(pDst, dstStep), roiSize, aval);
 }
 
 ZorStatus zoriYCrCb420ToBGR_Filter_8u_P3C4R(const uint8_t* const pSrc[3], const int srcStep[3], uint8_t* pDst,
                                             int dstStep, ZorSize roiSize, uint8_t aval)
 {
-    return convert(evenPart, bt601Rows().myYCrCb420ToBGR_Filter_8u_P3C4R, planarCrCb(pSrc, srcStep),
+    return convert(evenSizes, rows().myYCrCb420ToBGR_Filter_8u_P3C4R, planarCrCb(pSrc, srcStep),
                    interleaved(pDst, dstStep), roiSize, aval);
 }

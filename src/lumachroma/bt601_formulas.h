@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 // The formulas between RGB and YCbCr by ITU-R BT.601, studio range (Y 16..235, Cb and Cr 16..240). The real
-// coefficients stand beside the integers, which are part of the contract where they are not the nearest ones.
+// coefficients stand beside the integers, which are those of the contract and not always the nearest ones.
 #pragma once
 
-#include "lumachroma/common/ycbcr.h"
+#include "lumachroma/common/rgb_to_ycc.h"
+#include "lumachroma/common/ycc_to_rgb.h"
 
 namespace zorcc::bt601 {
 
@@ -15,7 +16,7 @@ inline constexpr ToRgb toRgb = centred(76284, 104595, 25690, 53281, 132186, 16, 
 inline constexpr ToRgb planarToRgb = centred(76282, 104593, 25689, 53279, 132184, 16, 0);
 inline constexpr ToRgb toRgb411 = centred(76294, 104595, 25625, 53281, 132186, 16, 0);
 
-// Of packed 4:2:2, with constants 57, 14 and 13 below the exact centres.
+// For packed 4:2:2, with constants 57, 14 and 13 below the exact centres.
 inline constexpr ToRgb packedToRgb = {76284, 104595, 25690, 53281, 132186, -14608761, 8887730, -18140365};
 
 } // namespace zorcc::bt601

@@ -2,7 +2,8 @@
 // The formulas between RGB and YCbCr by ITU-R BT.709, studio range (709CSC) and full range (709HDTV).
 #pragma once
 
-#include "lumachroma/common/ycbcr.h"
+#include "lumachroma/common/rgb_to_ycc.h"
+#include "lumachroma/common/ycc_to_rgb.h"
 
 namespace zorcc::bt709 {
 

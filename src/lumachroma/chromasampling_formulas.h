@@ -32,7 +32,7 @@ struct FilterOddRow {
 
 // ---- averages of neighbours -----------------------------------------------------------------------------------------
 
-// Of samples and their right neighbours: each, and its average with the neighbour.
+// From samples and their right neighbours: each, and its average with the neighbour.
 template <class Rounding> struct DoubleColumns {
     [[gnu::always_inline]] Vectors<2> operator()(const Vectors<2>& s) const
     {

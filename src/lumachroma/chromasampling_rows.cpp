@@ -127,7 +127,7 @@ template <class Mixed> void eachRowOf420(const GroupBand& band, Mixed mixed)
 
 // 4:2:0 to 4:2:2: each row lies between two of its field, at eighths of their distance. Calls mixed(formula, 4:2:2 row,
 // upper, lower chroma row). Bands overlap by half a group: the first two rows and the last two are copies, and four
-// rows between them belong together.
+// rows between them make one group.
 template <class Mixed> void eachRowOf422(const GroupBand& band, int height, Mixed mixed)
 {
     using Copy = Mix<8, 0, 3>;

@@ -7,6 +7,8 @@
 
 using namespace zorcc;
 
+static constexpr auto& rows = videoLayoutsRows;
+
 namespace {
 
 // Bits of the slice argument.
@@ -38,20 +40,18 @@ ZorStatus deinterlace(DriverWith<FrameEdges>& driver, const Image& from, const I
 
 ZorStatus zoriYCbCr422ToCbYCr422_8u_C2R(const uint8_t* pSrc, int srcStep, uint8_t* pDst, int dstStep, ZorSize roiSize)
 {
-    return convert(pairs, videoLayoutsRows().myYUY2ToUYVY_8u_C2R, interleaved(pSrc, srcStep),
-                   interleaved(pDst, dstStep), roiSize);
+    return convert(pairs, rows().myYUY2ToUYVY_8u_C2R, interleaved(pSrc, srcStep), interleaved(pDst, dstStep), roiSize);
 }
 
 ZorStatus zoriCbYCr422ToYCbCr422_8u_C2R(const uint8_t* pSrc, int srcStep, uint8_t* pDst, int dstStep, ZorSize roiSize)
 {
-    return convert(pairs, videoLayoutsRows().myUYVYToYUY2_8u_C2R, interleaved(pSrc, srcStep),
-                   interleaved(pDst, dstStep), roiSize);
+    return convert(pairs, rows().myUYVYToYUY2_8u_C2R, interleaved(pSrc, srcStep), interleaved(pDst, dstStep), roiSize);
 }
 
 ZorStatus zoriCbYCr422ToYCbCr420_8u_C2P2R(const uint8_t* pSrc, int srcStep, uint8_t* pDstY, int dstYStep,
                                           uint8_t* pDstCbCr, int dstCbCrStep, ZorSize roiSize)
 {
-    return convert(squares, videoLayoutsRows().myUYVYToNV12_8u_C2P2R, interleaved(pSrc, srcStep),
+    return convert(squares, rows().myUYVYToNV12_8u_C2P2R, interleaved(pSrc, srcStep),
                    semiPlanar(pDstY, dstYStep, pDstCbCr, dstCbCrStep), roiSize);
 }
 
@@ -65,7 +65,7 @@ ZorStatus zoriCbYCr422ToYCrCb420_8u_C2P3R(const uint8_t* pSrc, int srcStep, uint
 ZorStatus zoriYCbCr422ToYCbCr420_8u_C2P2R(const uint8_t* pSrc, int srcStep, uint8_t* pDstY, int dstYStep,
                                           uint8_t* pDstCbCr, int dstCbCrStep, ZorSize roiSize)
 {
-    return convert(squares, videoLayoutsRows().myYUY2ToNV12_8u_C2P2R, interleaved(pSrc, srcStep),
+    return convert(squares, rows().myYUY2ToNV12_8u_C2P2R, interleaved(pSrc, srcStep),
                    semiPlanar(pDstY, dstYStep, pDstCbCr, dstCbCrStep), roiSize);
 }
 
@@ -79,15 +79,15 @@ ZorStatus zoriYCbCr422ToYCrCb420_8u_C2P3R(const uint8_t* pSrc, int srcStep, uint
 ZorStatus zoriYCbCr420ToCbYCr422_8u_P2C2R(const uint8_t* pSrcY, int srcYStep, const uint8_t* pSrcCbCr, int srcCbCrStep,
                                           uint8_t* pDst, int dstStep, ZorSize roiSize)
 {
-    return convert(squares, videoLayoutsRows().myNV12ToUYVY_8u_P2C2R,
-                   semiPlanar(pSrcY, srcYStep, pSrcCbCr, srcCbCrStep), interleaved(pDst, dstStep), roiSize);
+    return convert(squares, rows().myNV12ToUYVY_8u_P2C2R, semiPlanar(pSrcY, srcYStep, pSrcCbCr, srcCbCrStep),
+                   interleaved(pDst, dstStep), roiSize);
 }
 
 ZorStatus zoriYCbCr420ToYCbCr422_8u_P2C2R(const uint8_t* pSrcY, int srcYStep, const uint8_t* pSrcCbCr, int srcCbCrStep,
                                           uint8_t* pDst, int dstStep, ZorSize roiSize)
 {
-    return convert(squares, videoLayoutsRows().myNV12ToYUY2_8u_P2C2R,
-                   semiPlanar(pSrcY, srcYStep, pSrcCbCr, srcCbCrStep), interleaved(pDst, dstStep), roiSize);
+    return convert(squares, rows().myNV12ToYUY2_8u_P2C2R, semiPlanar(pSrcY, srcYStep, pSrcCbCr, srcCbCrStep),
+                   interleaved(pDst, dstStep), roiSize);
 }
 
 ZorStatus zoriYCbCr420ToYCrCb420_8u_P2P3R(const uint8_t* pSrcY, int srcYStep, const uint8_t* pSrcCbCr, int srcCbCrStep,
@@ -100,8 +100,8 @@ ZorStatus zoriYCbCr420ToYCrCb420_8u_P2P3R(const uint8_t* pSrcY, int srcYStep, co
 ZorStatus zoriYCrCb420ToCbYCr422_8u_P3C2R(const uint8_t* const pSrc[3], const int srcStep[3], uint8_t* pDst,
                                           int dstStep, ZorSize roiSize)
 {
-    return convert(squares, videoLayoutsRows().myYV12ToUYVY_8u_P3C2R, planarCrCb(pSrc, srcStep),
-                   interleaved(pDst, dstStep), roiSize);
+    return convert(squares, rows().myYV12ToUYVY_8u_P3C2R, planarCrCb(pSrc, srcStep), interleaved(pDst, dstStep),
+                   roiSize);
 }
 
 ZorStatus zoriYCrCb420ToYCbCr420_8u_P3P2R(const uint8_t* const pSrc[3], const int srcStep[3], uint8_t* pDstY,
@@ -114,22 +114,22 @@ ZorStatus zoriYCrCb420ToYCbCr420_8u_P3P2R(const uint8_t* const pSrc[3], const in
 ZorStatus zoriYCrCb420ToYCbCr422_8u_P3C2R(const uint8_t* const pSrc[3], const int srcStep[3], uint8_t* pDst,
                                           int dstStep, ZorSize roiSize)
 {
-    return convert(squares, videoLayoutsRows().myYV12ToYUY2_8u_P3C2R, planarCrCb(pSrc, srcStep),
-                   interleaved(pDst, dstStep), roiSize);
+    return convert(squares, rows().myYV12ToYUY2_8u_P3C2R, planarCrCb(pSrc, srcStep), interleaved(pDst, dstStep),
+                   roiSize);
 }
 
 ZorStatus zoriYCbCr420ToYCbCr422_Filter_8u_P2C2R(const uint8_t* pSrcY, int srcYStep, const uint8_t* pSrcCbCr,
                                                  int srcCbCrStep, uint8_t* pDst, int dstStep, ZorSize roiSize,
                                                  int slice)
 {
-    return deinterlace(videoLayoutsRows().myDeinterlaceToYUY2_8u_P2C2R,
-                       semiPlanar(pSrcY, srcYStep, pSrcCbCr, srcCbCrStep), interleaved(pDst, dstStep), roiSize, slice);
+    return deinterlace(rows().myDeinterlaceToYUY2_8u_P2C2R, semiPlanar(pSrcY, srcYStep, pSrcCbCr, srcCbCrStep),
+                       interleaved(pDst, dstStep), roiSize, slice);
 }
 
 ZorStatus zoriYCbCr420ToYCrCb420_Filter_8u_P2P3R(const uint8_t* pSrcY, int srcYStep, const uint8_t* pSrcCbCr,
                                                  int srcCbCrStep, uint8_t* const pDst[3], const int dstStep[3],
                                                  ZorSize roiSize, int slice)
 {
-    return deinterlace(videoLayoutsRows().myDeinterlaceToYV12_8u_P2P3R,
-                       semiPlanar(pSrcY, srcYStep, pSrcCbCr, srcCbCrStep), planarCrCb(pDst, dstStep), roiSize, slice);
+    return deinterlace(rows().myDeinterlaceToYV12_8u_P2P3R, semiPlanar(pSrcY, srcYStep, pSrcCbCr, srcCbCrStep),
+                       planarCrCb(pDst, dstStep), roiSize, slice);
 }

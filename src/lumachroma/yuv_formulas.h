@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The formulas between RGB and Y'UV of analogue television with the luma weights of ITU-R BT.601. All are exact: the
-// same bytes as the integer formulas in 32 bits. The real coefficients stand beside the integers, which are part of the
-// contract where they are not the nearest ones.
+// same bytes as the integer formulas in 32 bits. The real coefficients stand beside the integers, which are those
+// of the contract and not always the nearest ones.
 #pragma once
 
 #include "lumachroma/common/rgb_to_ycc.h"
@@ -76,7 +76,7 @@ private:
     ZORCC_INLINE u16v luma(u8v rg, u8v bg)
     {
         constexpr Weights w = yuv::planarLuma;
-        if constexpr (blockLuma) // a sample times 256, times its weight, / 65536; at most 65279 together
+        if constexpr (blockLuma) // a sample times 256, times its weight, / 65536; at most 65279 in all
             return mulHigh((u16v)rg << 8, (u16v)fill16(w.r)) + mulHigh((u16v)rg & 0xff00, (u16v)fill16(w.g)) +
                    mulHigh((u16v)bg << 8, (u16v)fill16(w.b));
         else

@@ -19,7 +19,7 @@ namespace {
 
 // ---- what layouts hand to formulas, and formulas to layouts ---------------------------------------------------------
 
-// The channels of the next pixels of one row, or of two rows that are converted together.
+// The channels of the next pixels of one row, or of two rows that are converted at a time.
 template <int channels, int rows = 1, Columns columns = Columns::inOrder, class Sample = uint8_t> struct Pixels {
     Vec<Sample> c[rows][channels];
 };
@@ -70,7 +70,7 @@ struct Unit {
     constexpr ptrdiff_t offset(int pixels) const { return static_cast<ptrdiff_t>(pixels >> log2Pixels) * bytes; }
 };
 
-// A row of a plane. Where `rows` rows of the plane are converted together, it is number `row` of them.
+// A row of a plane. Where `rows` rows of the plane are converted at a time, it is number `row` of them.
 struct Line {
     Unit unit;
     int plane = 0, row = 0, rows = 1;
@@ -112,7 +112,7 @@ public:
         Layout row;
         Layout::each([&](int l) {
             row.start[l] = first[l] + y * step[l];
-            // In a register: compilers would calculate several pointers in a vector and take it apart again.
+            // In a register: compilers would calculate several pointers in a vector and extract them again.
             asm("" : "+r"(row.start[l]));
         });
         return row;
@@ -394,7 +394,10 @@ void rows(const Image& from, const Image& to, ZorSize size, Arguments... argumen
     }
     const RowsOf<Source> source(from);
     const RowsOf<Destination> destination(to);
-    const auto row = [&](int y) { convertRow(source[y], formula, destination[y], width); };
+    const auto row = [&](int y) __attribute__((always_inline))
+    {
+        convertRow(source[y], formula, destination[y], width);
+    };
     if constexpr (threads == Threads::one)
         for (int y = 0; y < height; ++y) row(y);
     else if constexpr (threads == Threads::aboveThreshold)

@@ -50,7 +50,7 @@ template <int sign> ZORCC_INLINE s32v addWhereBothWithin(s32v count, f32v a, f32
 #endif
 }
 
-// v / divisor, rounded as a division does, for 60 and 360: v times the reciprocal in two parts, of which the second
+// v / divisor, rounded as a division does, for 60 and 360: v times the reciprocal in two terms, of which the second
 // makes up for what the first lacks, is the quotient for every significand. Quotients that are too small to have all
 // digits are rare.
 template <int divisor> ZORCC_INLINE f32v divideBy(f32v v)

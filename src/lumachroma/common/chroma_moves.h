@@ -4,8 +4,8 @@
 #pragma once
 
 #include "frame/fill_copy.h"
+#include "pixels/layouts.h"
 #include "pixels/sequences.h"
-#include "pixels/subsampled.h"
 
 namespace zorcc::ZORCC_TIER {
 namespace {
@@ -45,7 +45,7 @@ template <int bytes> using Chroma = Sequences<vectorBytes, Line{{bytes}, 1}>;
 template <int bytes> using EvenRows = Sequences<vectorBytes, Line{{bytes}, 1, 0, 2}>;
 template <int bytes> using RowPairs = Sequences<vectorBytes, Line{{bytes}, 1, 0, 2}, Line{{bytes}, 1, 1, 2}>;
 
-// Of planes 1 and 2; of pairs of rows both of plane 1 come first.
+// Planes 1 and 2; with pairs of rows, both of plane 1 come first.
 template <int bytes> using BothChroma = Sequences<vectorBytes, Line{{bytes}, 1}, Line{{bytes}, 2}>;
 using EvenRowsOfBoth = Sequences<vectorBytes, Line{{1}, 1, 0, 2}, Line{{1}, 2, 0, 2}>;
 using RowPairsOfBoth =
@@ -228,7 +228,7 @@ template <class Formula> constexpr Driver& repack = rows<Packed64Bytes, Formula,
 struct Up {
     static u8v average(u8v a, u8v b) { return averageUp(a, b); }
 
-    // Of a sample and its neighbours, weights 1, 2, 1.
+    // A sample and its neighbours with weights 1, 2, 1.
     static u8v lowPass(u8v previous, u8v sample, u8v next)
     {
         return averageUp(averageUp(previous, sample), averageUp(sample, next));

@@ -3,15 +3,41 @@
 // are in units of 1/65536.
 #pragma once
 
-#include "lumachroma/common/coefficients.h"
 #include "simd/vec.h"
+
+// How coefficients are written down. Units are 1/65536 unless stated.
+namespace zorcc {
+
+// Weights of R, G and B (or of any three channels) in a sum.
+struct Weights {
+    int r, g, b;
+};
+
+// From luma and two chroma channels, the first of which drives B and the second R. Each channel is its weighted sum
+// plus a constant, shifted down by 16, saturated to 0..255.
+struct ToRgb {
+    int y;      // of luma, for all channels
+    int r;      // R from the second chroma channel
+    int g1, g2; // G from the first and the second, both to be subtracted
+    int b;      // B from the first
+    int constantR, constantG, constantB;
+};
+
+// Chroma centred on 128, luma starting at `black`; `rounding` is 0 to round down, 32768 to nearest.
+constexpr ToRgb centred(int y, int r, int g1, int g2, int b, int black, int rounding)
+{
+    const int luma = rounding - black * y;
+    return {y, r, g1, g2, b, luma - 128 * r, luma + 128 * (g1 + g2), luma - 128 * b};
+}
+
+} // namespace zorcc
 
 namespace zorcc::ZORCC_TIER {
 namespace {
 
 // A coefficient k as 256 high + low with low in -128..127.
-constexpr int highPart(int k) { return (k + 128) >> 8; }
-constexpr int lowPart(int k) { return k - 256 * highPart(k); }
+constexpr int highOf(int k) { return (k + 128) >> 8; }
+constexpr int lowOf(int k) { return k - 256 * highOf(k); }
 
 // The extremes of a sum of products of bytes with coefficients.
 constexpr int maxOf(int a, int b, int c = 0) { return 255 * ((a > 0 ? a : 0) + (b > 0 ? b : 0) + (c > 0 ? c : 0)); }
@@ -36,13 +62,13 @@ template <int low, int high, int constant> ZORCC_INLINE u16v combine(u16v h, s16
 // floor((w.r R + w.g G + w.b B + constant) / 256) modulo 65536, from the zipped bytes (R, G) and (B, G).
 //
 // With every coefficient as 256 high + low the sum is 256 H + L, so that its floor is H + floor(L / 256): two sums of
-// byte products. H may need all of 16 unsigned bits; to keep its two parts within the signed ones of a byte
-// multiply-add, the high part of G is divided between both pairs.
+// byte products. H may need all of 16 unsigned bits; to keep its two terms within the signed ones of a byte
+// multiply-add, the high byte of G is divided between both pairs.
 template <Weights w, int constant = 0> ZORCC_INLINE u16v weigh(u8v rg, u8v bg)
 {
-    constexpr int r = highPart(w.r), b = highPart(w.b), g = highPart(w.g);
+    constexpr int r = highOf(w.r), b = highOf(w.b), g = highOf(w.g);
     constexpr int gWithR = g > 0 && r > 0 && g > 128 - r ? 128 - r : g, gWithB = g - gWithR;
-    constexpr int rLow = lowPart(w.r), gLow = lowPart(w.g), bLow = lowPart(w.b);
+    constexpr int rLow = lowOf(w.r), gLow = lowOf(w.g), bLow = lowOf(w.b);
     static_assert(fits8(r) && fits8(b) && fits8(gWithR) && fits8(gWithB));
     static_assert(sumFits16(r, gWithR) && sumFits16(b, gWithB) && sumFits16(rLow, gLow));
 
@@ -54,16 +80,16 @@ template <Weights w, int constant = 0> ZORCC_INLINE u16v weigh(u8v rg, u8v bg)
 // floor((first a + second b + constant) / 256) modulo 65536, from the zipped bytes (a, b).
 template <int first, int second, int constant> ZORCC_INLINE s16v weighPair(u8v ab)
 {
-    constexpr int a = highPart(first), b = highPart(second), aLow = lowPart(first), bLow = lowPart(second);
+    constexpr int a = highOf(first), b = highOf(second), aLow = lowOf(first), bLow = lowOf(second);
     static_assert(fits8(a) && fits8(b) && sumFits16(a, b) && sumFits16(aLow, bLow));
 
     const u16v high = (u16v)mulAddPairs(ab, fillPair8(a, b));
     return (s16v)combine<minOf(aLow, bLow), maxOf(aLow, bLow), constant>(high, mulAddPairs(ab, fillPair8(aLow, bLow)));
 }
 
-// A coefficient of 17 bits as 65536 whole + part with a signed 16-bit part.
-constexpr int wholePart(int k) { return (k + 32768) >> 16; }
-constexpr int signedPart(int k) { return k - 65536 * wholePart(k); }
+// A coefficient of 17 bits as 65536 whole + rest with a signed 16-bit rest.
+constexpr int wholeOf(int k) { return (k + 32768) >> 16; }
+constexpr int restOf(int k) { return k - 65536 * wholeOf(k); }
 
 // whole v for the few wholes that occur.
 template <int whole> ZORCC_INLINE s16v times(s16v v)
@@ -73,10 +99,10 @@ template <int whole> ZORCC_INLINE s16v times(s16v v)
 }
 
 // floor(k v / 65536)
-template <int k> ZORCC_INLINE s16v scale(s16v v) { return mulHigh(v, fill16(signedPart(k))) + times<wholePart(k)>(v); }
+template <int k> ZORCC_INLINE s16v scale(s16v v) { return mulHigh(v, fill16(restOf(k))) + times<wholeOf(k)>(v); }
 
 // k v - 65536 floor(k v / 65536): what scale leaves.
-template <int k> ZORCC_INLINE u16v scaleRest(s16v v) { return (u16v)v * (u16v)fill16(signedPart(k)); }
+template <int k> ZORCC_INLINE u16v scaleRest(s16v v) { return (u16v)v * (u16v)fill16(restOf(k)); }
 
 // Rounded to nearest, a half upwards.
 template <int k> ZORCC_INLINE s16v scaleRounded(s16v v) { return scale<k>(v) + (s16v)(scaleRest<k>(v) >> 15); }

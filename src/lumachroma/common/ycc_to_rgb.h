@@ -5,7 +5,7 @@
 
 #include "lumachroma/common/weighted_sums.h"
 #include "pixels/alpha.h"
-#include "pixels/subsampled.h"
+#include "pixels/layouts.h"
 
 namespace zorcc::ZORCC_TIER {
 namespace {
@@ -66,7 +66,7 @@ public:
     }
 
 private:
-    static constexpr int yWhole = wholePart(k.y), yPart = signedPart(k.y);
+    static constexpr int yWhole = wholeOf(k.y), yRest = restOf(k.y);
     static_assert(yWhole == 1);
 
     // From zipped bytes.
@@ -86,17 +86,17 @@ private:
     // keeps the rest small.
     template <int weight, int constant> ZORCC_INLINE s16v fromOneChroma(u8v yc, s16v c)
     {
-        constexpr int whole = wholePart(weight), part = signedPart(weight);
-        return times<whole>(c - 128) + (weighPair<yPart, part, constant + 128 * 65536 * whole>(yc) >> 8);
+        constexpr int whole = wholeOf(weight), rest = restOf(weight);
+        return times<whole>(c - 128) + (weighPair<yRest, rest, constant + 128 * 65536 * whole>(yc) >> 8);
     }
 
     // G likewise.
     ZORCC_INLINE s16v fromBothChroma(u8v yv, u8v uv, s16v v)
     {
-        constexpr int whole = wholePart(-k.g2), part = signedPart(-k.g2), constant = k.constantG + 128 * 65536 * whole;
-        static_assert(wholePart(-k.g1) == 0);
+        constexpr int whole = wholeOf(-k.g2), rest = restOf(-k.g2), constant = k.constantG + 128 * 65536 * whole;
+        static_assert(wholeOf(-k.g1) == 0);
         // Luma, second and first chroma channel in the places of R, G and B.
-        constexpr Weights w = {yPart, part, -k.g1};
+        constexpr Weights w = {yRest, rest, -k.g1};
         return times<whole>(v - 128) + ((s16v)weigh<w, constant>(yv, uv) >> 8);
     }
 };
@@ -161,14 +161,14 @@ private:
     template <int first, int second, int constant> ZORCC_INLINE Chroma chromaHalves(u8v uv)
     {
         const s16v u = firstOfPairs(uv), v = secondOfPairs(uv);
-        const s16v parts = fillPair16(signedPart(first), signedPart(second));
-        const s32v lo = mulAddPairs(fill32(constant), (s16v)zipLow(uv, u8v{}), parts);
-        const s32v hi = mulAddPairs(fill32(constant), (s16v)zipHigh(uv, u8v{}), parts);
+        const s16v rests = fillPair16(restOf(first), restOf(second));
+        const s32v lo = mulAddPairs(fill32(constant), (s16v)zipLow(uv, u8v{}), rests);
+        const s32v hi = mulAddPairs(fill32(constant), (s16v)zipHigh(uv, u8v{}), rests);
         const u16v carryLimit = (u16v)fill16(-1 - constant) - scaleRest<first>(u) - scaleRest<second>(v);
-        return {packSigned(lo >> 16, hi >> 16) + times<wholePart(first)>(u) + times<wholePart(second)>(v), carryLimit};
+        return {packSigned(lo >> 16, hi >> 16) + times<wholeOf(first)>(u) + times<wholeOf(second)>(v), carryLimit};
     }
 
-    // The whole part of the sum.
+    // The sum without its fraction.
     ZORCC_INLINE s16v whole(const Luma& y, const Chroma& c)
     {
         return addOneWhere(y.high + c.high, y.low, c.carryLimit);

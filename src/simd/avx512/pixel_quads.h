@@ -46,7 +46,7 @@ ZORCC_INLINE ChannelPairs operator+(const ChannelPairs& a, const ChannelPairs& b
 
 constexpr int laneOfColumn(int column, int group) { return (column + group) % 2 * 8 + column / 2; }
 
-// [group % 2]: positions of the channels 0, 1, 2, 1 of the pixels of 16 columns, `bytes` bytes apart.
+// [group % 2]: positions of the channels 0, 1, 2, 1 of the pixels of 16 columns, `bytes` bytes from one to the next.
 struct QuadTable {
     alignas(64) uint8_t sort[2][64];
 
@@ -61,8 +61,8 @@ struct QuadTable {
 };
 constexpr QuadTable threes(3, 0), lastThrees(3, 16), fours(4, 0);
 
-// Of 64 interleaved pixels of 3 or 4 channels, the first and the third in the order of memory. The last 16 pixels of
-// three channels are taken from the last 64 bytes, so that no load passes the end.
+// 64 interleaved pixels of 3 or 4 channels; the first and the third channel keep the order of memory. The last 16
+// pixels of three channels are taken from the last 64 bytes, so that no load passes the end.
 template <int channels> ZORCC_INLINE PixelQuads<1> loadQuads(const uint8_t* p)
 {
     PixelQuads<1> quads;

@@ -46,8 +46,8 @@ ZORCC_INLINE u8v hueOf(const Hexcone<uint8_t>& cone, const FallsShort& fallsShor
     const u8v v = select(even, cone.middle - cone.smallest, cone.largest - cone.middle);
     const Divisors by(cone.chroma);
     const u8v scaled = by.scaled(v), none = {};
-    // Of 256 v, so that the result has eight bits after the point. They are zero where v / chroma is a multiple of
-    // 1/85: the error is below one in 256 and other quotients are further than that from the integer below.
+    // The quotient of 256 v, so that the result has eight bits after the point. They are zero where v / chroma is a
+    // multiple of 1/85: the error is below one in 256 and other quotients are further than that from the integer below.
     u16v share[2] = {(u16v)zipLow(none, scaled), (u16v)zipHigh(none, scaled)};
     by.multiply(share, in85ths);
     const u8v whole = packUnsigned((s16v)(share[0] >> 8), (s16v)(share[1] >> 8)),
