@@ -12,7 +12,7 @@ namespace zorcc::tool {
 
 namespace {
 
-// What a file is to hold if the user does not say: what it can hold, without a conversion where possible.
+// The format of a file where the user gives none: one that it can hold, without a conversion where possible.
 const Format& usualFormat(const std::string& out, const Format& from)
 {
     switch (fileKindToWrite(out)) {
@@ -29,7 +29,7 @@ const Format& usualFormat(const std::string& out, const Format& from)
     }
 }
 
-// The matrix that the format tells.
+// The matrix that the format implies.
 Matrix ownMatrix(const Format& format)
 {
     if (isRgb(format) || format.model == interface::Model::anyYcc) return {};
@@ -40,7 +40,7 @@ Matrix ownMatrix(const Format& format)
 
 void convert(const ConvertOptions& options)
 {
-    fileKindToWrite(options.out); // a bad name is told before any work
+    fileKindToWrite(options.out); // reports a bad name before any work
     const Format* const asked = options.to.empty() ? nullptr : &formatNamed(options.to);
     const auto reader = openInput(options.in, nullptr, OddSizes::roundUp);
     const auto writer = openWriter(options.out, reader->tags());

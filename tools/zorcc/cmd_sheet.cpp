@@ -18,7 +18,7 @@ void sheet(const std::string& out, const std::vector<std::string>& in)
     std::vector<Picture> pictures;
     std::int64_t width = 0;
     int height = 0;
-    for (const std::string& path : in) { // of a file of many pictures the first
+    for (const std::string& path : in) { // the first picture of each file
         Picture picture = *openReader(path)->next();
         pictures.push_back(naming(path, [&] {
             Stats stats;
@@ -31,7 +31,7 @@ void sheet(const std::string& out, const std::vector<std::string>& in)
 
     const auto writer = openWriter(out);
     writer->write(naming(out, [&] {
-        if (width > INT_MAX) throw Cause("the pictures are too wide together");
+        if (width > INT_MAX) throw Cause("the pictures side by side are too wide");
         Picture all(rgb, {static_cast<int>(width), height});
         std::fill_n(all.row(0, 0), all.visibleRowBytes(0) * height, ground);
         std::size_t x = 0;

@@ -112,7 +112,7 @@ Conversion findConversion(const Format& from, const Format& to, std::optional<in
         const auto before = rearrangementCost(from, *function.source);
         const auto after = rearrangementCost(*function.destination, to);
         if (!before || !after || !isOf(function, matrix)) continue;
-        // Of ways that cost the same the one that computes with more bits.
+        // Among ways of equal cost the one that computes with more bits is preferred.
         const int cost =
             16 * (*before + *after) + 8 * !function.signature.steps - interface::sampleBytes(function.source->sample);
         if (cost < lowest) lowest = cost, found = &function;

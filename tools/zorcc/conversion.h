@@ -21,7 +21,7 @@ struct Stats {
     std::string line(const std::string& what, ZorSize size, int repeat) const;
 };
 
-// Runs a function on a picture of its source format; the result has the same size and shows the same part. Samples that
+// Runs a function on a picture of its source format; the result has the same size, whole and visible. Samples that
 // the function leaves alone are 0, alpha 255. Of `repeat` runs the fastest counts. Throws Cause for an error; a warning
 // comes back in `status`.
 inline constexpr interface::Extra opaque {

@@ -31,7 +31,7 @@ const Format& pictureFormat(bool grey, bool alpha, Sample sample);
 // A luma-chroma format's twin by another matrix; throws Cause if there is none.
 const Format& withModel(const Format& format, interface::Model model);
 
-// What a plain name such as yuv420p means by the given matrix; formats whose names tell their matrix stay as they are.
+// What a plain name such as yuv420p means by the given matrix; formats whose names give their matrix stay as they are.
 inline const Format& byMatrix(const Format& format, interface::Model matrix)
 {
     return format.model == interface::Model::yuv ? withModel(format, matrix) : format;
@@ -45,7 +45,7 @@ bool isSameModel(interface::Model a, interface::Model b);
 const Format& planarYuv(const Format& format);
 
 // What it costs to rearrange pictures of one format into another: 0 for the same, more the more is moved, added or
-// lost; nothing where plain rearrangement does not lead. It may change the order and layout of channels, repeat grey,
+// lost; no value where rearrangement is not enough. It may change the order and layout of channels, repeat grey,
 // add opaque alpha or drop alpha, scale between 8 bits, 16 bits (signed ones from -32768) and 0..1 floats, and cut
 // channels down to packed bits.
 std::optional<int> rearrangementCost(const Format& from, const Format& to);

@@ -66,7 +66,8 @@ void addTiming(CLI::App* command, Timing& timing)
     command->add_option("--repeat", timing.repeat, "run the library N times on each picture and take the best time")
         ->type_name("N")
         ->check(CLI::PositiveNumber);
-    command->add_flag("-v,--verbose,--stats", timing.stats, "tell the function, and megapixels/s of the library alone");
+    command->add_flag("-v,--verbose,--stats", timing.stats,
+                      "print the function, and megapixels/s of the library alone");
 }
 
 struct Options {
@@ -83,7 +84,7 @@ struct Options {
 void addCommands(CLI::App& app, Options& o)
 {
     CLI::App* command = app.add_subcommand("list", "List functions: name, source format, destination format, family");
-    command->add_option("PATTERN", o.pattern, "part of a function or family name, or a pattern with * ? []");
+    command->add_option("PATTERN", o.pattern, "text in a function or family name, or a pattern with * ? []");
     command->footer("Examples:\n  zorcc list\n  zorcc list YUV420\n  zorcc list 'zori*_P3R'");
     command->callback([&o] { list(o.pattern); });
 
@@ -112,7 +113,7 @@ void addCommands(CLI::App& app, Options& o)
         ->type_name("NAME");
     command
         ->add_option("--matrix", o.convert.in.matrix,
-                     "matrix of .y4m files, and of formats whose names tell none: yuv, bt601, bt709, bt709full")
+                     "matrix of .y4m files, and of formats whose names give none: yuv, bt601, bt709, bt709full")
         ->type_name("NAME")
         ->transform(CLI::Transformer(namedMatrices()));
     command->add_flag("--deinterlace", o.convert.deinterlace,
@@ -157,7 +158,7 @@ void addCommands(CLI::App& app, Options& o)
                                                                            {"fs", zorDitherMethodFloydSteinberg},
                                                                            {"jjn", zorDitherMethodJarvisJudiceNinke},
                                                                            {"stucki", zorDitherMethodStucki}}));
-    command->add_option("--noise", o.reduce.noise, "random part of dithering, in percent of a level")
+    command->add_option("--noise", o.reduce.noise, "random noise in dithering, in percent of a level")
         ->type_name("P")
         ->check(CLI::Range(0, 100))
         ->capture_default_str();
@@ -228,10 +229,10 @@ int main(int argc, char** argv)
         ->type_name("N")
         ->check(CLI::PositiveNumber)
         ->trigger_on_parse();
-    app.require_subcommand(0, 1); // none is told apart from a wrong one below
+    app.require_subcommand(0, 1); // a missing one is reported below
     app.fallthrough();
     app.footer(
-        "zorcc COMMAND --help tells more.\n"
+        "zorcc COMMAND --help says more.\n"
         "Example:\n  zorcc chart chart.png && zorcc convert chart.png chart.y4m && zorcc convert chart.y4m back.png\n"
         "  zorcc compare chart.png back.png");
     addCommands(app, options);

@@ -7,7 +7,7 @@
 
 namespace zorcc::tool {
 
-// A line on a terminal's stderr that tells how far a file of many pictures is; it goes away at the end.
+// A line on a terminal's stderr that shows how much of a file of many pictures is done; it is erased at the end.
 class Progress {
 public:
     explicit Progress(const Reader& reader);

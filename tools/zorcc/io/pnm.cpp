@@ -12,7 +12,7 @@ namespace zorcc::tool {
 
 namespace {
 
-// The next word of a header or of text samples; takes the one blank behind it, too, where binary samples may follow.
+// The next word of a header or of text samples; takes the one blank after it, too, since binary samples may follow.
 std::string word(InputFile& file)
 {
     constexpr std::size_t longest = 64;
