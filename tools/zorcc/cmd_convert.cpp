@@ -44,35 +44,24 @@ void convert(const ConvertOptions& options)
     const Format* const asked = options.to.empty() ? nullptr : &formatNamed(options.to);
     const auto reader = openInput(options.in, nullptr, OddSizes::roundUp);
     const auto writer = openWriter(options.out, reader->tags());
-    Progress progress(*reader);
-    Stats stats, deinterlacingStats;
-    ZorSize size{};
+    Stats stats{options.timing.repeat}, deinterlacingStats{options.timing.repeat};
     std::optional<Conversion> conversion, deinterlacing;
     const Format* from = nullptr;
-    while (auto picture = reader->next()) {
-        size = picture->visible();
-        writer->write(naming(reader->path(), [&] {
-            if (!conversion || from != &picture->format()) {
-                from = &picture->format();
-                const Format& to = asked ? *asked : usualFormat(options.out, *from);
-                if (options.deinterlace) deinterlacing = findDeinterlacing(*from, to);
-                const Matrix own = options.in.matrix ? options.in.matrix : ownMatrix(*from);
-                conversion = findConversion(deinterlacing ? *deinterlacing->target : *from,
-                                            byMatrix(to, own.value_or(interface::Model::yuv)), own);
-            }
-            if (deinterlacing)
-                picture = (*deinterlacing)(std::move(*picture), options.timing.repeat, deinterlacingStats);
-            return (*conversion)(std::move(*picture), options.timing.repeat, stats);
-        }));
-        progress.update();
-    }
-    writer->commit();
-    if (options.timing.stats && deinterlacing)
-        std::cout << deinterlacingStats.line(std::string(deinterlacing->function->name), size, options.timing.repeat);
-    if (options.timing.stats)
-        std::cout << (conversion->function
-                          ? stats.line(std::string(conversion->function->name), size, options.timing.repeat)
-                          : "rearranged without a function of the library\n");
+    writeAll(*reader, *writer, [&](Picture picture) {
+        if (!conversion || from != &picture.format()) {
+            from = &picture.format();
+            const Format& to = asked ? *asked : usualFormat(options.out, *from);
+            if (options.deinterlace) deinterlacing = findDeinterlacing(*from, to);
+            const Matrix own = options.in.matrix ? options.in.matrix : ownMatrix(*from);
+            conversion = findConversion(deinterlacing ? *deinterlacing->target : *from,
+                                        byMatrix(to, own.value_or(interface::Model::yuv)), own);
+        }
+        if (deinterlacing) picture = (*deinterlacing)(std::move(picture), deinterlacingStats);
+        return (*conversion)(std::move(picture), stats);
+    });
+    if (!options.timing.stats) return;
+    if (deinterlacing) std::cout << deinterlacingStats.line();
+    std::cout << (stats.function ? stats.line() : "rearranged without a function of the library\n");
 }
 
 } // namespace zorcc::tool

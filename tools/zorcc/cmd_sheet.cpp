@@ -23,7 +23,7 @@ void sheet(const std::string& out, const std::vector<std::string>& in)
         pictures.push_back(naming(path, [&] {
             Stats stats;
             const ZorSize visible = picture.visible();
-            return rearranged(findConversion(picture.format(), rgb)(std::move(picture), 1, stats), rgb, visible);
+            return rearranged(findConversion(picture.format(), rgb)(std::move(picture), stats), rgb, visible);
         }));
         width += pictures.back().size().width + (pictures.size() > 1 ? gap : 0);
         height = std::max(height, pictures.back().size().height);

@@ -54,6 +54,9 @@ std::optional<int> rearrangementCost(const Format& from, const Format& to);
 // last visible column and row. Comes back untouched where nothing is to be done.
 Picture rearranged(Picture picture, const Format& to, ZorSize size);
 
+// Alpha of the visible pixels, from one picture to another; both have it.
+void copyAlpha(const Picture& from, const Picture& to);
+
 // Sets alpha, where there is any, to opaque.
 void setOpaque(const Picture& picture);
 

@@ -3,6 +3,7 @@
 
 #include <chrono>
 
+#include "error.h"
 #include "io/reader.h"
 
 namespace zorcc::tool {
@@ -22,5 +23,16 @@ private:
     bool terminal, shown = false;
     std::chrono::steady_clock::time_point last;
 };
+
+// Writes what `make` makes of each picture of a file.
+template <class Output, class Make> void writeAll(Reader& reader, Output& output, Make make)
+{
+    Progress progress(reader);
+    while (auto picture = reader.next()) {
+        output.write(naming(reader.path(), [&] { return make(std::move(*picture)); }));
+        progress.update();
+    }
+    output.commit();
+}
 
 } // namespace zorcc::tool

@@ -31,15 +31,10 @@ const Format& formatOfTag(const std::string& tag)
 // The range that a matrix implies.
 std::optional<std::string> rangeOf(const Format& format)
 {
-    switch (format.model) {
-    case interface::Model::bt601:
-    case interface::Model::bt709:
-        return "LIMITED";
-    case interface::Model::bt709full:
-        return "FULL";
-    default:
-        return {};
-    }
+    using interface::Model;
+    if (format.model == Model::bt709full) return "FULL";
+    if (format.model == Model::bt601 || format.model == Model::bt709) return "LIMITED";
+    return {};
 }
 
 int side(const std::string& digits)
