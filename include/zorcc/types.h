@@ -11,7 +11,7 @@ typedef int32_t ZorStatus;
 enum {
     zorStatusOk = 0,
     zorStatusNothingDone = 1,       /* warning: there was nothing to do; the destination is as it was */
-    zorStatusOddSize = 35,          /* warning: a size was odd in a subsampled format; the even part was converted */
+    zorStatusOddSize = 35,          /* warning: columns or rows after the last whole block were left out */
     zorStatusBadArgument = -5,      /* an enumerated argument or a count is outside its set */
     zorStatusBadSize = -6,          /* width or height is below the function's minimum (1 unless stated) */
     zorStatusNullPointer = -8,      /* a pointer, an array of plane pointers or a plane pointer is null */

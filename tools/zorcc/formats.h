@@ -50,7 +50,7 @@ const Format& planarYuv(const Format& format);
 // channels down to packed bits.
 std::optional<int> rearrangementCost(const Format& from, const Format& to);
 
-// The picture in another format and size, which rearrangementCost must allow: pixels beyond the visible part repeat the
+// The picture in another format and size, which rearrangementCost must allow: pixels beyond the visible ones repeat the
 // last visible column and row. Comes back untouched where nothing is to be done.
 Picture rearranged(Picture picture, const Format& to, ZorSize size);
 
