@@ -51,7 +51,7 @@ inline std::size_t imageBytes(const interface::Format& format, ZorSize size)
     return bytes;
 }
 
-// Bytes that one call of the function reads and writes together.
+// Sum of the bytes that one call of the function reads and those that it writes.
 inline std::size_t trafficBytes(const interface::Function& function, ZorSize size)
 {
     return imageBytes(*function.source, size) + imageBytes(*function.destination, size);

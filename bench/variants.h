@@ -28,7 +28,7 @@ inline std::span<const Variant> variantsOf(const interface::Function& function)
     return function.family == "Bit-depth reduction" ? std::span<const Variant>(reductions) : usual;
 }
 
-// What is measured, as its name stands in the tables: "zoriReduceBits_8u_C1R fs".
+// What is measured, as the tables name it: "zoriReduceBits_8u_C1R fs".
 inline std::string nameOf(const interface::Function& function, const Variant& variant)
 {
     const std::string name(function.name);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Speed of every conversion of the library, with a memcpy of the same traffic beside each.
+// Speed of every conversion of the library, each with a memcpy of the same traffic.
 #include <cstring>
 #include <string>
 #include <vector>
@@ -88,8 +88,7 @@ int main(int argc, char** argv)
     benchmark::AddCustomContext("tier", tier);
     benchmark::AddCustomContext("threads", std::to_string(threads));
     benchmark::AddCustomContext("bytes_per_second", "bytes read plus bytes written");
-    benchmark::AddCustomContext("memcpy",
-                                "of half the bytes that the conversion reads and writes: the same traffic, 1 thread");
+    benchmark::AddCustomContext("memcpy", "reads and writes as many bytes as the conversion, on 1 thread");
 
     std::vector<std::string> others = app.remaining();
     std::vector<char*> arguments{argv[0]};

@@ -6,7 +6,7 @@ set_target_properties(zorccn8 PROPERTIES EXPORT_NAME zorcc)
 add_library(zorcc::zorcc ALIAS zorccn8)
 add_library(zorcc::zorcore ALIAS zorcore)
 
-install(FILES include/zorcc.h include/zorcore.h include/zortypes.h TYPE INCLUDE)
+install(DIRECTORY include/ TYPE INCLUDE)
 install(TARGETS zorccn8 zorcore EXPORT zorcc LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
 install(EXPORT zorcc NAMESPACE zorcc:: FILE zorccTargets.cmake DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/zorcc)
 

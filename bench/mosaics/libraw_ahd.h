@@ -8,7 +8,7 @@
 
 #include <libraw/libraw.h>
 
-#include "zortypes.h"
+#include "zorcc/types.h"
 
 namespace zorcc::bench {
 

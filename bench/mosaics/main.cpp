@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How near demosaicing comes to pictures of which only a Bayer mosaic was kept.
+// How close demosaicing comes to the pictures that Bayer mosaics were made from.
 #include <cmath>
 #include <cstdio>
 #include <cstring>
@@ -34,7 +34,7 @@ Picture readPng(const std::string& path)
     png_image png = {};
     png.version = PNG_IMAGE_VERSION;
     if (!png_image_begin_read_from_file(&png, path.c_str())) throw std::runtime_error(path + ": " + png.message);
-    png.format = PNG_FORMAT_RGBA; // so that alpha is kept apart instead of being blended with a background
+    png.format = PNG_FORMAT_RGBA; // so that colours are not blended with a background
     std::vector<std::uint8_t> rgba(PNG_IMAGE_SIZE(png));
     if (!png_image_finish_read(&png, nullptr, rgba.data(), 0, nullptr))
         throw std::runtime_error(path + ": " + png.message);

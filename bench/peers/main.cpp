@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Our conversions on every tier of this machine beside what other libraries offer for the same pixel formats.
+// Our conversions on every tier of this machine compared with what other libraries offer for the same pixel formats.
 #include <cstdio>
 #include <cstring>
 #include <regex>
@@ -109,7 +109,7 @@ bool compareAll(const std::string& filter, double seconds, bool check)
             for (const Library& library : all)
                 for (const Peer& peer : library.peers)
                     if (peer.function == name) peers.push_back(&peer);
-            // A target may bear on a function without peers all the same, but not on a variant.
+            // There are targets for functions without peers, but not for variants of them.
             if (peers.empty() && !(check && variant.name.empty())) continue;
             for (ZorSize size : {cachedSize, frameSize}) {
                 results.push_back(compare(function, variant, size, peers, seconds));
@@ -124,7 +124,7 @@ bool compareAll(const std::string& filter, double seconds, bool check)
 
 int main(int argc, char** argv)
 {
-    CLI::App app("Conversions of zorcc beside those of other libraries, all on one thread.");
+    CLI::App app("Conversions of zorcc and of other libraries, all on one thread.");
     std::string filter;
     double seconds = 0.5;
     bool check = false;
@@ -132,7 +132,7 @@ int main(int argc, char** argv)
     app.add_option("--seconds", seconds, "Time for one function at one size")
         ->check(CLI::PositiveNumber)
         ->capture_default_str();
-    app.add_flag("--check", check, "Hold the figures against the project's targets; exit 1 if one is missed");
+    app.add_flag("--check", check, "Compare the figures with the project's targets; exit 1 if one is missed");
     CLI11_PARSE(app, argc, argv);
 
     zorSetNumThreads(1);

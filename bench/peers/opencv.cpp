@@ -37,7 +37,7 @@ const Row rows[] = {
     {"zoriCFAToRGB_16u_C1C3R", "BayerRGGB2RGB_EA", cv::COLOR_BayerRGGB2RGB_EA},
 };
 
-// A matrix over our memory. It takes planar 4:2:0 as one matrix half as high again, the planes behind one another.
+// A matrix over our memory. It takes planar 4:2:0 as one matrix half as high again, the planes one after another.
 cv::Mat matrix(const Format& format, const Image& image, ZorSize size)
 {
     if (format.layout == Layout::planar)

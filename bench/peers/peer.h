@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What the comparison knows of another library. A new operation is a row in its file, a new library one more file.
+// What the comparison needs of another library. A new operation is a row in its file, a new library one more file.
 #pragma once
 
 #include <functional>
@@ -27,7 +27,7 @@ using Work = std::function<void()>;
 struct Peer {
     std::string_view function;               // ours, with its variant (bench/variants.h)
     std::string name;                        // "library operation"
-    std::function<Work(const Job&)> prepare; // allocations and set-up, which no clock sees
+    std::function<Work(const Job&)> prepare; // allocations and set-up, which are not timed
     void (*select)() = nullptr;              // puts the library into the state wanted, before each batch of calls
     bool ssse3Only = false;                  // measured against our lowest tier
 };
@@ -43,7 +43,7 @@ Library openCV();
 Library zimg();
 Library libRaw();
 
-// Our own functions, to be held against each other.
+// Our own functions, to be compared with each other.
 Library ourselves();
 
 } // namespace zorcc::bench

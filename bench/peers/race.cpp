@@ -10,7 +10,7 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-constexpr double batchSeconds = 2e-4; // long beside a reading of the clock, short beside a time slice
+constexpr double batchSeconds = 2e-4; // long compared with reading the clock, short compared with a time slice
 constexpr int fewestCalls = 3;        // in a batch, however long they take
 constexpr int fewestBatches = 5;
 

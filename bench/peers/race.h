@@ -16,7 +16,7 @@ struct Runner {
     double seconds = std::numeric_limits<double>::infinity(); // of one call
 };
 
-// The runners take turns in short batches, so that a change of the clock rate or a busy neighbour meets all of them;
+// The runners take turns in short batches, so that a change of the clock rate or other load affects all of them;
 // each keeps the mean of its fastest batch. All get the same share of the time: a slow one has fewer turns.
 void race(std::vector<Runner>& runners, double seconds);
 

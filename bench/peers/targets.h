@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What the comparison measures, and the speeds that the library is held to.
+// What the comparison measures, and the speeds that the library must reach.
 #pragma once
 
 #include <map>
@@ -26,7 +26,7 @@ struct Result {
     std::vector<PeerSpeed> peers; // and a memcpy of the same traffic
 };
 
-// Prints every target that these results bear on, and whether it is met; true if all are.
+// Prints every target for these results, and whether it is met; true if all are.
 bool checkTargets(const std::vector<Result>& results);
 
 } // namespace zorcc::bench

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Exported RGB and HLS conversions of interleaved images.
+#include "zorcc/hls.h"
 #include "colormodels/hls_rows.h"
-#include "zorcc.h"
 
 using namespace zorcc;
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Exported BGR and HLS conversions from or to planes.
+#include "zorcc/hlspl.h"
 #include "colormodels/hlspl_rows.h"
-#include "zorcc.h"
 
 using namespace zorcc;
 

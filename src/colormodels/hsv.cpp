@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Exported RGB and HSV conversions of interleaved images.
+#include "zorcc/hsv.h"
 #include "colormodels/hsv_rows.h"
-#include "zorcc.h"
 
 using namespace zorcc;
 

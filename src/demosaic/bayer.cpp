@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Exported gradient-directed Bayer interpolation.
+#include "zorcc/bayer.h"
 #include "demosaic/bayer_rows.h"
-#include "zorcc.h"
 
 using namespace zorcc;
 

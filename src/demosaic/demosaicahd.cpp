@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Exported adaptive homogeneity-directed demosaicing.
+#include "zorcc/demosaicahd.h"
 #include "demosaic/demosaicahd_rows.h"
-#include "zorcc.h"
 
 using namespace zorcc;
 

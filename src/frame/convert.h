@@ -7,7 +7,7 @@
 
 #include <type_traits>
 
-#include "zortypes.h"
+#include "zorcc/types.h"
 
 namespace zorcc {
 

@@ -5,7 +5,7 @@
 #include <stddef.h>
 #include <stdint.h>
 
-#include "zortypes.h"
+#include "zorcc/types.h"
 
 namespace zorcc {
 

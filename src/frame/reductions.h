@@ -3,7 +3,7 @@
 // depend on the samples alone, not on steps or alignment.
 #pragma once
 
-#include "zortypes.h"
+#include "zorcc/types.h"
 
 namespace zorcc {
 

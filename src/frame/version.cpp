@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "zorcc.h"
+#include "zorcc/version.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Exported RGB and YCbCr (ITU-R BT.601) conversions.
+#include "zorcc/bt601.h"
 #include "lumachroma/bt601_rows.h"
-#include "zorcc.h"
 
 using namespace zorcc;
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Exported BGR and YCbCr (ITU-R BT.709) conversions.
+#include "zorcc/bt709.h"
 #include "lumachroma/bt709_rows.h"
-#include "zorcc.h"
 
 using namespace zorcc;
 

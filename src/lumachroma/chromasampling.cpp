@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Exported changes of chroma sampling and plane order.
+#include "zorcc/chromasampling.h"
 #include "lumachroma/chromasampling_rows.h"
 #include "lumachroma/common/blocks.h"
-#include "zorcc.h"
 
 using namespace zorcc;
 

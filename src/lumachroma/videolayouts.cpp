@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 // Exported conversions between the layouts of video, and deinterlacing of semi-planar 4:2:0, slice by slice.
+#include "zorcc/videolayouts.h"
 #include "lumachroma/chromasampling_rows.h"
 #include "lumachroma/common/blocks.h"
 #include "lumachroma/videolayouts_rows.h"
-#include "zorcc.h"
 
 using namespace zorcc;
 

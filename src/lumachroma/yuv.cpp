@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Exported RGB and YUV conversions.
+#include "zorcc/yuv.h"
 #include "lumachroma/yuv_rows.h"
-#include "zorcc.h"
 
 using namespace zorcc;
 

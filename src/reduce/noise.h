@@ -4,7 +4,7 @@
 
 #include <stdint.h>
 
-#include "zortypes.h"
+#include "zorcc/types.h"
 
 namespace zorcc {
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Exported bit-depth reductions.
+#include "zorcc/reduce.h"
 #include "reduce/methods.h"
-#include "zorcc.h"
 
 using namespace zorcc;
 using enum ReduceLayout;

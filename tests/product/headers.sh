@@ -8,8 +8,7 @@ command -v "$compiler" >/dev/null || { echo "skipped: no $compiler"; exit 77; }
 flags=(-Wall -Wextra -pedantic -Werror -Wconversion -Wundef)
 [ "$language" = c ] && flags+=(-Wstrict-prototypes -Wc++-compat) || flags+=(-Wold-style-cast)
 count=0
-for header in "$include"/*.h; do
-  name=$(basename "$header")
+for name in $(cd "$include" && find . -name '*.h' -printf '%P\n' | sort); do
   echo "$compiler -x $language -std=$standard: $name"
   printf '#include "%s"\n#include "%s"\nint nothing(void);\nint nothing(void) { return 0; }\n' "$name" "$name" |
     "$compiler" -x "$language" -std="$standard" "${flags[@]}" -I"$include" -fsyntax-only -

@@ -10,9 +10,10 @@ trap 'rm -rf "$work"' EXIT
 cmake --install "$build" --prefix "$work/first" >/dev/null
 mv "$work/first" "$work/moved"
 lib=$(dirname "$(find "$work/moved" -name libzorccn8.so.6.1)")
-for file in "$work/moved/include/"{zorcc,zorcore,zortypes}.h "$lib/"lib{zorccn8,zorcore}.so{,.6.1}; do
+for file in "$lib/"lib{zorccn8,zorcore}.so{,.6.1}; do
   [ -e "$file" ] || { echo "not installed: ${file#"$work/moved/"}"; exit 1; }
 done
+diff -r "$source/include" "$work/moved/include"
 if grep -rlF -e "$source" -e "$build" -e "$work/first" "$work/moved"; then
   echo "paths of this machine stand in the files above"
   exit 1

@@ -1,5 +1,6 @@
 # SPDX-License-Identifier: MIT
 """What the checks of the built libraries share."""
+import pathlib
 import re
 import subprocess
 import sys
@@ -14,9 +15,13 @@ def output_of(*command):
 
 
 def prototypes(header):
-    """{name: (return type, [parameters])} of the functions that a header exports, white space normalised."""
-    with open(header, encoding="ascii") as file:
-        text = re.sub(r"/\*.*?\*/", " ", file.read(), flags=re.S)
+    """{name: (return type, [parameters])} of the functions that a header and the families' headers that it includes
+    export, white space normalised."""
+    header = pathlib.Path(header)
+    text = header.read_text(encoding="ascii")
+    for family in re.findall(r'^#include "(zorcc/\w+\.h)"', text, flags=re.M):
+        text += (header.parent / family).read_text(encoding="ascii")
+    text = re.sub(r"/\*.*?\*/|^\s*#.*?$", " ", text, flags=re.S | re.M)
     found = {}
     for result, name, parameters in re.findall(r"ZOR_API\s+([^;{(]*?)(\w+)\s*\(([^;{]*)\)\s*;", text):
         found[name] = (" ".join(result.split()), [" ".join(p.split()) for p in parameters.split(",")])

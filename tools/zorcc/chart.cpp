@@ -20,16 +20,16 @@ constexpr Rgb black = {0, 0, 0}, white = {255, 255, 255}, red = {255, 0, 0}, gre
 
 constexpr Rgb grey(int value) { return {value, value, value}; }
 
-constexpr Rgb mix(Rgb from, Rgb to, int part, int whole)
+constexpr Rgb mix(Rgb from, Rgb to, int numerator, int denominator)
 {
-    const auto channel = [=](int a, int b) { return a + (b - a) * part / std::max(whole, 1); };
+    const auto channel = [=](int a, int b) { return a + (b - a) * numerator / std::max(denominator, 1); };
     return {channel(from.r, to.r), channel(from.g, to.g), channel(from.b, to.b)};
 }
 
-// Which of `count` equal parts of `length` holds the position.
-constexpr int part(int position, int length, int count)
+// A position along `length`, scaled to one along `newLength`, rounded down.
+constexpr int scaled(int position, int length, int newLength)
 {
-    return static_cast<int>(static_cast<std::int64_t>(position) * count / length);
+    return static_cast<int>(static_cast<std::int64_t>(position) * newLength / length);
 }
 
 // 0..255 along a length, both ends reached.
@@ -52,7 +52,7 @@ using Shade = Rgb(int x, int y, ZorSize size);
 Rgb bars(int x, int, ZorSize size)
 {
     constexpr Rgb bar[] = {white, yellow, cyan, green, magenta, red, blue, black};
-    return bar[part(x, size.width, std::size(bar))];
+    return bar[scaled(x, size.width, std::size(bar))];
 }
 
 Rgb dimBars(int x, int y, ZorSize size) { return mix(black, bars(size.width - 1 - x, y, size), 3, 4); }
@@ -61,9 +61,9 @@ Rgb dimBars(int x, int y, ZorSize size) { return mix(black, bars(size.width - 1 
 Rgb hues(int x, int y, ZorSize size)
 {
     constexpr Rgb corner[] = {red, yellow, green, cyan, blue, magenta, red};
-    const int at = part(x, size.width, 6 * 256);
+    const int at = scaled(x, size.width, 6 * 256);
     const Rgb hue = mix(corner[at / 256], corner[at / 256 + 1], at % 256, 256);
-    const int level = part(y, size.height, 512);
+    const int level = scaled(y, size.height, 512);
     return level < 256 ? mix(white, hue, level, 255) : mix(hue, black, level - 256, 255);
 }
 
@@ -99,18 +99,18 @@ Rgb star(int x, int y, ZorSize size)
 Rgb checks(int x, int y, ZorSize size)
 {
     constexpr Rgb pair[][2] = {{red, blue}, {green, magenta}, {yellow, blue}, {red, cyan}, {green, red}};
-    const int band = part(y, size.height, 5), side = 16 >> band;
+    const int band = scaled(y, size.height, 5), side = 16 >> band;
     return pair[band][(x / side + y / side) & 1];
 }
 
 Rgb greyRamp(int x, int, ZorSize size) { return grey(ramp(x, size.width)); }
 
-Rgb greySteps(int x, int, ZorSize size) { return grey(part(x, size.width, 16) * 17); }
+Rgb greySteps(int x, int, ZorSize size) { return grey(scaled(x, size.width, 16) * 17); }
 
 Rgb colourRamps(int x, int y, ZorSize size)
 {
     constexpr Rgb full[] = {red, green, blue};
-    return mix(black, full[part(y, size.height, 3)], ramp(x, size.width), 255);
+    return mix(black, full[scaled(y, size.height, 3)], ramp(x, size.width), 255);
 }
 
 // Small text, line by line in other colours.
@@ -133,22 +133,22 @@ Rgb text(int x, int y, ZorSize size)
 Rgb gratings(int x, int y, ZorSize size)
 {
     constexpr Rgb pair[][2] = {{black, white}, {red, blue}};
-    const int column = part(x, size.width, 6), width = 6 - column;
-    const int band = part(y, size.height, 4);
+    const int column = scaled(x, size.width, 6), width = 6 - column;
+    const int band = scaled(y, size.height, 4);
     return pair[band / 2][(band % 2 == 0 ? x / width : y / width) & 1];
 }
 
 // Blocks along the edges show whether anything is cut off.
 Rgb frame(int x, int y, ZorSize size)
 {
-    const int block = part(x, size.width, 32) + part(y, size.height, 18);
+    const int block = scaled(x, size.width, 32) + scaled(y, size.height, 18);
     return block % 2 == 0 ? white : black;
 }
 
 Rgb ground(int x, int y, ZorSize size)
 {
     const auto onLine = [](int at, int length, int lines) {
-        return at > 0 && part(at, length, lines) != part(at - 1, length, lines);
+        return at > 0 && scaled(at, length, lines) != scaled(at - 1, length, lines);
     };
     return onLine(x, size.width, 31) || onLine(y, size.height, 17) ? grey(112) : grey(72);
 }
@@ -172,9 +172,8 @@ Picture drawChart(ZorSize size)
 {
     Picture picture(interface::formats::rgb24, size);
     for (const Panel& panel : panels) {
-        const auto place = [](int units, int length, int all) { return part(units, all, length); };
-        const int left = place(panel.left, size.width, 64), right = place(panel.right, size.width, 64);
-        const int top = place(panel.top, size.height, 36), bottom = place(panel.bottom, size.height, 36);
+        const int left = scaled(panel.left, 64, size.width), right = scaled(panel.right, 64, size.width);
+        const int top = scaled(panel.top, 36, size.height), bottom = scaled(panel.bottom, 36, size.height);
         for (int y = top; y < bottom; ++y)
             for (int x = left; x < right; ++x) {
                 const Rgb colour = panel.shade(x - left, y - top, {right - left, bottom - top});

@@ -65,34 +65,27 @@ void call(const CallOptions& options)
 
     const auto reader = openInput(options.in, &source, OddSizes::cutOff);
     Output output(options.out, reader->tags());
-    Progress progress(*reader);
-    Stats stats;
-    ZorSize size{};
+    Stats stats{options.timing.repeat};
     bool warned = false;
-    while (auto picture = reader->next()) {
-        ZorStatus status = zorStatusOk;
-        size = picture->visible();
-        Picture result = naming(reader->path(), [&] {
-            if (!rearrangementCost(picture->format(), source))
-                throw Cause("the file holds " + std::string(picture->format().name) + ", but " + options.function +
-                            " takes " + std::string(source.name) +
-                            (isRgb(source)   ? ": give a PNG, JPEG or PPM file, or a headerless one with --size WxH"
-                             : isYuv(source) ? ": give a Y4M file, or a headerless one with --size WxH"
-                                             : ": give a headerless file with --size WxH"));
-            return run(*function, rearranged(std::move(*picture), source, size), options.timing.repeat, stats, status);
-        });
-        if (status != zorStatusOk && !warned)
+    writeAll(*reader, output, [&](Picture picture) {
+        if (!rearrangementCost(picture.format(), source))
+            throw Cause("the file holds " + std::string(picture.format().name) + ", but " + options.function +
+                        " takes " + std::string(source.name) +
+                        (isRgb(source)   ? ": give a PNG, JPEG or PPM file, or a headerless one with --size WxH"
+                         : isYuv(source) ? ": give a Y4M file, or a headerless one with --size WxH"
+                                         : ": give a headerless file with --size WxH"));
+        const ZorSize size = picture.visible();
+        Picture result = run(*function, rearranged(std::move(picture), source, size), stats);
+        if (stats.status != zorStatusOk && !warned)
             std::cerr << "zorcc: warning: " << reader->path() << ": "
-                      << (status == zorStatusOddSize
+                      << (stats.status == zorStatusOddSize
                               ? "odd size " + sizeName(size) + ": only whole 2x2 blocks are converted"
-                              : "the function returned " + std::to_string(status))
+                              : "the function returned " + std::to_string(stats.status))
                       << '\n';
-        warned |= status != zorStatusOk;
-        output.write(std::move(result));
-        progress.update();
-    }
-    output.commit();
-    if (options.timing.stats) std::cout << stats.line(options.function, size, options.timing.repeat);
+        warned |= stats.status != zorStatusOk;
+        return result;
+    });
+    if (options.timing.stats) std::cout << stats.line();
 }
 
 } // namespace zorcc::tool

@@ -12,7 +12,7 @@ namespace zorcc::tool {
 
 namespace {
 
-// What a file is to hold if the user does not say: what it can hold, without a conversion where possible.
+// The format of a file where the user gives none: one that it can hold, without a conversion where possible.
 const Format& usualFormat(const std::string& out, const Format& from)
 {
     switch (fileKindToWrite(out)) {
@@ -29,7 +29,7 @@ const Format& usualFormat(const std::string& out, const Format& from)
     }
 }
 
-// The matrix that the format tells.
+// The matrix that the format implies.
 Matrix ownMatrix(const Format& format)
 {
     if (isRgb(format) || format.model == interface::Model::anyYcc) return {};
@@ -40,39 +40,28 @@ Matrix ownMatrix(const Format& format)
 
 void convert(const ConvertOptions& options)
 {
-    fileKindToWrite(options.out); // a bad name is told before any work
+    fileKindToWrite(options.out); // reports a bad name before any work
     const Format* const asked = options.to.empty() ? nullptr : &formatNamed(options.to);
     const auto reader = openInput(options.in, nullptr, OddSizes::roundUp);
     const auto writer = openWriter(options.out, reader->tags());
-    Progress progress(*reader);
-    Stats stats, deinterlacingStats;
-    ZorSize size{};
+    Stats stats{options.timing.repeat}, deinterlacingStats{options.timing.repeat};
     std::optional<Conversion> conversion, deinterlacing;
     const Format* from = nullptr;
-    while (auto picture = reader->next()) {
-        size = picture->visible();
-        writer->write(naming(reader->path(), [&] {
-            if (!conversion || from != &picture->format()) {
-                from = &picture->format();
-                const Format& to = asked ? *asked : usualFormat(options.out, *from);
-                if (options.deinterlace) deinterlacing = findDeinterlacing(*from, to);
-                const Matrix own = options.in.matrix ? options.in.matrix : ownMatrix(*from);
-                conversion = findConversion(deinterlacing ? *deinterlacing->target : *from,
-                                            byMatrix(to, own.value_or(interface::Model::yuv)), own);
-            }
-            if (deinterlacing)
-                picture = (*deinterlacing)(std::move(*picture), options.timing.repeat, deinterlacingStats);
-            return (*conversion)(std::move(*picture), options.timing.repeat, stats);
-        }));
-        progress.update();
-    }
-    writer->commit();
-    if (options.timing.stats && deinterlacing)
-        std::cout << deinterlacingStats.line(std::string(deinterlacing->function->name), size, options.timing.repeat);
-    if (options.timing.stats)
-        std::cout << (conversion->function
-                          ? stats.line(std::string(conversion->function->name), size, options.timing.repeat)
-                          : "rearranged without a function of the library\n");
+    writeAll(*reader, *writer, [&](Picture picture) {
+        if (!conversion || from != &picture.format()) {
+            from = &picture.format();
+            const Format& to = asked ? *asked : usualFormat(options.out, *from);
+            if (options.deinterlace) deinterlacing = findDeinterlacing(*from, to);
+            const Matrix own = options.in.matrix ? options.in.matrix : ownMatrix(*from);
+            conversion = findConversion(deinterlacing ? *deinterlacing->target : *from,
+                                        byMatrix(to, own.value_or(interface::Model::yuv)), own);
+        }
+        if (deinterlacing) picture = (*deinterlacing)(std::move(picture), deinterlacingStats);
+        return (*conversion)(std::move(picture), stats);
+    });
+    if (!options.timing.stats) return;
+    if (deinterlacing) std::cout << deinterlacingStats.line();
+    std::cout << (stats.function ? stats.line() : "rearranged without a function of the library\n");
 }
 
 } // namespace zorcc::tool

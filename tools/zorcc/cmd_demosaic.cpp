@@ -6,44 +6,28 @@
 #include "error.h"
 #include "formats.h"
 #include "io/writer.h"
+#include "progress.h"
 
 namespace zorcc::tool {
 
-namespace {
-
-struct Method {
-    const Function *u8, *u16;
-
-    explicit Method(const std::string& operation)
-        : u8(interface::findFunction(operation + "_8u_C1C3R")), u16(interface::findFunction(operation + "_16u_C1C3R"))
-    {
-    }
-};
-
-} // namespace
-
 void demosaic(const DemosaicOptions& options)
 {
-    const Method method(options.gradient ? "zoriCFAToRGB" : "zoriDemosaicAHD");
+    const std::string operation = options.gradient ? "zoriCFAToRGB" : "zoriDemosaicAHD";
     const auto reader = openReader(options.in);
     const auto writer = openWriter(options.out);
-    Stats stats;
-    ZorSize size{};
-    const Function* function = nullptr;
-    while (auto picture = reader->next())
-        writer->write(naming(reader->path(), [&] {
-            const Format& format = picture->format();
-            if (!isGrey(format) || format.sample == Sample::f32)
-                throw Cause("the file holds " + std::string(format.name) +
-                            ", but a mosaic is a grey PGM or PNG file of 8 or 16 bits");
-            function = format.sample == Sample::u8 ? method.u8 : method.u16;
-            size = picture->visible();
-            ZorStatus status = zorStatusOk;
-            return run(*function, rearranged(std::move(*picture), *function->source, size), options.timing.repeat,
-                       stats, status, {.alpha = 255, .grid = options.grid});
-        }));
-    writer->commit();
-    if (options.timing.stats) std::cout << stats.line(std::string(function->name), size, options.timing.repeat);
+    Stats stats{options.timing.repeat};
+    writeAll(*reader, *writer, [&](Picture picture) {
+        const Format& format = picture.format();
+        if (!isGrey(format) || format.sample == Sample::f32)
+            throw Cause("the file holds " + std::string(format.name) +
+                        ", but a mosaic is a grey PGM or PNG file of 8 or 16 bits");
+        const Function& function =
+            *interface::findFunction(operation + (format.sample == Sample::u8 ? "_8u_C1C3R" : "_16u_C1C3R"));
+        const ZorSize size = picture.visible();
+        return run(function, rearranged(std::move(picture), *function.source, size), stats,
+                   {.alpha = 255, .grid = options.grid});
+    });
+    if (options.timing.stats) std::cout << stats.line();
 }
 
 } // namespace zorcc::tool

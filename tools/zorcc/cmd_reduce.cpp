@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include <cstring>
 #include <iostream>
 
 #include "commands.h"
@@ -22,16 +21,6 @@ const Function& functionFor(const Format& format)
     return *function;
 }
 
-void copyAlpha(const Picture& from, const Picture& to)
-{
-    const Channel source = channelOf(from, 'A', from.visible()), destination = channelOf(to, 'A', to.visible());
-    const auto bytes = static_cast<std::size_t>(interface::sampleBytes(from.format().sample));
-    for (int y = 0; y < source.height; ++y)
-        for (int x = 0; x < source.width; ++x)
-            std::memcpy(destination.first + destination.step * y + destination.stride * x,
-                        source.first + source.step * y + source.stride * x, bytes);
-}
-
 } // namespace
 
 void reduce(const ReduceOptions& options)
@@ -41,23 +30,14 @@ void reduce(const ReduceOptions& options)
     const interface::Extra arguments {
         .noise = options.noise, .levels = options.levels, .method = options.dither
     };
-    Progress progress(*reader);
-    Stats stats;
-    ZorSize size{};
-    const Function* function = nullptr;
-    while (const auto picture = reader->next()) {
-        size = picture->visible();
-        writer->write(naming(reader->path(), [&] {
-            function = &functionFor(picture->format());
-            ZorStatus status = zorStatusOk;
-            Picture result = run(*function, *picture, options.timing.repeat, stats, status, arguments);
-            if (function->alpha == interface::Alpha::keep) copyAlpha(*picture, result);
-            return result;
-        }));
-        progress.update();
-    }
-    writer->commit();
-    if (options.timing.stats) std::cout << stats.line(std::string(function->name), size, options.timing.repeat);
+    Stats stats{options.timing.repeat};
+    writeAll(*reader, *writer, [&](const Picture& picture) {
+        const Function& function = functionFor(picture.format());
+        Picture result = run(function, picture, stats, arguments);
+        if (function.alpha == interface::Alpha::keep) copyAlpha(picture, result);
+        return result;
+    });
+    if (options.timing.stats) std::cout << stats.line();
 }
 
 } // namespace zorcc::tool

@@ -18,12 +18,12 @@ void sheet(const std::string& out, const std::vector<std::string>& in)
     std::vector<Picture> pictures;
     std::int64_t width = 0;
     int height = 0;
-    for (const std::string& path : in) { // of a file of many pictures the first
+    for (const std::string& path : in) { // the first picture of each file
         Picture picture = *openReader(path)->next();
         pictures.push_back(naming(path, [&] {
             Stats stats;
             const ZorSize visible = picture.visible();
-            return rearranged(findConversion(picture.format(), rgb)(std::move(picture), 1, stats), rgb, visible);
+            return rearranged(findConversion(picture.format(), rgb)(std::move(picture), stats), rgb, visible);
         }));
         width += pictures.back().size().width + (pictures.size() > 1 ? gap : 0);
         height = std::max(height, pictures.back().size().height);
@@ -31,7 +31,7 @@ void sheet(const std::string& out, const std::vector<std::string>& in)
 
     const auto writer = openWriter(out);
     writer->write(naming(out, [&] {
-        if (width > INT_MAX) throw Cause("the pictures are too wide together");
+        if (width > INT_MAX) throw Cause("the pictures side by side are too wide");
         Picture all(rgb, {static_cast<int>(width), height});
         std::fill_n(all.row(0, 0), all.visibleRowBytes(0) * height, ground);
         std::size_t x = 0;

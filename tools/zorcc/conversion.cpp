@@ -5,6 +5,7 @@
 #include <chrono>
 #include <climits>
 #include <cstdio>
+#include <map>
 
 #include "error.h"
 
@@ -14,20 +15,14 @@ namespace {
 
 std::string statusText(ZorStatus status)
 {
-    switch (status) {
-    case zorStatusBadArgument:
-        return "bad argument";
-    case zorStatusBadSize:
-        return "the picture is too small for the function";
-    case zorStatusNoMemory:
-        return "not enough memory";
-    case zorStatusBadStep:
-        return "bad step";
-    case zorStatusDitherLevels:
-        return "so many levels are not possible";
-    default:
-        return "status " + std::to_string(status);
-    }
+    static const std::map<ZorStatus, std::string> texts = {
+        {zorStatusBadArgument, "bad argument"},
+        {zorStatusBadSize, "the picture is too small for the function"},
+        {zorStatusNoMemory, "not enough memory"},
+        {zorStatusBadStep, "bad step"},
+        {zorStatusDitherLevels, "so many levels are not possible"}};
+    const auto found = texts.find(status);
+    return found != texts.end() ? found->second : "status " + std::to_string(status);
 }
 
 // Chroma is shared by (1 << x) x (1 << y) pixels on one side of the function.
@@ -62,42 +57,42 @@ bool isVariant(const Function& function)
 
 } // namespace
 
-std::string Stats::line(const std::string& what, ZorSize size, int repeat) const
+std::string Stats::line() const
 {
     char text[160];
     std::snprintf(text, sizeof text, ": %d picture%s of %s, %.1f megapixels/s (best of %d)\n", pictures,
                   pictures == 1 ? "" : "s", sizeName(size).c_str(), megapixels / std::max(seconds, 1e-9), repeat);
-    return what + text;
+    return std::string(function->name) + text;
 }
 
-Picture run(const Function& function, const Picture& source, int repeat, Stats& stats, ZorStatus& status,
-            const interface::Extra& arguments)
+Picture run(const Function& function, const Picture& source, Stats& stats, const interface::Extra& arguments)
 {
     using Clock = std::chrono::steady_clock;
     Picture destination(*function.destination, source.size(), source.visible());
     if (function.alpha == interface::Alpha::keep) setOpaque(destination);
     Clock::duration best = Clock::duration::max();
-    for (int i = 0; i < repeat; ++i) {
+    for (int i = 0; i < stats.repeat; ++i) {
         const Clock::time_point start = Clock::now();
-        status = function(source.image(), destination.image(), source.size(), arguments);
+        stats.status = function(source.image(), destination.image(), source.size(), arguments);
         best = std::min(best, Clock::now() - start);
-        if (status < 0) throw Cause(std::string(function.name) + ": " + statusText(status));
+        if (stats.status < 0) throw Cause(std::string(function.name) + ": " + statusText(stats.status));
     }
+    stats.function = &function;
+    stats.size = source.visible();
     ++stats.pictures;
     stats.megapixels += 1e-6 * source.size().width * source.size().height;
     stats.seconds += std::chrono::duration<double>(best).count();
     return destination;
 }
 
-Picture Conversion::operator()(Picture picture, int repeat, Stats& stats) const
+Picture Conversion::operator()(Picture picture, Stats& stats) const
 {
     if (!function) {
         const ZorSize size = wholeBlocks(picture.visible(), *target);
         return rearranged(std::move(picture), *target, size);
     }
     const ZorSize size = wholeBlocksOf(*function, picture.visible());
-    ZorStatus status = zorStatusOk;
-    picture = run(*function, rearranged(std::move(picture), *function->source, size), repeat, stats, status);
+    picture = run(*function, rearranged(std::move(picture), *function->source, size), stats);
     return rearranged(std::move(picture), *target, size);
 }
 
@@ -112,7 +107,7 @@ Conversion findConversion(const Format& from, const Format& to, std::optional<in
         const auto before = rearrangementCost(from, *function.source);
         const auto after = rearrangementCost(*function.destination, to);
         if (!before || !after || !isOf(function, matrix)) continue;
-        // Of ways that cost the same the one that computes with more bits.
+        // Among ways of equal cost the one that computes with more bits is preferred.
         const int cost =
             16 * (*before + *after) + 8 * !function.signature.steps - interface::sampleBytes(function.source->sample);
         if (cost < lowest) lowest = cost, found = &function;

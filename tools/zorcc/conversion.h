@@ -12,23 +12,27 @@ namespace zorcc::tool {
 
 using interface::Function;
 
-// Time of the library's work alone.
+// What a function of the library has been run on, and the time of its work alone.
 struct Stats {
+    int repeat = 1; // runs on each picture, of which the fastest counts
     int pictures = 0;
     double megapixels = 0, seconds = 0;
 
+    // Of the last picture.
+    const Function* function = nullptr;
+    ZorSize size{};
+    ZorStatus status = zorStatusOk;
+
     // One line: "zoriRGBToYUV_8u_C3R: 1 picture of 1920x1080, 5012.3 megapixels/s (best of 3)".
-    std::string line(const std::string& what, ZorSize size, int repeat) const;
+    std::string line() const;
 };
 
-// Runs a function on a picture of its source format; the result has the same size and shows the same part. Samples that
-// the function leaves alone are 0, alpha 255. Of `repeat` runs the fastest counts. Throws Cause for an error; a warning
-// comes back in `status`.
+// Runs a function on a picture of its source format; the result has the same size, whole and visible. Samples that
+// the function leaves alone are 0, alpha 255. Throws Cause for an error; a warning is left in stats.status.
 inline constexpr interface::Extra opaque {
     .alpha = 255
 };
-Picture run(const Function& function, const Picture& source, int repeat, Stats& stats, ZorStatus& status,
-            const interface::Extra& arguments = opaque);
+Picture run(const Function& function, const Picture& source, Stats& stats, const interface::Extra& arguments = opaque);
 
 // The way from one format to another: rearrangement, a function, rearrangement; or, without a function, just that.
 struct Conversion {
@@ -37,7 +41,7 @@ struct Conversion {
 
     // Nothing of an odd size is lost: the picture is first filled up to whole blocks by repeating its last column and
     // row, which the result has, too, but does not show.
-    Picture operator()(Picture picture, int repeat, Stats& stats) const;
+    Picture operator()(Picture picture, Stats& stats) const;
 };
 
 // The cheapest conversion, preferring functions with steps; throws Cause if there is none. Formats that go with any

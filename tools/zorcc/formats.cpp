@@ -217,6 +217,11 @@ Picture rearranged(Picture picture, const Format& to, ZorSize size)
     return result;
 }
 
+void copyAlpha(const Picture& from, const Picture& to)
+{
+    copyChannel(from, channelOf(from, 'A', from.visible()), to, channelOf(to, 'A', to.visible()));
+}
+
 void setOpaque(const Picture& picture)
 {
     if (hasAlpha(picture.format())) setOpaque(picture, channelOf(picture, 'A', picture.size()));

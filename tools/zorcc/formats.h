@@ -31,7 +31,7 @@ const Format& pictureFormat(bool grey, bool alpha, Sample sample);
 // A luma-chroma format's twin by another matrix; throws Cause if there is none.
 const Format& withModel(const Format& format, interface::Model model);
 
-// What a plain name such as yuv420p means by the given matrix; formats whose names tell their matrix stay as they are.
+// What a plain name such as yuv420p means by the given matrix; formats whose names give their matrix stay as they are.
 inline const Format& byMatrix(const Format& format, interface::Model matrix)
 {
     return format.model == interface::Model::yuv ? withModel(format, matrix) : format;
@@ -45,14 +45,17 @@ bool isSameModel(interface::Model a, interface::Model b);
 const Format& planarYuv(const Format& format);
 
 // What it costs to rearrange pictures of one format into another: 0 for the same, more the more is moved, added or
-// lost; nothing where plain rearrangement does not lead. It may change the order and layout of channels, repeat grey,
+// lost; no value where rearrangement is not enough. It may change the order and layout of channels, repeat grey,
 // add opaque alpha or drop alpha, scale between 8 bits, 16 bits (signed ones from -32768) and 0..1 floats, and cut
 // channels down to packed bits.
 std::optional<int> rearrangementCost(const Format& from, const Format& to);
 
-// The picture in another format and size, which rearrangementCost must allow: pixels beyond the visible part repeat the
+// The picture in another format and size, which rearrangementCost must allow: pixels beyond the visible ones repeat the
 // last visible column and row. Comes back untouched where nothing is to be done.
 Picture rearranged(Picture picture, const Format& to, ZorSize size);
+
+// Alpha of the visible pixels, from one picture to another; both have it.
+void copyAlpha(const Picture& from, const Picture& to);
 
 // Sets alpha, where there is any, to opaque.
 void setOpaque(const Picture& picture);

@@ -66,7 +66,8 @@ void addTiming(CLI::App* command, Timing& timing)
     command->add_option("--repeat", timing.repeat, "run the library N times on each picture and take the best time")
         ->type_name("N")
         ->check(CLI::PositiveNumber);
-    command->add_flag("-v,--verbose,--stats", timing.stats, "tell the function, and megapixels/s of the library alone");
+    command->add_flag("-v,--verbose,--stats", timing.stats,
+                      "print the function, and megapixels/s of the library alone");
 }
 
 struct Options {
@@ -83,7 +84,7 @@ struct Options {
 void addCommands(CLI::App& app, Options& o)
 {
     CLI::App* command = app.add_subcommand("list", "List functions: name, source format, destination format, family");
-    command->add_option("PATTERN", o.pattern, "part of a function or family name, or a pattern with * ? []");
+    command->add_option("PATTERN", o.pattern, "text in a function or family name, or a pattern with * ? []");
     command->footer("Examples:\n  zorcc list\n  zorcc list YUV420\n  zorcc list 'zori*_P3R'");
     command->callback([&o] { list(o.pattern); });
 
@@ -92,17 +93,15 @@ void addCommands(CLI::App& app, Options& o)
     addInput(command, o.call.in, " (otherwise what FUNCTION takes)");
     command->add_option("OUT", o.call.out, "result: one file, or one for each plane")->required();
     addTiming(command, o.call.timing);
-    command->footer("IN is rearranged (order of channels, planes, alpha, depth) into what FUNCTION takes, never "
-                    "converted. Sizes are\n"
-                    "given to FUNCTION as they are; what it leaves alone is 0, and alpha 255. RGB results go to .png "
-                    ".jpg .ppm .pfm,\n"
-                    "YUV results to .y4m, planes to .pgm, anything to headerless .yuv .rgb .raw (native byte order; "
-                    "half of an odd\n"
-                    "size is rounded down).\n"
-                    "Examples:\n"
-                    "  zorcc call zoriRGBToYUV420_8u_C3P3R photo.png photo.y4m\n"
-                    "  zorcc call zoriRGBToYUV_8u_C3P3R photo.png y.pgm u.pgm v.pgm\n"
-                    "  zorcc call zoriYUV422ToRGB_8u_C2C3R --size 640x480 frame.yuv frame.png");
+    command->footer(
+        R"(IN is rearranged (order of channels, planes, alpha, depth) into what FUNCTION takes, never converted. Sizes
+are given to FUNCTION as they are; what it leaves alone is 0, and alpha 255. RGB results go to .png .jpg .ppm
+.pfm, YUV results to .y4m, planes to .pgm, anything to headerless .yuv .rgb .raw (native byte order; half of an
+odd size is rounded down).
+Examples:
+  zorcc call zoriRGBToYUV420_8u_C3P3R photo.png photo.y4m
+  zorcc call zoriRGBToYUV_8u_C3P3R photo.png y.pgm u.pgm v.pgm
+  zorcc call zoriYUV422ToRGB_8u_C2C3R --size 640x480 frame.yuv frame.png)");
     command->callback([&o] { call(o.call); });
 
     command = app.add_subcommand("convert", "Convert a file, with the function that suits the two formats");
@@ -112,30 +111,26 @@ void addCommands(CLI::App& app, Options& o)
         ->type_name("NAME");
     command
         ->add_option("--matrix", o.convert.in.matrix,
-                     "matrix of .y4m files, and of formats whose names tell none: yuv, bt601, bt709, bt709full")
+                     "matrix of .y4m files, and of formats whose names give none: yuv, bt601, bt709, bt709full")
         ->type_name("NAME")
         ->transform(CLI::Transformer(namedMatrices()));
     command->add_flag("--deinterlace", o.convert.deinterlace,
                       "smooth each 4:2:0 picture vertically, so that its two fields no longer show as combs");
     addTiming(command, o.convert.timing);
     command->footer(
-        "Without --to, RGB into .y4m or .yuv becomes yuv420p and YUV into a picture file rgb24. All pictures of IN "
-        "are\n"
-        "converted. An odd size in a format of shared chroma loses nothing: the last column and row are repeated to\n"
-        "complete the last blocks, and cut off on the way back; half of an odd size is rounded up in files. A .y4m "
-        "file\n"
-        "keeps the frame rate of a .y4m IN, otherwise it says 25 pictures a second. Without --matrix a .y4m IN of "
-        "limited\n"
-        "range is taken for bt601, any other for yuv; OUT says the range of its matrix.\n"
-        "Examples:\n"
-        "  zorcc convert photo.png photo.y4m\n"
-        "  zorcc convert clip.y4m frame_%03d.png\n"
-        "  zorcc convert photo.jpg photo.yuv --to yuyv --repeat 20 --stats\n"
-        "  zorcc convert --size 640x480 --format yuyv frame.yuv frame.png\n"
-        "Layouts of video, of any matrix, by their usual names: i420 yv12 nv12, i422 yv16 yuy2 uyvy yvyu, i411 nv11, "
-        "i410:\n"
-        "  zorcc convert clip.y4m clip.yuv --to nv12\n"
-        "  zorcc convert --size 720x576 --format nv12 clip.yuv clip.y4m --deinterlace");
+        R"(Without --to, RGB into .y4m or .yuv becomes yuv420p and YUV into a picture file rgb24. All pictures of IN are
+converted. An odd size in a format of shared chroma loses nothing: the last column and row are repeated to
+complete the last blocks, and cut off on the way back; half of an odd size is rounded up in files. A .y4m file
+keeps the frame rate of a .y4m IN, otherwise it says 25 pictures a second. Without --matrix a .y4m IN of limited
+range is taken for bt601, any other for yuv; OUT says the range of its matrix.
+Examples:
+  zorcc convert photo.png photo.y4m
+  zorcc convert clip.y4m frame_%03d.png
+  zorcc convert photo.jpg photo.yuv --to yuyv --repeat 20 --stats
+  zorcc convert --size 640x480 --format yuyv frame.yuv frame.png
+Layouts of video, of any matrix, by their usual names: i420 yv12 nv12, i422 yv16 yuy2 uyvy yvyu, i411 nv11, i410:
+  zorcc convert clip.y4m clip.yuv --to nv12
+  zorcc convert --size 720x576 --format nv12 clip.yuv clip.y4m --deinterlace)");
     command->callback([&o] { convert(o.convert); });
 
     command =
@@ -146,26 +141,26 @@ void addCommands(CLI::App& app, Options& o)
         ->type_name("N")
         ->check(CLI::Range(2, 65536))
         ->capture_default_str();
+    const std::map<std::string, ZorDitherMethod> dithers = {{"none", zorDitherMethodNone},
+                                                            {"ordered", zorDitherMethodOrdered},
+                                                            {"fs", zorDitherMethodFloydSteinberg},
+                                                            {"jjn", zorDitherMethodJarvisJudiceNinke},
+                                                            {"stucki", zorDitherMethodStucki}};
     command
         ->add_option("--dither", o.reduce.dither,
                      "none, ordered, fs (Floyd-Steinberg), jjn (Jarvis-Judice-Ninke), stucki")
         ->type_name("METHOD")
         ->default_str("fs")
-        ->transform(
-            CLI::CheckedTransformer(std::map<std::string, ZorDitherMethod>{{"none", zorDitherMethodNone},
-                                                                           {"ordered", zorDitherMethodOrdered},
-                                                                           {"fs", zorDitherMethodFloydSteinberg},
-                                                                           {"jjn", zorDitherMethodJarvisJudiceNinke},
-                                                                           {"stucki", zorDitherMethodStucki}}));
-    command->add_option("--noise", o.reduce.noise, "random part of dithering, in percent of a level")
+        ->transform(CLI::CheckedTransformer(dithers));
+    command->add_option("--noise", o.reduce.noise, "random noise in dithering, in percent of a level")
         ->type_name("P")
         ->check(CLI::Range(0, 100))
         ->capture_default_str();
     addTiming(command, o.reduce.timing);
-    command->footer("8-bit files stay 8-bit, others become 16-bit; alpha stays as it is.\n"
-                    "Examples:\n"
-                    "  zorcc reduce photo.png poster.png --levels 4\n"
-                    "  zorcc reduce deep.png photo.png --levels 256 --dither ordered --noise 20");
+    command->footer(R"(8-bit files stay 8-bit, others become 16-bit; alpha stays as it is.
+Examples:
+  zorcc reduce photo.png poster.png --levels 4
+  zorcc reduce deep.png photo.png --levels 256 --dither ordered --noise 20)");
     command->callback([&o] { reduce(o.reduce); });
 
     command = app.add_subcommand("demosaic", "Make a colour picture of a Bayer mosaic");
@@ -228,12 +223,12 @@ int main(int argc, char** argv)
         ->type_name("N")
         ->check(CLI::PositiveNumber)
         ->trigger_on_parse();
-    app.require_subcommand(0, 1); // none is told apart from a wrong one below
+    app.require_subcommand(0, 1); // a missing one is reported below
     app.fallthrough();
-    app.footer(
-        "zorcc COMMAND --help tells more.\n"
-        "Example:\n  zorcc chart chart.png && zorcc convert chart.png chart.y4m && zorcc convert chart.y4m back.png\n"
-        "  zorcc compare chart.png back.png");
+    app.footer(R"(zorcc COMMAND --help says more.
+Example:
+  zorcc chart chart.png && zorcc convert chart.png chart.y4m && zorcc convert chart.y4m back.png
+  zorcc compare chart.png back.png)");
     addCommands(app, options);
     try {
         app.parse(argc, argv);

@@ -53,11 +53,11 @@ Picture::Picture(const Format& format, ZorSize size, ZorSize visible)
         bytes += aligned(interface::rowBytes(format, p, size.width) * interface::rows(format, p, size.height));
     }
     // calloc, because its zeros cost nothing before they are touched: a damaged file may promise any size.
-    std::size_t room = bytes + alignment;
-    if (bytes <= PTRDIFF_MAX - alignment) memory.reset(std::calloc(room, 1));
+    std::size_t space = bytes + alignment;
+    if (bytes <= PTRDIFF_MAX - alignment) memory.reset(std::calloc(space, 1));
     if (!memory) throw Cause(sizeName(size) + " pixels: not enough memory");
     void* first = memory.get();
-    std::align(alignment, bytes, first, room);
+    std::align(alignment, bytes, first, space);
     for (int p = 0; p < format.planes; ++p) planes.plane[p] = static_cast<std::uint8_t*>(first) + offset[p];
 }
 

@@ -30,7 +30,7 @@ inline ZorSize wholeBlocks(ZorSize size, const Format& format)
 void checkRowBytes(const Format& format, ZorSize size);
 
 // Starts as zeros. Every plane starts on a 64-byte boundary; its rows follow each other without gaps, as the functions
-// without steps want them. `visible` is the part that shows: the other pixels only complete the last blocks.
+// without steps want them. Pixels outside `visible` only complete the last blocks.
 class Picture {
 public:
     Picture(const Format& format, ZorSize size, ZorSize visible);
@@ -46,7 +46,7 @@ public:
         return static_cast<std::uint8_t*>(planes.plane[plane]) + static_cast<std::ptrdiff_t>(planes.step[plane]) * y;
     }
 
-    // Bytes and number of rows of a plane that show, as files hold them: of a plane with shared chroma everything.
+    // Bytes and number of the visible rows of a plane, as files hold them: all of a plane with shared chroma.
     std::size_t visibleRowBytes(int plane) const;
     int visibleRows(int plane) const;
 
@@ -61,8 +61,8 @@ private:
     std::unique_ptr<void, Free> memory;
 };
 
-// What a video file says beside its pictures, in the words of Y4M. Pictures that no video file held are 25 a second, of
-// full range.
+// What a video file says about its pictures, in the terms of Y4M. Pictures from other files are 25 a second, of full
+// range.
 struct VideoTags {
     std::string frameRate = "25:1";
     std::string range = "FULL";          // empty: not said
@@ -76,8 +76,7 @@ struct Channel {
     int width, height;           // samples; a shared channel of a very small picture can have none
 };
 
-// The channel with the given letter, which must exist, over the part of the picture within `extent`. Not for packed
-// bits.
+// The channel with the given letter, which must exist, in the top left `extent` of the picture. Not for packed bits.
 Channel channelOf(const Picture& picture, char letter, ZorSize extent);
 
 } // namespace zorcc::tool

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "file_kind.h"
 
-#include <cctype>
+#include <strings.h>
+
 #include <utility>
 
 #include "../error.h"
@@ -16,10 +17,8 @@ std::optional<FileKind> fileKind(const std::string& path)
         {".yuv", FileKind::yuv}, {".rgb", FileKind::rgb},  {".raw", FileKind::raw}};
     const std::size_t dot = path.rfind('.');
     if (dot == std::string::npos) return {};
-    std::string extension = path.substr(dot);
-    for (char& c : extension) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
-    for (const auto& [name, kind] : kinds)
-        if (extension == name) return kind;
+    for (const auto& [extension, kind] : kinds)
+        if (strcasecmp(path.c_str() + dot, extension) == 0) return kind;
     return {};
 }
 

@@ -10,7 +10,7 @@
 
 namespace zorcc::tool {
 
-// The next picture of the file, whose chroma has `size` and whose other channels the `visible` part of it.
+// The next picture of the file, whose chroma covers `size` and whose other channels cover `visible`.
 inline Picture readPlanes(InputFile& file, const Format& format, ZorSize size, ZorSize visible)
 {
     checkRowBytes(format, size);

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <algorithm>
 #include <cctype>
 #include <climits>
 #include <cstring>
@@ -12,7 +13,7 @@ namespace zorcc::tool {
 
 namespace {
 
-// The next word of a header or of text samples; takes the one blank behind it, too, where binary samples may follow.
+// The next word of a header or of text samples; takes the one blank after it, too, since binary samples may follow.
 std::string word(InputFile& file)
 {
     constexpr std::size_t longest = 64;
@@ -61,12 +62,6 @@ template <class T> void readSamples(InputFile& file, const Picture& picture, int
     }
 }
 
-void swapFloat(std::uint8_t* bytes)
-{
-    std::swap(bytes[0], bytes[3]);
-    std::swap(bytes[1], bytes[2]);
-}
-
 Picture decodePfm(InputFile& file, bool grey, ZorSize size)
 {
     const std::string scale = word(file);
@@ -79,22 +74,12 @@ Picture decodePfm(InputFile& file, bool grey, ZorSize size)
     Picture picture(format, size);
     const std::size_t rowBytes = picture.visibleRowBytes(0);
     for (int y = size.height - 1; y >= 0; --y) { // the lowest row comes first
-        file.read(picture.row(0, y), rowBytes);
+        std::uint8_t* const row = picture.row(0, y);
+        file.read(row, rowBytes);
         if (value > 0) // most significant byte first
-            for (std::size_t i = 0; i < rowBytes; i += sizeof(float)) swapFloat(picture.row(0, y) + i);
+            for (std::size_t i = 0; i < rowBytes; i += sizeof(float)) std::reverse(row + i, row + i + sizeof(float));
     }
     return picture;
-}
-
-template <class T> void writeSamples(AtomicFile& file, const Picture& picture)
-{
-    std::vector<std::uint8_t> bytes(picture.visibleRowBytes(0));
-    for (int y = 0; y < picture.size().height; ++y) {
-        std::memcpy(bytes.data(), picture.row(0, y), bytes.size());
-        if constexpr (sizeof(T) == 2)
-            for (std::size_t i = 0; i < bytes.size(); i += 2) std::swap(bytes[i], bytes[i + 1]);
-        file.write(bytes.data(), bytes.size());
-    }
 }
 
 void encodeIntegers(AtomicFile& file, Picture given, bool grey)
@@ -105,10 +90,13 @@ void encodeIntegers(AtomicFile& file, Picture given, bool grey)
         rearranged(std::move(given), pictureFormat(grey, false, deep ? Sample::u16 : Sample::u8), size);
     file.print(std::string(grey ? "P5\n" : "P6\n") + std::to_string(size.width) + " " + std::to_string(size.height) +
                (deep ? "\n65535\n" : "\n255\n"));
-    if (deep)
-        writeSamples<std::uint16_t>(file, picture);
-    else
-        writeSamples<std::uint8_t>(file, picture);
+    const std::size_t rowBytes = picture.visibleRowBytes(0);
+    for (int y = 0; y < size.height; ++y) {
+        std::uint8_t* const row = picture.row(0, y);
+        if (deep) // most significant byte first
+            for (std::size_t i = 0; i < rowBytes; i += 2) std::swap(row[i], row[i + 1]);
+        file.write(row, rowBytes);
+    }
 }
 
 } // namespace

@@ -66,7 +66,7 @@ std::unique_ptr<Reader> openReader(const std::string& path, const std::optional<
     return naming(path, [&]() -> std::unique_ptr<Reader> {
         InputFile file(path);
         if (layout) return headerlessReader(path, std::move(file), *layout);
-        switch (file.peek()) { // the first byte tells; decoders look at the rest
+        switch (file.peek()) { // decoders look at the rest
         case 0x89:
             return std::make_unique<PictureReader>(path, std::move(file), decodePng, false);
         case 0xff:

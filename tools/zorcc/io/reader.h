@@ -16,7 +16,7 @@ public:
     Reader(const std::string& path, InputFile input) : name(path), file(std::move(input)) {}
     virtual ~Reader() = default;
 
-    // Nothing behind the last picture. There is at least one.
+    // Nothing after the last picture. There is at least one.
     std::optional<Picture> next();
 
     const std::string& path() const { return name; }

@@ -3,6 +3,7 @@
 
 #include <cctype>
 #include <optional>
+#include <utility>
 #include <vector>
 
 #include "../error.h"
@@ -128,23 +129,15 @@ private:
 
 std::unique_ptr<Writer> openWriter(const std::string& path, const VideoTags& tags)
 {
-    const auto pictures = [&](PictureWriter::Encoder encode) { return std::make_unique<PictureWriter>(path, encode); };
-    switch (fileKindToWrite(path)) {
-    case FileKind::png:
-        return pictures(encodePng);
-    case FileKind::jpeg:
-        return pictures(encodeJpeg);
-    case FileKind::pgm:
-        return pictures(encodePgm);
-    case FileKind::ppm:
-        return pictures(encodePpm);
-    case FileKind::pfm:
-        return pictures(encodePfm);
-    case FileKind::y4m:
-        return std::make_unique<StreamWriter>(path, true, tags);
-    default:
-        return std::make_unique<StreamWriter>(path, false, tags);
-    }
+    static constexpr std::pair<FileKind, PictureWriter::Encoder> encoders[] = {{FileKind::png, encodePng},
+                                                                               {FileKind::jpeg, encodeJpeg},
+                                                                               {FileKind::pgm, encodePgm},
+                                                                               {FileKind::ppm, encodePpm},
+                                                                               {FileKind::pfm, encodePfm}};
+    const FileKind kind = fileKindToWrite(path);
+    for (const auto& [pictureKind, encode] : encoders)
+        if (kind == pictureKind) return std::make_unique<PictureWriter>(path, encode);
+    return std::make_unique<StreamWriter>(path, kind == FileKind::y4m, tags);
 }
 
 } // namespace zorcc::tool

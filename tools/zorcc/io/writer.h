@@ -16,7 +16,7 @@ public:
     virtual void commit() = 0;
 };
 
-// By the kind of file that the name tells. One picture a file wants, for more than one, a name with a %d or %03d in it.
+// The extension gives the kind of file. Where a file holds one picture only, several need a name with %d or %03d in it.
 std::unique_ptr<Writer> openWriter(const std::string& path, const VideoTags& tags = {});
 
 } // namespace zorcc::tool

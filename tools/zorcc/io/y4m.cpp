@@ -19,7 +19,7 @@ constexpr std::size_t longestLine = 4096;
 
 const Format& formatOfTag(const std::string& tag)
 {
-    // The 4:2:0 kinds differ in where chroma samples lie, which conversions that repeat chroma cannot tell apart.
+    // The 4:2:0 kinds differ in where chroma samples lie, which makes no difference to conversions that repeat chroma.
     for (const char* name : {"420", "420jpeg", "420mpeg2", "420paldv"})
         if (tag == name) return yuv420p;
     if (tag == "422") return yuv422p;
@@ -28,18 +28,13 @@ const Format& formatOfTag(const std::string& tag)
     throw Cause("colour space " + quoted(tag) + " is not supported (420, 411, 422 and 444 with 8 bits are)");
 }
 
-// Where the matrix settles it.
+// The range that a matrix implies.
 std::optional<std::string> rangeOf(const Format& format)
 {
-    switch (format.model) {
-    case interface::Model::bt601:
-    case interface::Model::bt709:
-        return "LIMITED";
-    case interface::Model::bt709full:
-        return "FULL";
-    default:
-        return {};
-    }
+    using interface::Model;
+    if (format.model == Model::bt709full) return "FULL";
+    if (format.model == Model::bt601 || format.model == Model::bt709) return "LIMITED";
+    return {};
 }
 
 int side(const std::string& digits)
@@ -80,7 +75,7 @@ public:
                 videoTags.range = word.substr(12);
         }
         if (visible.width == 0 || visible.height == 0) throw Cause("the header does not tell width and height");
-        // The header cannot tell the matrix; limited range is told, and common with BT.601.
+        // The header has no field for the matrix; it may give the range, and limited range is usual with BT.601.
         const bool limited = videoTags.range == "LIMITED";
         format = &byMatrix(*format, matrix.value_or(limited ? interface::Model::bt601 : interface::Model::yuv));
         size = wholeBlocks(visible, *format);

@@ -1,13 +1,9 @@
 /* SPDX-License-Identifier: MIT */
-/* Types shared by zorcc.h and zorcore.h. Valid C99 and C++17. */
-#ifndef ZORTYPES_H
-#define ZORTYPES_H
+/* What all headers share: statuses, types, and how functions are declared. */
+#ifndef ZORCC_TYPES_H
+#define ZORCC_TYPES_H
 
 #include <stdint.h>
-
-#ifdef __cplusplus
-extern "C" {
-#endif
 
 /* Result of every call: 0 is success, negative an error (nothing was written), positive a warning. */
 typedef int32_t ZorStatus;
@@ -15,7 +11,7 @@ typedef int32_t ZorStatus;
 enum {
     zorStatusOk = 0,
     zorStatusNothingDone = 1,       /* warning: there was nothing to do; the destination is as it was */
-    zorStatusOddSize = 35,          /* warning: a size was odd in a subsampled format; the even part was converted */
+    zorStatusOddSize = 35,          /* warning: columns or rows after the last whole block were left out */
     zorStatusBadArgument = -5,      /* an enumerated argument or a count is outside its set */
     zorStatusBadSize = -6,          /* width or height is below the function's minimum (1 unless stated) */
     zorStatusNullPointer = -8,      /* a pointer, an array of plane pointers or a plane pointer is null */
@@ -37,9 +33,10 @@ typedef struct {
     int32_t x, y, width, height;
 } ZorRect;
 
-/* Colour of the 2 x 2 cell at pixel (0, 0) of a Bayer mosaic, read row by row. */
+/* Colours of the 2 x 2 cell at pixel (0, 0) of a Bayer mosaic, read row by row. */
 typedef enum { zorBayerBGGR = 0, zorBayerRGGB = 1, zorBayerGBRG = 2, zorBayerGRBG = 3 } ZorBayerGrid;
 
+/* How bit-depth reduction chooses a level: see zorcc/reduce.h. */
 typedef enum {
     zorDitherMethodNone = 0,
     zorDitherMethodFloydSteinberg = 1,
@@ -48,24 +45,16 @@ typedef enum {
     zorDitherMethodOrdered = 4
 } ZorDitherMethod;
 
-/* What zorccGetLibVersion returns; owned by the library, valid for ever. */
-typedef struct {
-    int32_t major, minor;
-    int32_t buildMajor, buildMinor;
-    char cpuCode[4];         /* target code of the variant, zero padded; not always terminated */
-    const char* libraryName; /* file name of the library */
-    const char* versionText;
-    const char* buildDate;
-} ZorVersion;
-
+/* Begins the declaration of an exported function: C linkage, visible outside the library. */
 #if defined(__GNUC__)
-    #define ZOR_API __attribute__((visibility("default")))
+    #define ZOR_VISIBLE __attribute__((visibility("default")))
 #else
-    #define ZOR_API
+    #define ZOR_VISIBLE
 #endif
-
-#ifdef __cplusplus
-}
+#if defined(__cplusplus)
+    #define ZOR_API extern "C" ZOR_VISIBLE
+#else
+    #define ZOR_API ZOR_VISIBLE
 #endif
 
 #endif
