@@ -103,7 +103,7 @@ struct Checks {
 };
 
 // Whole 2 x 2 blocks are converted; odd sizes have a status of their own.
-inline constexpr Checks evenSizes = {.block = {2, 2}, .oddSize = Checks::OddSize::warned};
+inline constexpr Checks even = {.block = {2, 2}, .oddSize = Checks::OddSize::warned};
 
 // An error is the status of the first check that fails. Otherwise the size is cut down to whole blocks, and the status
 // is that of the finished conversion.

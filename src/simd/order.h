@@ -2,6 +2,8 @@
 // Elements in another order across the blocks of vectors.
 #pragma once
 
+#include <type_traits>
+
 #include "simd/vec.h"
 
 namespace zorcc::ZORCC_TIER {
@@ -65,30 +67,25 @@ template <int bytes> constexpr SortedElements<bytes> sortedElements;
 #endif
 
 // The elements with even numbers (0), or those with odd numbers (1), of the sequence a, b.
-template <int odd> ZORCC_INLINE u8v everySecond(u8v a, u8v b)
+template <int odd, class V> ZORCC_INLINE V everySecond(V a, V b)
 {
+    constexpr bool isBytes = sizeof(a[0]) == 1;
 #if defined(ZORCC_TIER_avx512)
     // One vector with both, after one of them has moved to the places that the other leaves free, and a permutation.
-    if constexpr (odd) a = (u8v)((u16v)a >> 8);
-    if constexpr (!odd) b = (u8v)((u16v)b << 8);
-    return (u8v)_mm512_permutexvar_epi8(reg(load(sortedElements<1>.inVector)),
-                                        _mm512_mask_mov_epi8(reg(a), 0xaaaaaaaaaaaaaaaa, reg(b)));
+    using Pairs = std::conditional_t<isBytes, u16v, u32v>;
+    constexpr int bits = isBytes ? 8 : 16;
+    if constexpr (odd) a = (V)((Pairs)a >> bits);
+    if constexpr (!odd) b = (V)((Pairs)b << bits);
+    const __m512i both = _mm512_mask_mov_epi8(reg(a), isBytes ? 0xaaaaaaaaaaaaaaaa : 0xcccccccccccccccc, reg(b));
+    return (V)_mm512_permutexvar_epi8(reg(load(sortedElements<bits / 8>.inVector)), both);
 #else
-    return orderHalves(odd ? packUnsigned(secondOfPairs(a), secondOfPairs(b))
-                           : packUnsigned(firstOfPairs(a), firstOfPairs(b)));
-#endif
-}
-
-template <int odd> ZORCC_INLINE u16v everySecond(u16v a, u16v b)
-{
-#if defined(ZORCC_TIER_avx512)
-    if constexpr (odd) a = (u16v)((u32v)a >> 16);
-    if constexpr (!odd) b = (u16v)((u32v)b << 16);
-    return (u16v)_mm512_permutexvar_epi8(reg(load(sortedElements<2>.inVector)),
-                                         _mm512_mask_mov_epi16(reg(a), 0xaaaaaaaa, reg(b)));
-#else
-    const u64v first = (u64v)unzipHalves(a), second = (u64v)unzipHalves(b);
-    return (u16v)orderHalves(odd ? zipHigh(first, second) : zipLow(first, second));
+    if constexpr (isBytes) {
+        return orderHalves(odd ? packUnsigned(secondOfPairs(a), secondOfPairs(b))
+                               : packUnsigned(firstOfPairs(a), firstOfPairs(b)));
+    } else {
+        const u64v first = (u64v)unzipHalves(a), second = (u64v)unzipHalves(b);
+        return (V)orderHalves(odd ? zipHigh(first, second) : zipLow(first, second));
+    }
 #endif
 }
 

@@ -69,7 +69,10 @@ template <int rows> ZORCC_INLINE UnsaturatedWithAlpha<rows> withAlpha(const Unsa
 
 // ---- layouts --------------------------------------------------------------------------------------------------------
 
-template <PackedOrder order> struct PackedInLanes : Packed422<order> {
+template <class Layout> struct InLanes : Layout {
+};
+
+template <PackedOrder order> struct InLanes<Packed422<order>> : Packed422<order> {
     [[gnu::always_inline]] YccLanes<1, LumaOrder::byHalf> load(int x) const
     {
         constexpr bool lumaFirst = order == PackedOrder::lumaFirst;
@@ -83,21 +86,23 @@ template <PackedOrder order> struct PackedInLanes : Packed422<order> {
     }
 };
 
-template <Order order> struct C3OfWide : C3<uint8_t, order> {
+template <class Layout> struct OfWide;
+
+template <Order order> struct OfWide<C3<uint8_t, order>> : C3<uint8_t, order> {
     using C3<uint8_t, order>::store;
     [[gnu::always_inline]] void store(int x, const Unsaturated<1>& p) const { storeThrees(this->at(0, x), p); }
 
     StoreThrees<order == Order::reversed> storeThrees;
 };
 
-template <Order order> struct C4OfWide : C4<uint8_t, order> {
+template <Order order> struct OfWide<C4<uint8_t, order>> : C4<uint8_t, order> {
     using C4<uint8_t, order>::store;
     [[gnu::always_inline]] void store(int x, const UnsaturatedWithAlpha<1>& p) const { storeFours(this->at(0, x), p); }
 
     StoreFours<order == Order::reversed> storeFours;
 };
 
-template <Order order> struct P3OfWide : P3<uint8_t, order> {
+template <Order order> struct OfWide<P3<uint8_t, order>> : P3<uint8_t, order> {
     using P3<uint8_t, order>::store;
     [[gnu::always_inline]] void store(int x, const Unsaturated<1>& p) const
     {
@@ -105,27 +110,14 @@ template <Order order> struct P3OfWide : P3<uint8_t, order> {
     }
 };
 
-// ---- where they are used --------------------------------------------------------------------------------------------
-
-template <class Layout> struct InLanes : std::type_identity<Layout> {
-};
-template <PackedOrder order> struct InLanes<Packed422<order>> : std::type_identity<PackedInLanes<order>> {
-};
-
-template <class Layout> struct OfWide;
-template <Order order> struct OfWide<C3<uint8_t, order>> : std::type_identity<C3OfWide<order>> {
-};
-template <Order order> struct OfWide<C4<uint8_t, order>> : std::type_identity<C4OfWide<order>> {
-};
-template <Order order> struct OfWide<P3<uint8_t, order>> : std::type_identity<P3OfWide<order>> {
-};
+// ---- where they are used ---
 
 // Sources that share chroma.
 template <class From, ToRgb k, class To>
 requires(DotProductsToRgb<k>::possible&& From::group* From::rowsAtOnce > 1) struct OnThisTier<From, YccToRgb<k>, To> {
-    using Source = typename InLanes<From>::type;
+    using Source = InLanes<From>;
     using Formula = DotProductsToRgb<k>;
-    using Destination = typename OfWide<To>::type;
+    using Destination = OfWide<To>;
 };
 
 template <class From, ToRgb k, class To>
