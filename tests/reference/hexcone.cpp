@@ -151,4 +151,12 @@ void hsvToRgb(const Pixels& source, Pixels& destination)
               [&](int x, int y) { write(destination, x, y, rgbOfHsv(read(source, x, y), typeOf(source)), rounded); });
 }
 
+bool hasHls(const float* rgb)
+{
+    const auto fits = [](float v) { return std::abs(v) < 1e15f; }; // and is a number
+    return fits(rgb[0]) && fits(rgb[1]) && fits(rgb[2]);
+}
+
+bool isHls(const float* hls) { return hasHls(hls) && hls[0] >= 0 && hls[0] <= 1 && hls[1] != 0; }
+
 } // namespace zorcc::reference
