@@ -25,20 +25,6 @@ def prototypes(header):
     return found
 
 
-def table_rows(table):
-    """{name: title of its family} of the functions of the interface table."""
-    rows, family = {}, None
-    with open(table, encoding="ascii") as file:
-        for kind, name, title in re.findall(r'^ZOR_(FAMILY|FUNCTION)\((\w+), (?:"(.*)")?', file.read(), flags=re.M):
-            if kind == "FAMILY":
-                family = title
-            else:
-                rows[name] = family
-    if not rows:
-        sys.exit(f"{table}: no functions found")
-    return rows
-
-
 class Findings:
     """Collects faults, prints them, and gives the exit status."""
 

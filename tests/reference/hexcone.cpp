@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <tuple>
 
 namespace zorcc::reference {
 
@@ -154,7 +155,9 @@ void hsvToRgb(const Pixels& source, Pixels& destination)
 bool hasHls(const float* rgb)
 {
     const auto fits = [](float v) { return std::abs(v) < 1e15f; }; // and is a number
-    return fits(rgb[0]) && fits(rgb[1]) && fits(rgb[2]);
+    const auto [r, g, b] = std::tuple{rgb[0], rgb[1], rgb[2]};
+    const bool vanishes = r >= b && b > g && 60 * (g - b) / (r - g) == 0; // below 0, but nothing is added to it
+    return fits(r) && fits(g) && fits(b) && !vanishes;
 }
 
 bool isHls(const float* hls) { return hasHls(hls) && hls[0] >= 0 && hls[0] <= 1 && hls[1] != 0; }
