@@ -41,6 +41,9 @@ const GoldenColours goldens[] = {
     // Hues of half and of one and a half times the least float are rounded to even.
     {{"zoriRGBToHLS_32f_C3R"}, {1, 3 * least, 0}, {0, 0.5f, 1}},
     {{"zoriRGBToHLS_32f_C3R"}, {1, 9 * least, 0}, {2 * least, 0.5f, 1}},
+    // Digits of a quotient next to the least normal float, and sixty times a sample that is too large for that.
+    {{"zoriRGBToHLS_32f_C3R"}, {1, 0x1.8001p-124, 0}, {0x1.0000aap-126, 0.5f, 1}},
+    {{"zoriRGBToHLS_32f_C3R"}, {0x1p127, 0x1p126, 0}, {std::numeric_limits<double>::infinity(), 0x1p126, -1}},
     {{"zoriHLSToRGB_32f_C3R"}, {0, 0.5f, 1}, {1, 0, 0}},
     {{"zoriHLSToRGB_32f_C3R"}, {1, 0.5f, 1}, {1, 0, 0}}, // 480 degrees for red are 120
     {{"zoriHLSToRGB_32f_C3R"}, {0.3f, 0.7f, 0}, {0.7f, 0.7f, 0.7f}},

@@ -53,7 +53,7 @@ private:
     Arrangement allowed(Arrangement arrangement) const;
     std::string heading(const Trial& trial, Tier tier) const;
     testing::AssertionResult runOn(Tier tier, const Trial& trial, TestImage& to);
-    void expectAsOnFirstTier();
+    void expectAsOnFirstTier(Tier tier);
 };
 
 } // namespace zorcc::test

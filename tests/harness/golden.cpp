@@ -29,7 +29,7 @@ template <class Visit> void eachSample(const Pixels& pixels, const Colours& colo
     for (int y = 0; y < pixels.height(); ++y)
         for (int x = 0; x < pixels.width(); ++x)
             for (int c = 0; c < 3; ++c) {
-                if (!pixels.has(c, x, y)) continue;
+                if (!pixels.has(c, x, y) || testing::Test::HasFatalFailure()) continue;
                 const std::size_t pixel =
                     static_cast<std::size_t>(count == 1 ? 0 : x % 2 + (count == 4 ? y % 2 * 2 : 0));
                 visit(c, x, y, colours[!shared ? 3 * pixel + c : c == 0 ? pixel : count + c - 1]);

@@ -156,8 +156,9 @@ bool hasHls(const float* rgb)
 {
     const auto fits = [](float v) { return std::abs(v) < 1e15f; }; // and is a number
     const auto [r, g, b] = std::tuple{rgb[0], rgb[1], rgb[2]};
-    const bool vanishes = r >= b && b > g && 60 * (g - b) / (r - g) == 0; // below 0, but nothing is added to it
-    return fits(r) && fits(g) && fits(b) && !vanishes;
+    const float h = 60 * (g - b) / (r - g);
+    const bool isMinusZero = r >= b && b >= g && h == 0 && std::signbit(h); // not below 0, so that nothing is added
+    return fits(r) && fits(g) && fits(b) && !isMinusZero;
 }
 
 bool isHls(const float* hls) { return hasHls(hls) && hls[0] >= 0 && hls[0] <= 1 && hls[1] != 0; }
