@@ -17,13 +17,16 @@ constexpr ZorSize goodSize{40, 16}; // whole blocks of every function
 
 // One faulty argument. The faults of a function stand in the order of its checks.
 struct Fault {
-    enum Kind { nullImage, badSize, badStep, nullPlane } kind;
+    enum Kind { nullImage, badSize, badStep, nullPlane, badGrid } kind;
     bool ofDestination = false;
     int plane = 0;
 
     ZorStatus status() const
     {
-        return kind == badSize ? zorStatusBadSize : kind == badStep ? zorStatusBadStep : zorStatusNullPointer;
+        return kind == badSize   ? zorStatusBadSize
+               : kind == badStep ? zorStatusBadStep
+               : kind == badGrid ? zorStatusBadArgument
+                                 : zorStatusNullPointer;
     }
 };
 
@@ -48,6 +51,7 @@ std::vector<Fault> faultsOf(const reference::Case& c, const Function& function)
         addPlanes(false);
         addPlanes(true);
         if (c.checks == reference::Checks::pointersFirst) faults.push_back({Fault::badSize});
+        if (c.demosaic) faults.push_back({Fault::badGrid});
     }
     return faults;
 }
@@ -71,7 +75,7 @@ ZorStatus call(const Function& function, const Images& images, const std::vector
                ZorSize badSize)
 {
     interface::Call arguments {
-        images.source.image(), images.destination.image(), goodSize, {}
+        images.source.image(), images.destination.image(), goodSize, function.withScratch({}, goodSize)
     };
     for (std::size_t i = 0; i < faults.size(); ++i) {
         if ((chosen >> i & 1) == 0) continue;
@@ -82,6 +86,8 @@ ZorStatus call(const Function& function, const Images& images, const std::vector
             arguments.size = badSize;
         else if (fault.kind == Fault::badStep)
             image.step[0] = std::min(badSize.width, badSize.height);
+        else if (fault.kind == Fault::badGrid)
+            arguments.extra.grid = badSize.width < 0 ? -1 : 4;
         else if (fault.kind == Fault::nullImage && array)
             arguments.nullArrays[fault.ofDestination] = true;
         else
@@ -96,7 +102,15 @@ testing::AssertionResult checkFaultyArguments(const reference::Case& c, const Fu
 {
     const Images images(function);
     const std::vector<Fault> faults = faultsOf(c, function);
-    constexpr ZorSize badSizes[] = {{0, 4}, {40, 0}, {-1, 4}, {40, -1}, {0, 0}, {INT_MIN, 4}, {40, INT_MIN}};
+    const ZorSize badSizes[] = {{0, 4},
+                                {40, 0},
+                                {-1, 4},
+                                {40, -1},
+                                {0, 0},
+                                {INT_MIN, 4},
+                                {40, INT_MIN},
+                                {c.minimum.width - 1, 16},
+                                {40, c.minimum.height - 1}};
     for (unsigned chosen = 1; chosen < 1u << faults.size(); ++chosen)
         for (const ZorSize badSize : badSizes) {
             const Fault& first = faults[static_cast<std::size_t>(__builtin_ctz(chosen))];

@@ -25,16 +25,30 @@ Arrangement Arrangements::any(Steps steps, Edge edge)
     return a;
 }
 
+ZorRect Arrangements::anyRegion(ZorSize size)
+{
+    if (size.width < 1 || size.height < 1 || heads()) return {0, 0, size.width, size.height};
+    const int x = below(size.width), y = below(size.height);
+    return {x, y, 1 + below(size.width - x + 3), 1 + below(size.height - y + 3)};
+}
+
 testing::AssertionResult Arrangements::check(Checker& checker, ZorSize size)
 {
-    constexpr Steps ways[] = {Steps::tight, Steps::sample, Steps::wide, Steps::isolated};
-    for (const Steps steps : ways)
+    const bool regions = checker.expected().demosaic;
+    const Contents contentsOfSize = anyContents();
+    const std::uint32_t seedOfSize = anySeed();
+    for (const Steps steps : ordinarySteps)
         for (const Edge edge : edges) {
-            const Arrangement one = any(steps, edge), other = any(ways[random() % std::size(ways)], edges[heads()]);
-            const Contents contents = allContents[random() % std::size(allContents)];
-            for (const Trial& trial :
-                 {Trial{size, one, other, contents, anySeed()}, Trial{size, other, one, Contents::random, anySeed()}})
+            const Arrangement one = any(steps, edge), other = any(ordinarySteps[below(4)], edges[heads()]);
+            for (Trial trial : {Trial{size, one, other, anyContents(), anySeed()},
+                                Trial{size, other, one, Contents::random, anySeed()}}) {
+                if (regions) {
+                    trial.contents = contentsOfSize;
+                    trial.seed = seedOfSize;
+                    trial.region = anyRegion(size);
+                }
                 if (auto result = checker.check(trial); !result) return result;
+            }
         }
     return testing::AssertionSuccess();
 }

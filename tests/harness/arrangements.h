@@ -11,17 +11,26 @@ namespace zorcc::test {
 // Of every random choice in the tests: changes from run to run unless ZORCC_TEST_SEED is set. Failures print it.
 std::uint32_t baseSeed();
 
+// Those that any function with steps takes.
+inline constexpr Steps ordinarySteps[] = {Steps::tight, Steps::sample, Steps::wide, Steps::isolated};
+
 class Arrangements {
 public:
     Arrangement any(Steps steps, Edge edge);
     std::uint32_t anySeed() { return static_cast<std::uint32_t>(random()); }
 
-    // Each way to lay out the source, then the destination, from both edges; contents change from trial to trial.
+    // A rectangle with pixels inside the image, which may reach over its right and lower edges; sometimes all of it.
+    ZorRect anyRegion(ZorSize size);
+
+    // Each way to lay out the source, then the destination, from both edges; contents change from trial to trial,
+    // those of mosaics, whose reference takes long, from size to size.
     [[nodiscard]] testing::AssertionResult check(Checker& checker, ZorSize size);
 
 private:
     std::mt19937 random{baseSeed()};
 
+    int below(int count) { return static_cast<int>(random() % static_cast<unsigned>(count)); }
+    Contents anyContents() { return allContents[below(std::size(allContents))]; }
     bool heads() { return random() % 2 != 0; }
 };
 

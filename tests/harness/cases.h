@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The cases of one family of functions.
+// What every function of the library must do, by families of functions, which are those of src.
 #pragma once
 
 #include <span>
@@ -9,17 +9,28 @@
 
 namespace zorcc::test {
 
-// Every function of the family is a case, by the first rule whose name, in which * stands for anything, fits its own.
+// Every function of the table that has this title is a case of one of its families: by the first rule whose name, in
+// which * stands for anything, fits its own.
 struct Family {
-    std::string_view title;
+    std::string_view name, title;
     std::span<const reference::Case> rules;
 };
 
-// Each family's test program defines its own.
-Family family();
+std::span<const Family> families();
 
-// Throws where a function has no rule, or a rule no function.
-std::span<const reference::Case> familyCases();
+// Which rule a function's case is made by; null pointers where there is none.
+struct Rule {
+    const Family* family = nullptr;
+    const reference::Case* expected = nullptr;
+};
+Rule ruleOf(const interface::Function& function);
+
+// Throws where there is no such family.
+std::span<const reference::Case> casesOf(std::string_view family);
+
+#ifdef ZORCC_FAMILY // in the test programs of families
+inline std::span<const reference::Case> familyCases() { return casesOf(ZORCC_FAMILY); }
+#endif
 
 // The interface's row of a case.
 const interface::Function& functionOf(const reference::Case& c);

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <optional>
 #include <string>
 
 #include "tests/harness/contents.h"
@@ -15,10 +16,11 @@
 namespace zorcc::test {
 
 struct Trial {
-    ZorSize size;
+    ZorSize size; // of the source
     Arrangement source = {}, destination = {};
     Contents contents = Contents::random;
     std::uint32_t seed = 1;
+    std::optional<ZorRect> region = std::nullopt; // of the source, where the function takes one
 };
 
 // Keeps its memory from one check to the next.
@@ -26,7 +28,10 @@ class Checker {
 public:
     Checker(const reference::Case& c, const interface::Function& function) : expectation(c), tested(function) {}
 
-    // Status, every byte of the destination and of the memory around its rows, the untouched source; on every tier.
+    const reference::Case& expected() const { return expectation; }
+
+    // Status, every byte of the destination and of the memory around its rows and those of the scratch memory, the
+    // untouched source; on every tier.
     [[nodiscard]] testing::AssertionResult check(const Trial& trial);
 
     // The same with a source that `fillSource` has filled.
@@ -40,11 +45,15 @@ private:
     const reference::Case expectation;
     const interface::Function tested;
     TestImage source, destination;
+    PlaneMemory scratch;
+    interface::Extra extra; // of the trial
 
+    void arrangeSource(const Trial& trial);
+    void arrangeScratch(const Arrangement& arrangement, int width);
     Arrangement allowed(Arrangement arrangement) const;
-    interface::Extra argumentsOf(const Trial& trial) const;
     std::string heading(const Trial& trial, Tier tier) const;
-    testing::AssertionResult runOn(Tier tier, const Trial& trial, const interface::Image& from, TestImage& to);
+    testing::AssertionResult runOn(Tier tier, const Trial& trial, TestImage& to);
+    void expectAsOnFirstTier(Tier tier);
 };
 
 } // namespace zorcc::test

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/harness/contents.h"
 
+#include <bit>
 #include <cstring>
 #include <limits>
 #include <stdexcept>
@@ -38,6 +39,7 @@ public:
         const int x = position++;
         switch (kind) {
         case Contents::random:
+        case Contents::anyFloats:
             return static_cast<T>(random.next());
         case Contents::zeros:
             return 0;
@@ -76,13 +78,44 @@ std::uint16_t sampleOf(std::uint16_t value, std::uint16_t) { return value; }
 std::int16_t sampleOf(std::uint16_t value, std::int16_t) { return static_cast<std::int16_t>(value - 32768); }
 float sampleOf(std::uint16_t value, float) { return static_cast<float>(value) / 65535.0f; }
 
+float anyFloat(Random& random)
+{
+    using Limits = std::numeric_limits<float>;
+    constexpr float special[] = {Limits::quiet_NaN(),
+                                 Limits::infinity(),
+                                 Limits::max(),
+                                 Limits::min(),
+                                 Limits::denorm_min(),
+                                 Limits::epsilon(),
+                                 0,
+                                 1};
+    const std::uint32_t bits = random.next();
+    const float sign = random.below(2) ? 1.0f : -1.0f;
+    switch (random.below(16)) {
+    case 0:
+        return std::bit_cast<float>(bits); // of any magnitude
+    case 1:
+        return sign * special[bits % 8];
+    case 2:
+        return sign * Limits::denorm_min() * static_cast<float>(bits % 100);
+    case 3:
+    case 4:
+        return static_cast<float>(bits) * 0x5p-32f - 2;
+    default:
+        return static_cast<float>(bits % 65536) / 65535;
+    }
+}
+
 template <class T> void fillAs(TestImage& image, Contents contents, std::uint32_t seed)
 {
+    Random random(seed);
     Source<std::conditional_t<sizeof(T) == 1, std::uint8_t, std::uint16_t>> source(contents, seed);
     image.eachRow([&](std::uint8_t* row, int samples, int, int) {
         source.startRow();
         for (int i = 0; i < samples; ++i) {
-            const T value = sampleOf(source.next(), T{});
+            T value = sampleOf(source.next(), T{});
+            if constexpr (std::is_same_v<T, float>)
+                if (contents == Contents::anyFloats) value = anyFloat(random);
             std::memcpy(row + i * sizeof(T), &value, sizeof(T));
         }
     });
@@ -92,8 +125,8 @@ template <class T> void fillAs(TestImage& image, Contents contents, std::uint32_
 
 const char* describe(Contents contents)
 {
-    constexpr const char* names[] = {"random",      "zeros", "maximum", "extremes",
-                                     "alternating", "ramp",  "runs",    "near grey"};
+    constexpr const char* names[] = {
+        "random", "zeros", "maximum", "extremes", "alternating", "ramp", "runs", "near grey", "floats of every kind"};
     return names[static_cast<int>(contents)];
 }
 

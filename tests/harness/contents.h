@@ -16,12 +16,13 @@ enum class Contents {
     alternating, // greatest, least, greatest, ...
     ramp,        // neighbours differ by one step
     runs,        // equal samples, from 1 to 40 of them
-    nearGrey     // a level for all planes of a row, give or take one: differences of channels about zero
+    nearGrey,    // a level for all planes of a row, give or take one: differences of channels about zero
+    anyFloats    // in and out of range, tiny, huge, infinite or no number; random samples of other types
 };
 
 inline constexpr Contents allContents[] = {Contents::random,   Contents::zeros,       Contents::maximum,
                                            Contents::extremes, Contents::alternating, Contents::ramp,
-                                           Contents::runs,     Contents::nearGrey};
+                                           Contents::runs,     Contents::nearGrey,    Contents::anyFloats};
 
 const char* describe(Contents contents);
 

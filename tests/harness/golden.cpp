@@ -4,9 +4,13 @@
 #include <gtest/gtest.h>
 
 #include "interface/functions.h"
+#include "tests/harness/test_image.h"
 #include "tests/harness/tiers.h"
+#include "tests/reference/pixels.h"
 
 namespace zorcc::test {
+
+using reference::Pixels;
 
 namespace {
 
@@ -16,6 +20,20 @@ interface::Image imageOf(const interface::Format& format, int width, std::vector
     interface::setContiguousSteps(format, width, image);
     for (std::size_t p = 0; p < planes.size(); ++p) image.plane[p] = planes[p].data();
     return image;
+}
+
+// Calls visit(channel, x, y, value) for what an image of the repeated colours has.
+template <class Visit> void eachSample(const Pixels& pixels, const Colours& colours, std::size_t count, Visit visit)
+{
+    const bool shared = colours.size() != 3 * count;
+    for (int y = 0; y < pixels.height(); ++y)
+        for (int x = 0; x < pixels.width(); ++x)
+            for (int c = 0; c < 3; ++c) {
+                if (!pixels.has(c, x, y) || testing::Test::HasFatalFailure()) continue;
+                const std::size_t pixel =
+                    static_cast<std::size_t>(count == 1 ? 0 : x % 2 + (count == 4 ? y % 2 * 2 : 0));
+                visit(c, x, y, colours[!shared ? 3 * pixel + c : c == 0 ? pixel : count + c - 1]);
+            }
 }
 
 } // namespace
@@ -33,6 +51,35 @@ void expectGolden(const GoldenCall& golden)
                   golden.status)
             << golden.function << " on " << nameOf(tier);
         EXPECT_EQ(destination, golden.destination) << golden.function << " on " << nameOf(tier);
+    }
+}
+
+void expectGolden(const GoldenColours& golden)
+{
+    const std::size_t count = golden.source.size() / 3;
+    for (const std::string_view name : golden.functions) {
+        const interface::Function* const function = interface::findFunction(name);
+        ASSERT_TRUE(function) << name;
+        const bool floats = function->source->sample == interface::Sample::f32;
+        const ZorSize size{golden.width, 2}, used{golden.width & (function->destination->log2Y() > 0 ? ~1 : ~0), 2};
+        TestImage source, destination;
+        source.arrange(*function->source, size, used, {}, sourceSteps(function->signature));
+        Pixels from(*function->source, source.image(), used);
+        eachSample(from, golden.source, count, [&](int c, int x, int y, double value) {
+            floats ? from.putFloat(c, x, y, static_cast<float>(value)) : from.put(c, x, y, static_cast<int>(value));
+        });
+        for (const Tier tier : tiersHere()) {
+            const OnTier chosen(tier);
+            destination.arrange(*function->destination, size, used, {}, destinationSteps(function->signature));
+            destination.fillPattern(1);
+            ASSERT_EQ((*function)(source.image(), destination.image(), size), zorStatusOk) << name;
+            const Pixels to(*function->destination, destination.image(), used);
+            eachSample(to, golden.destination, count, [&](int c, int x, int y, double value) {
+                ASSERT_EQ(floats ? double{to.getFloat(c, x, y)} : to.get(c, x, y), value)
+                    << name << " on " << nameOf(tier) << ", channel " << c << ", (" << x << ", " << y << "), of "
+                    << testing::PrintToString(golden.source);
+            });
+        }
     }
 }
 

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Calls with images that are written out plane by plane, so that a test says what a format is, and what a formula
-// gives.
+// Calls with results that are worked out outside the program.
 #pragma once
 
 #include <cstdint>
@@ -16,7 +15,8 @@ using Bytes = std::vector<std::uint8_t>;
 // What the destination holds before the call.
 inline constexpr std::uint8_t kept = 0xee;
 
-// Rows follow each other without gaps. A plane may be longer than its rows.
+// Images that are written out plane by plane, so that a test says what a format is. Rows follow each other without
+// gaps. A plane may be longer than its rows.
 struct GoldenCall {
     std::string_view function;
     ZorSize size;
@@ -26,5 +26,18 @@ struct GoldenCall {
 
 // On every tier.
 void expectGolden(const GoldenCall& golden);
+
+using Colours = std::vector<double>;
+
+// Functions of one formula, whatever their formats, on an image of one colour, or of one pair of pixels (of a row) or
+// block (of two rows) that is repeated. The channels of the pixels follow each other in the order of their meaning, R,
+// G, B or Y, Cb, Cr; of a destination whose pixels share chroma there is the luma of each, then Cb and Cr.
+struct GoldenColours {
+    std::vector<std::string_view> functions;
+    Colours source, destination;
+    int width = 48;
+};
+
+void expectGolden(const GoldenColours& golden);
 
 } // namespace zorcc::test

@@ -6,7 +6,7 @@
 
 #include "tests/harness/argument_checks.h"
 #include "tests/harness/arrangements.h"
-#include "tests/reference/sampling.h"
+#include "tests/reference/chromasampling.h"
 #include "tests/reference/yuv.h"
 #include "zorcc.h"
 

@@ -5,6 +5,7 @@
 
 #include <stdexcept>
 
+#include "tests/reference/mosaic.h"
 #include "tests/reference/pixels.h"
 #include "tests/reference/yuv.h"
 
@@ -58,10 +59,14 @@ void fill(TestImage& image, const Picture& picture)
     }
     const Pixels from(yuv ? formats::yuva : formats::rgba, pixels, picture.size);
     Pixels to(image.format(), image.image(), image.size());
+    const reference::Mosaic mosaic{picture.size, zorBayerRGGB, 255};
     for (int y = 0; y < image.usedSize().height; ++y)
         for (int x = 0; x < image.usedSize().width; ++x)
-            for (int c = 0; c < reference::channels; ++c)
-                if (to.has(c, x, y)) put(to, c, x, y, image.format(), from.get(c, x, y));
+            if (image.format().model == Model::mosaic)
+                put(to, 0, x, y, image.format(), from.get(mosaic.colour(x, y), x, y));
+            else
+                for (int c = 0; c < reference::channels; ++c)
+                    if (to.has(c, x, y)) put(to, c, x, y, image.format(), from.get(c, x, y));
 }
 
 } // namespace zorcc::test

@@ -18,7 +18,8 @@ struct Picture {
 // Throws when the file cannot be read.
 Picture readPng(const std::string& path);
 
-// The colours of the picture, converted and subsampled as the image's format wants them.
+// The colours of the picture, converted and subsampled as the image's format wants them; of a mosaic, whose first row
+// begins with red and green, one at every pixel.
 void fill(TestImage& image, const Picture& picture);
 
 } // namespace zorcc::test

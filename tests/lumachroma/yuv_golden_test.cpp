@@ -2,46 +2,28 @@
 // Results worked out by hand from the formulas.
 #include <gtest/gtest.h>
 
-#include <array>
-#include <vector>
-
 #include "tests/harness/golden.h"
-#include "tests/harness/test_image.h"
-#include "tests/harness/tiers.h"
-#include "tests/reference/pixels.h"
 
 namespace zorcc::test {
 namespace {
 
-using interface::Function;
-using reference::Pixels;
-using Colour = std::array<int, 3>;
-
-// An image of one colour gives an image of one colour.
-struct Golden {
-    std::vector<const char*> functions;
-    Colour source, destination;
-    int width = 48;
-};
-
 // Functions of one formula.
-const std::vector<const char*> toYuv = {"zoriRGBToYUV_8u_C3R", "zoriRGBToYUV_8u_AC4R", "zoriRGBToYUV_8u_AC4P4R",
-                                        "zoriRGBToYUV_8u_C3P3R"};
-const std::vector<const char*> toYuvMatrix = {"zoriRGBToYUV_8u_P3R"};
-const std::vector<const char*> toPairs = {"zoriRGBToYUV422_8u_C3C2R", "zoriRGBToYUV422_8u_C3P3R",
-                                          "zoriRGBToYUV422_8u_C3P3", "zoriRGBToYUV422_8u_P3R", "zoriRGBToYUV422_8u_P3"};
-const std::vector<const char*> toBlocksQ14 = {"zoriRGBToYUV420_8u_C3P3R", "zoriRGBToYUV420_8u_C3P3"};
-const std::vector<const char*> toBlocksQ16 = {"zoriRGBToYUV420_8u_P3R", "zoriRGBToYUV420_8u_P3",
-                                              "zoriBGRToYUV420_8u_AC4P3R"};
-const std::vector<const char*> from565 = {"zoriRGB565ToYUV420_16u8u_C3P3R", "zoriRGB565ToYUV422_16u8u_C3P3R"};
-const std::vector<const char*> toRgb = {
-    "zoriYUVToRGB_8u_C3R",     "zoriYUVToRGB_8u_AC4R",   "zoriYUV422ToRGB_8u_C2C3R", "zoriYUV422ToRGB_8u_P3C3R",
-    "zoriYUV422ToRGB_8u_P3C3", "zoriYUV422ToRGB_8u_P3R", "zoriYUV422ToRGB_8u_P3",    "zoriYUV420ToRGB_8u_P3C3R",
-    "zoriYUV420ToRGB_8u_P3C3", "zoriYUV420ToRGB_8u_P3R", "zoriYUV420ToRGB_8u_P3",    "zoriYUV420ToBGR_8u_P3C3R"};
-const std::vector<const char*> toRgbPlanarWeights = {"zoriYUVToRGB_8u_P3C3R", "zoriYUVToRGB_8u_P3R"};
-const std::vector<const char*> toRgbRounded = {"zoriYUV422ToRGB_8u_P3AC4R", "zoriYUV420ToRGB_8u_P3AC4R"};
+using Names = std::vector<std::string_view>;
+const Names toYuv = {"zoriRGBToYUV_8u_C3R", "zoriRGBToYUV_8u_AC4R", "zoriRGBToYUV_8u_AC4P4R", "zoriRGBToYUV_8u_C3P3R"};
+const Names toYuvMatrix = {"zoriRGBToYUV_8u_P3R"};
+const Names toPairs = {"zoriRGBToYUV422_8u_C3C2R", "zoriRGBToYUV422_8u_C3P3R", "zoriRGBToYUV422_8u_C3P3",
+                       "zoriRGBToYUV422_8u_P3R", "zoriRGBToYUV422_8u_P3"};
+const Names toBlocksQ14 = {"zoriRGBToYUV420_8u_C3P3R", "zoriRGBToYUV420_8u_C3P3"};
+const Names toBlocksQ16 = {"zoriRGBToYUV420_8u_P3R", "zoriRGBToYUV420_8u_P3", "zoriBGRToYUV420_8u_AC4P3R"};
+const Names from565 = {"zoriRGB565ToYUV420_16u8u_C3P3R", "zoriRGB565ToYUV422_16u8u_C3P3R"};
+const Names toRgb = {"zoriYUVToRGB_8u_C3R",      "zoriYUVToRGB_8u_AC4R",     "zoriYUV422ToRGB_8u_C2C3R",
+                     "zoriYUV422ToRGB_8u_P3C3R", "zoriYUV422ToRGB_8u_P3C3",  "zoriYUV422ToRGB_8u_P3R",
+                     "zoriYUV422ToRGB_8u_P3",    "zoriYUV420ToRGB_8u_P3C3R", "zoriYUV420ToRGB_8u_P3C3",
+                     "zoriYUV420ToRGB_8u_P3R",   "zoriYUV420ToRGB_8u_P3",    "zoriYUV420ToBGR_8u_P3C3R"};
+const Names toRgbPlanarWeights = {"zoriYUVToRGB_8u_P3C3R", "zoriYUVToRGB_8u_P3R"};
+const Names toRgbRounded = {"zoriYUV422ToRGB_8u_P3AC4R", "zoriYUV420ToRGB_8u_P3AC4R"};
 
-const Golden goldenColours[] = {
+const GoldenColours goldenColours[] = {
     {toYuv, {255, 255, 255}, {255, 128, 128}},
     {toYuv, {0, 0, 0}, {0, 128, 128}},
     {toYuv, {0, 0, 255}, {29, 239, 102}},
@@ -80,35 +62,7 @@ const Golden goldenColours[] = {
 
 TEST(YuvGolden, Colours)
 {
-    for (const Golden& golden : goldenColours)
-        for (const char* name : golden.functions) {
-            const Function* function = interface::findFunction(name);
-            ASSERT_TRUE(function) << name;
-            const ZorSize size{golden.width, 2};
-            const ZorSize used{golden.width & (function->destination->log2Y() > 0 ? ~1 : ~0), 2};
-            TestImage source, destination;
-            source.arrange(*function->source, size, used, {}, sourceSteps(function->signature));
-            Pixels from(*function->source, source.image(), used);
-            for (int y = 0; y < used.height; ++y)
-                for (int x = 0; x < used.width; ++x)
-                    for (int c = 0; c < 3; ++c)
-                        if (from.has(c, x, y)) from.put(c, x, y, golden.source[c]);
-            for (const Tier tier : tiersHere()) {
-                const OnTier chosen(tier);
-                destination.arrange(*function->destination, size, used, {}, destinationSteps(function->signature));
-                destination.fillPattern(1);
-                ASSERT_EQ((*function)(source.image(), destination.image(), size), zorStatusOk) << name;
-                const Pixels to(*function->destination, destination.image(), used);
-                for (int y = 0; y < used.height; ++y)
-                    for (int x = 0; x < used.width; ++x)
-                        for (int c = 0; c < 3; ++c) {
-                            if (!to.has(c, x, y)) continue;
-                            ASSERT_EQ(to.get(c, x, y), golden.destination[c])
-                                << name << " on " << nameOf(tier) << ", channel " << c << ", (" << x << ", " << y
-                                << ")";
-                        }
-            }
-        }
+    for (const GoldenColours& golden : goldenColours) expectGolden(golden);
 }
 
 TEST(YuvGolden, Bytes)

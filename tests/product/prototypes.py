@@ -28,7 +28,7 @@ findings = Findings()
 findings.same(rows, set(declared) - {"zorccGetLibVersion"}, "the table", "the header")
 for name in set(rows) & set(declared):
     result, parameters = declared[name]
-    arguments = [ALIASES.get(argument, argument) for argument in rows[name][1]]
+    arguments = [ALIASES.get(argument, argument) for argument in rows[name]]
     images = parameters[:len(parameters) - len(arguments)]
     found = [re.split(r"[ *]", parameter)[-1] for parameter in parameters[len(images):]]
     form = ", ".join(images)

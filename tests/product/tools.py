@@ -31,17 +31,12 @@ def prototypes(header):
 
 
 def table_rows(table):
-    """{name: (title of its family, [names of its arguments])} of the functions of the interface table."""
-    rows, family = {}, None
+    """{name: [names of its arguments beside images and size]} of the functions of the interface table."""
     with open(table, encoding="ascii") as file:
-        for title, name, arguments in re.findall(r'^ZOR_(?:FAMILY\("(.*)"\)|FUNCTION\((\w+)(.*)\))$', file.read(), re.M):
-            if title:
-                family = title
-            else:
-                rows[name] = family, arguments.split(", ")[1:]
+        rows = re.findall(r"^ZOR_FUNCTION\((\w+)(?:, )?(.*)\)$", file.read(), flags=re.M)
     if not rows:
         sys.exit(f"{table}: no functions found")
-    return rows
+    return {name: arguments.split(", ") if arguments else [] for name, arguments in rows}
 
 
 class Findings:

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "interface/functions.h"
+#include "tests/reference/mosaic.h"
 #include "tests/reference/pixels.h"
 
 namespace zorcc::reference {
@@ -17,7 +18,7 @@ using Reference = void (*)(const Pixels& source, Pixels& destination);
 using ImageReference = void (*)(const interface::Function& function, const interface::Image& source,
                                 const interface::Image& destination, ZorSize size, const interface::Extra& extra);
 
-// Arguments behind the size for a trial: the same seed gives the same ones.
+// Arguments beside images and size for a trial: the same seed gives the same ones.
 using Arguments = interface::Extra (*)(const interface::Function& function, std::uint32_t seed);
 
 enum class OddSize {
@@ -29,7 +30,7 @@ enum class OddSize {
 
 // In which order arguments are checked.
 enum class Checks {
-    sizeFirst,     // images, size, planes of arrays
+    sizeFirst,     // images, size, planes of arrays, grid of a mosaic
     pointersFirst, // images and planes, size
     stepsFirst     // image after image with its planes, steps, size
 };
@@ -42,6 +43,9 @@ struct Case {
     ZorSize block = {2, 2}, minimum = {1, 1};
     ImageReference imageReference = nullptr; // given: in place of the other
     Arguments arguments = nullptr;
+    Demosaic demosaic = nullptr; // given: in place of both; converts a region of a larger image
+    // Whether the formula says what becomes of a pixel of floats; null: of every one.
+    bool (*defined)(const float* pixel) = nullptr;
 };
 
 inline ZorStatus statusOf(const Case& c, ZorSize size)
@@ -53,13 +57,22 @@ inline ZorStatus statusOf(const Case& c, ZorSize size)
                                            : zorStatusOk;
 }
 
-// The pixels of an image that the function may touch.
+// The pixels of the source that the function may touch.
 inline ZorSize usedSize(const Case& c, ZorSize size)
 {
     if (statusOf(c, size) < 0) return {0, 0};
     if (c.oddSize == OddSize::plain) return size;
     return {size.width - size.width % c.block.width, size.height - size.height % c.block.height};
 }
+
+// The pixels of a region that are inside an image.
+ZorRect inside(ZorRect region, ZorSize size);
+
+// The size of the destination, and the pixels of it that the function may touch.
+struct DestinationSize {
+    ZorSize whole, used;
+};
+DestinationSize destinationSize(const Case& c, ZorSize size, const interface::Extra& extra);
 
 // Writes what the function must write, alpha included, into a destination that holds what it held before.
 void convert(const Case& c, const interface::Function& function, const interface::Image& source,

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <tuple>
 
 namespace zorcc::reference {
 
@@ -150,5 +151,16 @@ void hsvToRgb(const Pixels& source, Pixels& destination)
     eachPixel(source,
               [&](int x, int y) { write(destination, x, y, rgbOfHsv(read(source, x, y), typeOf(source)), rounded); });
 }
+
+bool hasHls(const float* rgb)
+{
+    const auto fits = [](float v) { return std::abs(v) < 1e15f; }; // and is a number
+    const auto [r, g, b] = std::tuple{rgb[0], rgb[1], rgb[2]};
+    const float h = 60 * (g - b) / (r - g);
+    const bool isMinusZero = r >= b && b >= g && h == 0 && std::signbit(h); // not below 0, so that nothing is added
+    return fits(r) && fits(g) && fits(b) && !isMinusZero;
+}
+
+bool isHls(const float* hls) { return hasHls(hls) && hls[0] >= 0 && hls[0] <= 1 && hls[1] != 0; }
 
 } // namespace zorcc::reference

@@ -2,7 +2,6 @@
 // Demosaicing as its descriptions say it, pixel by pixel.
 #pragma once
 
-#include <cstdint>
 #include <vector>
 
 #include "tests/reference/pixels.h"
@@ -16,6 +15,12 @@ struct Mosaic {
     std::vector<int> samples = std::vector<int>(static_cast<std::size_t>(size.width) * size.height);
 
     Channel colour(int x, int y) const;
+
+    bool operator!=(const Mosaic& other) const
+    {
+        return size.width != other.size.width || grid != other.grid || maximum != other.maximum ||
+               samples != other.samples;
+    }
 
     int& operator()(int x, int y) { return samples[static_cast<std::size_t>(y) * size.width + x]; }
 

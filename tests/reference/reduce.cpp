@@ -209,6 +209,14 @@ double thresholdValue(float sample, float threshold, float white, float destinat
     return white == destinationWhite ? double{q} : levelValue(k, destinationWhite, levels);
 }
 
+int mostLevels(const Function& function)
+{
+    return interface::sampleBytes(function.source->sample) == 2 &&
+                   interface::sampleBytes(function.destination->sample) == 2
+               ? 65536
+               : 256;
+}
+
 void reduceBits(const Function& function, const Image& source, const Image& destination, ZorSize size,
                 const Extra& extra)
 {

@@ -20,6 +20,9 @@ float bayerThreshold(int x, int y);
 double plainValue(float sample, float white, float destinationWhite, int levels);
 double thresholdValue(float sample, float threshold, float white, float destinationWhite, int levels);
 
+// The greatest number of levels that a function takes.
+int mostLevels(const interface::Function& function);
+
 // A whole image.
 void reduceBits(const interface::Function& function, const interface::Image& source,
                 const interface::Image& destination, ZorSize size, const interface::Extra& extra);

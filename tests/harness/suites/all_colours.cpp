@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
-// All 2^24 colours of three 8-bit channels through one function of every reference.
+// All 2^24 colours of three 8-bit channels through one function of every reference, and of 16-bit channels all values
+// of each with a grid of the others.
 #include <gtest/gtest.h>
 
+#include <iterator>
 #include <vector>
 
 #include "tests/harness/cases.h"
@@ -42,15 +44,35 @@ void fillColours(TestImage& image, int first)
         }
 }
 
-// The first function of each reference with samples of its own for every channel.
+constexpr int grid[] = {0, 1, 13107, 21845, 32767, 32768, 43691, 54321, 65534, 65535};
+constexpr int gridSize = static_cast<int>(std::size(grid)), sweeps = 3 * gridSize * gridSize;
+
+// All values of a channel, each with the same two of the others.
+void fillSweep(TestImage& image, int sweep)
+{
+    Pixels pixels(image.format(), image.image(), band);
+    const int channel = sweep % 3, others[] = {grid[sweep / 3 % gridSize], grid[sweep / 3 / gridSize]};
+    const int offset = image.format().sample == interface::Sample::s16 ? 32768 : 0;
+    for (int y = 0; y < band.height; ++y)
+        for (int x = 0; x < band.width; ++x) {
+            const int values[] = {scattered(y * band.width + x, 65536), others[0], others[1]};
+            for (int c = 0; c < 3; ++c) pixels.put((channel + c) % 3, x, y, values[c] - offset);
+        }
+}
+
+bool isBytes(const Case& c) { return functionOf(c).source->sample == interface::Sample::u8; }
+
+// The first function of each reference and type of integers with samples of its own for every channel.
 std::vector<Case> oneCaseOfEachReference()
 {
     std::vector<Case> chosen;
     for (const Case& c : familyCases()) {
         const interface::Format& source = *functionOf(c).source;
-        const bool fits = source.sample == interface::Sample::u8 && source.channels.size() == 3;
+        const bool fits = source.sample != interface::Sample::f32 && source.channels.size() == 3 &&
+                          source.layout != interface::Layout::packedBits;
         bool seen = false;
-        for (const Case& other : chosen) seen |= other.reference == c.reference;
+        for (const Case& other : chosen)
+            seen |= other.reference == c.reference && functionOf(other).source->sample == source.sample;
         if (fits && !seen) chosen.push_back(c);
     }
     return chosen;
@@ -61,9 +83,11 @@ class AllColours : public testing::TestWithParam<Case> {};
 TEST_P(AllColours, SameAsReference)
 {
     Checker checker(GetParam(), functionOf(GetParam()));
-    for (int first = 0; first < colours; first += band.width * band.height)
-        ASSERT_TRUE(checker.check({band, {Steps::sample}, {Steps::sample}},
-                                  [&](TestImage& image) { fillColours(image, first); }))
+    const Trial trial{band, {Steps::sample}, {Steps::sample}};
+    for (int sweep = 0; !isBytes(GetParam()) && sweep < sweeps; ++sweep)
+        ASSERT_TRUE(checker.check(trial, [&](TestImage& image) { fillSweep(image, sweep); })) << "sweep " << sweep;
+    for (int first = 0; isBytes(GetParam()) && first < colours; first += band.width * band.height)
+        ASSERT_TRUE(checker.check(trial, [&](TestImage& image) { fillColours(image, first); }))
             << "colours from " << first;
 }
 

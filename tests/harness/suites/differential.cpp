@@ -70,7 +70,7 @@ TEST_P(Differential, TallColumn)
 // Row times step passes what an int can hold.
 TEST_P(Differential, HugeSteps)
 {
-    if (!functionOf(GetParam()).signature.steps) return; // takes no steps
+    if (!functionOf(GetParam()).signature.steps) GTEST_SKIP() << "takes no steps";
     for (const int width : {1, 33, 200})
         for (const bool upwards : {false, true}) {
             const Arrangement near{Steps::sample}, far{Steps::huge, upwards};
@@ -89,7 +89,7 @@ TEST_P(Differential, InPlace)
     for (int p = 0; p < from.planes; ++p)
         sameShape = sameShape && from.plane[p].samples == to.plane[p].samples &&
                     from.plane[p].log2X == to.plane[p].log2X && from.plane[p].log2Y == to.plane[p].log2Y;
-    if (!sameShape) return;
+    if (!sameShape) GTEST_SKIP() << "images of two shapes";
     for (int width = 1; width <= 200; ++width)
         for (const Steps steps : {Steps::tight, Steps::wide, Steps::isolated})
             for (const Edge edge : edges) {

@@ -25,7 +25,7 @@ TEST_P(Threads, AnyNumber)
     Checker checker(GetParam(), functionOf(GetParam()));
     for (const int threads : {1, 2, 3, 4, 5, 6, 7, 8, 40}) {
         ASSERT_EQ(zorSetNumThreads(threads), zorStatusOk);
-        for (const ZorSize size : {ZorSize{65, 37}, {641, 203}, {128, 160}, {128, 129}, {130, 140}})
+        for (const ZorSize size : {ZorSize{65, 37}, {641, 203}, {128, 160}, {128, 129}, {130, 140}, {196, 196}})
             ASSERT_TRUE(checker.check({size, {Steps::sample}, {Steps::sample}})) << threads << " threads";
     }
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "tests/reference/sampling.h"
+#include "tests/reference/chromasampling.h"
 
 #include <algorithm>
 

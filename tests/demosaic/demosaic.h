@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+// Mosaics through a function of the library.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <string_view>
+#include <utility>
+
+#include "tests/harness/cases.h"
+#include "tests/harness/test_image.h"
+#include "tests/harness/tiers.h"
+
+namespace zorcc::test {
+
+using reference::green;
+using reference::Mosaic;
+using reference::Picture;
+using Rgb = std::array<int, 3>;
+
+inline constexpr ZorBayerGrid grids[] = {zorBayerBGGR, zorBayerRGGB, zorBayerGBRG, zorBayerGRBG};
+
+inline Rgb at(const Picture& picture, int x, int y) { return {picture(x, y, 0), picture(x, y, 1), picture(x, y, 2)}; }
+
+// What the function makes of a whole mosaic, on the active tier.
+inline Picture run(const interface::Function& function, const Mosaic& mosaic)
+{
+    const auto [width, height] = mosaic.size;
+    TestImage source, destination;
+    source.arrange(*function.source, mosaic.size, mosaic.size, {}, StepArguments::one);
+    destination.arrange(*function.destination, mosaic.size, mosaic.size, {}, StepArguments::one);
+    reference::Pixels from(*function.source, source.image(), mosaic.size);
+    for (int y = 0; y < height; ++y)
+        for (int x = 0; x < width; ++x) from.put(0, x, y, mosaic(x, y));
+    EXPECT_EQ(function(source.image(), destination.image(), mosaic.size, {.grid = mosaic.grid}), zorStatusOk);
+    Picture picture{mosaic.size};
+    const reference::Pixels to(*function.destination, destination.image(), mosaic.size);
+    for (int y = 0; y < height; ++y)
+        for (int x = 0; x < width; ++x)
+            for (int c = 0; c < 3; ++c) picture(x, y, c) = to.get(c, x, y);
+    return picture;
+}
+
+// A mosaic of samples that are given by their place.
+template <class Sample> Mosaic mosaicOf(ZorSize size, ZorBayerGrid grid, int maximum, Sample sample)
+{
+    Mosaic mosaic{size, grid, maximum};
+    for (int y = 0; y < size.height; ++y)
+        for (int x = 0; x < size.width; ++x) mosaic(x, y) = sample(x, y);
+    return mosaic;
+}
+
+class OnEveryTier : public testing::TestWithParam<Tier> {
+    OnTier chosen{GetParam()};
+};
+
+} // namespace zorcc::test

@@ -1,0 +1,102 @@
+// SPDX-License-Identifier: MIT
+// Lines of the tables of operations. All of it has internal linkage and uses no function of the standard library, so
+// that no code of one tier can stand in for another's.
+#pragma once
+
+#include <type_traits>
+#include <utility>
+
+#include "operation.h"
+#include "simd/vec.h"
+
+namespace zorcc::ZORCC_TIER {
+namespace {
+
+using test::Operation;
+
+template <class V> using ElementOf = std::remove_cvref_t<decltype(V{}[0])>;
+
+// A vector's elements.
+template <class V> struct Elements {
+    using Element = ElementOf<V>;
+    Element e[sizeof(V) / sizeof(Element)];
+    const Element& operator[](int i) const { return e[i]; }
+    static constexpr int blockSize = 16 / sizeof(Element);
+};
+
+template <class E, class Value> void storeElement(uint8_t* out, int i, Value value)
+{
+    const E element = static_cast<E>(value);
+    __builtin_memcpy(out + i * sizeof element, &element, sizeof element);
+}
+
+// An operation on vectors V; element i of its result, of type E, is onElements(i, elements of each V).
+template <class E, class... V, class OnVectors, class OnElements>
+constexpr Operation operation(const char* name, OnVectors, OnElements)
+{
+    using Result = decltype(OnVectors{}(V{}...));
+    return {name, int{sizeof...(V)} * vectorBytes, int{sizeof(Result)},
+            [](const uint8_t* in, uint8_t* out) {
+                [&]<int... k>(std::integer_sequence<int, k...>)
+                {
+                    static_cast<void>(in); // where there are no vectors
+                    store(out, OnVectors{}(load<V>(in + k * vectorBytes)...));
+                }
+                (std::make_integer_sequence<int, sizeof...(V)>{});
+            },
+            [](const uint8_t* in, uint8_t* out) {
+                [&]<int... k>(std::integer_sequence<int, k...>)
+                {
+                    static_cast<void>(in);
+                    for (int i = 0; i < int{sizeof(Result) / sizeof(E)}; ++i)
+                        storeElement<E>(out, i, OnElements{}(i, load<Elements<V>>(in + k * vectorBytes)...));
+                }
+                (std::make_integer_sequence<int, sizeof...(V)>{});
+            }};
+}
+
+// An operation from memory to memory; element i of what it writes is onElements(i, elements of type T that it reads).
+template <class E, class T, int inBytes, int outBytes, class OnMemory, class OnElements>
+constexpr Operation memory(const char* name, OnMemory, OnElements)
+{
+    return {name, inBytes, outBytes, [](const uint8_t* in, uint8_t* out) { OnMemory{}(in, out); },
+            [](const uint8_t* in, uint8_t* out) {
+                T elements[inBytes / sizeof(T)];
+                __builtin_memcpy(elements, in, inBytes);
+                for (int i = 0; i < outBytes / int{sizeof(E)}; ++i)
+                    storeElement<E>(out, i, OnElements{}(i, static_cast<const T*>(elements)));
+            }};
+}
+
+// The function of elements for each place of vectors.
+template <class F> constexpr auto each(F)
+{
+    return [](int i, const auto&... v) { return F{}(v[i]...); };
+}
+
+// For each place j of each block.
+template <class F> constexpr auto inBlocks(F)
+{
+    return [](int i, const auto& first, const auto&... v) {
+        constexpr int n = std::remove_cvref_t<decltype(first)>::blockSize;
+        return F{}(i % n, first.e + i / n * n, (v.e + i / n * n)...);
+    };
+}
+
+template <class T, class Value> constexpr T saturated(Value value)
+{
+    constexpr long long bits = 8 * sizeof(T), least = T(-1) < T(0) ? -(1ll << (bits - 1)) : 0,
+                        most = least + (1ll << bits) - 1;
+    return static_cast<T>(value < least ? least : value > most ? most : value);
+}
+
+template <int count> constexpr test::Operations table(const Operation (&operations)[count])
+{
+    return {operations, count};
+}
+
+} // namespace
+} // namespace zorcc::ZORCC_TIER
+
+// A function, or an overloaded one, as an argument.
+#define ZORCC_ON(function) [](auto... v) { return function(v...); }
