@@ -8,7 +8,7 @@ namespace zorcc::test {
 namespace {
 
 const GoldenColours goldens[] = {
-    // S 165.75, H 0.153846 * 42.5 = 6.54: truncated in whole blocks of four, rounded behind them.
+    // S 165.75, H 0.153846 * 42.5 = 6.54: truncated in whole blocks of four, rounded after them.
     {{"zoriRGBToHSV_8u_C3R"}, {200, 90, 70}, {6, 165, 200}},
     {{"zoriRGBToHSV_8u_C3R"}, {200, 90, 70}, {7, 166, 200}, 3},
     {{"zoriRGBToHSV_8u_C3R"}, {0, 0, 0}, {0, 0, 0}},

@@ -27,6 +27,7 @@ constexpr Case toInterleaved{"zoriYUV420ToRGB_8u_P3C3R", reference::subsampledYu
 // Semi-planar to planar, where every pointer comes before the size.
 constexpr Case semiPlanar{
     "zoriYCbCr420_8u_P2P3R", reference::moveChroma, OddSize::cutOff, Checks::pointersFirst, {2, 2}, {2, 2}};
+constexpr Case mosaic{.name = "zoriCFAToRGB_8u_C1C3R", .minimum = {2, 2}, .demosaic = reference::alongGradients};
 
 const Function& sound(const Case& c) { return *interface::findFunction(c.name); }
 
@@ -84,7 +85,7 @@ ZorStatus oneByteTooFar(const Call& call)
 
 TEST(Harness, PassesWhatIsRight)
 {
-    for (const Case& c : {interleaved, withAlpha, planar422, planar420, toInterleaved, semiPlanar})
+    for (const Case& c : {interleaved, withAlpha, planar422, planar420, toInterleaved, semiPlanar, mosaic})
         EXPECT_TRUE(sweep(c, sound(c)));
     EXPECT_FALSE(isCaught(interleaved, [](const Call& call) { return damaged(call, [](Byte*, int) {}); }));
 }
@@ -222,6 +223,20 @@ TEST(Harness, KnowsLayouts)
     }));
 }
 
+TEST(Harness, KnowsRegions)
+{
+    EXPECT_TRUE(isCaught(mosaic, [](const Call& call) { // forgets the region
+        Call fixed = call;
+        fixed.extra.region.reset();
+        return right(mosaic, fixed);
+    }));
+    EXPECT_TRUE(isCaught(mosaic, [](const Call& call) { // takes the region's first pixel for the image's
+        Call moved = call;
+        if (const auto& region = call.extra.region) moved.extra.grid ^= region->x & 1 ? 2 : 0;
+        return right(mosaic, moved);
+    }));
+}
+
 TEST(Harness, CatchesDamageInPlace)
 {
     EXPECT_TRUE(Checker(interleaved, sound(interleaved)).checkInPlace({{33, 3}}));
@@ -248,7 +263,12 @@ TEST(Harness, SaysWhere)
 TEST(Harness, CatchesWrongChecks)
 {
     const auto isCaught = [](const Case& c, Body body) { return !checkFaultyArguments(c, withBody(c, body)); };
-    for (const Case& c : {interleaved, planar422, semiPlanar}) EXPECT_TRUE(checkFaultyArguments(c, sound(c)));
+    for (const Case& c : {interleaved, planar422, semiPlanar, mosaic}) EXPECT_TRUE(checkFaultyArguments(c, sound(c)));
+    EXPECT_TRUE(isCaught(mosaic, [](const Call& call) { // forgets the grid
+        Call fixed = call;
+        fixed.extra.grid &= 3;
+        return right(mosaic, fixed);
+    }));
     EXPECT_TRUE(isCaught(interleaved, [](const Call& call) -> ZorStatus { // the size before pointers
         return call.size.width < 1 || call.size.height < 1 ? zorStatusBadSize : right(interleaved, call);
     }));
