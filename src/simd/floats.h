@@ -51,16 +51,18 @@ template <int sign> ZORCC_INLINE s32v addWhereBothWithin(s32v count, f32v a, f32
 }
 
 // v / divisor, rounded as a division does, for 60 and 360: v times the reciprocal in two terms, of which the second
-// makes up for what the first lacks, is the quotient for every significand. Quotients that are too small to have all
-// digits are rare.
+// makes up for what the first lacks, is the quotient for every significand. Only where the second term may have lost
+// digits (below 2^-64), or where there are no digits (infinity, NaN), it takes a division.
 template <int divisor> ZORCC_INLINE f32v divideBy(f32v v)
 {
     static_assert(divisor == 60 || divisor == 360);
 #if defined(ZORCC_TIER_avx512)
     constexpr float most = static_cast<float>(1.0 / divisor), rest = static_cast<float>(1.0 / divisor - double{most});
-    constexpr int subnormal = 0x20;
+    constexpr uint32_t least = 0x1f800000, infinity = 0x7f800000; // bits of 2^-64
     const __m512 quotient = _mm512_fmadd_ps(reg(v), reg(fillFloat(most)), reg(v * rest));
-    if (!_mm512_fpclass_ps_mask(quotient, subnormal)) [[likely]]
+    const u32v size = (u32v)quotient & 0x7fffffff;
+    const __mmask16 notZero = _mm512_test_epi32_mask(reg(size), reg(size));
+    if (!_mm512_mask_cmpge_epu32_mask(notZero, reg(size - least), reg(u32v{} + (infinity - least)))) [[likely]]
         return (f32v)quotient;
 #endif
     return v / float{divisor};
