@@ -54,7 +54,6 @@
 #include "zorcc/reduce.h" /* bit-depth reduction */
 
 /* Bayer mosaics */
-#include "zorcc/bayer.h"       /* along the smaller gradient */
-#include "zorcc/demosaicahd.h" /* adaptive homogeneity-directed */
+#include "zorcc/demosaic.h" /* along the smaller gradient, and adaptive homogeneity-directed */
 
 #endif

@@ -1,7 +1,5 @@
 // SPDX-License-Identifier: MIT
 // Row drivers of the gradient-directed Bayer interpolation, compiled once for every tier.
-#include "demosaic/bayer_rows.h"
-
 #include "demosaic/bayer_formulas.h"
 #include "frame/parallel.h"
 
@@ -22,7 +20,7 @@ public:
     static constexpr int perVector = vectorBytes / sizeof(Sample);
     static constexpr int maxWidth = 2048 / sizeof(Sample); // keeps the planes within the first-level cache
 
-    Strip(const Mosaic<Sample>& m, int firstColumn, int columns) : mosaic(m), x(firstColumn), width(columns) {}
+    Strip(const MosaicOf<Sample>& m, int firstColumn, int columns) : mosaic(m), x(firstColumn), width(columns) {}
 
     // A row of the border: y and its neighbours.
     void fillBorderRow(int y)
@@ -31,7 +29,7 @@ public:
         load(up);
         load(y);
         load(down);
-        fillRow<false>(y, y, up, y, down, y);
+        fillRow<false>(y, {y, up, y, down, y});
     }
 
     // Rows y0 .. y1 - 1, none of them in the border.
@@ -40,7 +38,7 @@ public:
         for (int row = y0 - 2; row < y0 + 2; ++row) load(row);
         for (int y = y0; y < y1; ++y) {
             load(y + 2);
-            fillRow<true>(y, y - 2, y - 1, y, y + 1, y + 2);
+            fillRow<true>(y, {y - 2, y - 1, y, y + 1, y + 2});
             plainBorderColumns(y);
         }
     }
@@ -50,7 +48,7 @@ private:
     static constexpr int planeLength = margin + maxWidth / 2 + 2 * perVector;
     static constexpr int ring = 8;
 
-    const Mosaic<Sample>& mosaic;
+    const MosaicOf<Sample>& mosaic;
     const int x, width;
     alignas(64) Sample planes[ring][2][planeLength];
 
@@ -81,29 +79,27 @@ private:
         for (int column = inside; column < width + 2; ++column) put(row, column, at(column));
     }
 
-    template <bool directed> void fillRow(int y, int up2, int up, int row, int down, int down2)
+    // Row y from itself, rows[2], and its neighbours.
+    template <bool directed> void fillRow(int y, const int (&rows)[5])
     {
-        const RowColours colours = rowColours(mosaic.grid, y);
+        const RowColours colours = mosaic.colours(y);
         const int sites = colours.isSite(x) ? 0 : 1; // their plane
         PlaneWindow<Sample> window;
-        const int rows[5] = {up2, up, row, down, down2};
         for (int k = 0; k < 5; ++k) {
             window.like[k] = plane(rows[k], sites);
             window.other[k] = plane(rows[k], 1 - sites);
         }
         window.left = sites - 1;
-        const auto kernel = colours.red
-                                ? sites == 0 ? owncnBayerRect<true, 0, directed> : owncnBayerRect<true, 1, directed>
-                            : sites == 0 ? owncnBayerRect<false, 0, directed>
-                                         : owncnBayerRect<false, 1, directed>;
-        kernel(window, mosaic.pixel(x, y), width);
+        constexpr decltype(&owncnBayerRect<true, 0, directed>) kernel[2][2] = {
+            {owncnBayerRect<false, 0, directed>, owncnBayerRect<false, 1, directed>},
+            {owncnBayerRect<true, 0, directed>, owncnBayerRect<true, 1, directed>}};
+        kernel[colours.red][sites](window, mosaic.pixel(x, y), width);
     }
 
     // One row of pixels. `sites` is the plane that holds the row's sites, whose colour is red or blue.
     template <bool red, int sites, bool directed>
-    static void owncnBayerRect(const PlaneWindow<Sample>& window, Sample* dst, int width)
+    static void owncnBayerRect(const PlaneWindow<Sample> w, Sample* dst, int width)
     {
-        const PlaneWindow<Sample> w = window; // which the stores below cannot change
         const auto pixelsTo = [&](Sample* p, int i) {
             Vec<Sample> site[3], green[3];
             interpolate<directed>(w, i, site, green);
@@ -129,7 +125,7 @@ private:
     // In the columns of the border green at the sites is not directed.
     void plainBorderColumns(int y)
     {
-        const RowColours colours = rowColours(mosaic.grid, y);
+        const RowColours colours = mosaic.colours(y);
         const auto plain = [&](int column) {
             if (column < x || column >= x + width || !colours.isSite(column)) return;
             const Sample* const row = mosaic.row(y);
@@ -146,11 +142,11 @@ private:
 };
 
 // The border's rows, then the others, whose first and last columns are filled on the way: each row is visited once.
-template <class Sample>
-void cfaToRgb(const Image& from, const Image& to, ZorSize size, const Region& region, ZorBayerGrid grid)
+template <class Sample> void cfaToRgb(const Mosaic& untyped)
 {
-    const Mosaic<Sample> mosaic{from, to, size, region, grid};
-    const auto [width, height] = size;
+    const MosaicOf<Sample> mosaic{untyped};
+    const auto [width, height] = mosaic.size;
+    const Region region = mosaic.region;
     const int left = between(region.x0, border, region.x1), right = between(left, width - border, region.x1);
     const int top = between(region.y0, border, region.y1), bottom = between(top, height - border, region.y1);
     const auto eachStrip = [&](auto fill) {

@@ -8,7 +8,6 @@
 
 #include "demosaic/demosaicahd_lab.h"
 #include "demosaic/demosaicahd_lines.h"
-#include "demosaic/demosaicahd_scratch.h"
 #include "demosaic/mosaic.h"
 
 namespace zorcc::ZORCC_TIER {
@@ -40,24 +39,24 @@ struct Sides {
     }
 };
 
-// Five rows of samples; row[2] is the row itself.
-struct Samples {
-    const float* row[5];
+ZORCC_INLINE Sides sidesAcross(const Rows<5>& samples, int i)
+{
+    const float* const row = samples.line[2] + i;
+    return {at(row, 0), at(row, -1), at(row, 1), at(row, -2), at(row, 2)};
+}
 
-    f32v own(int i) const { return at(row[2], i); }
-    Sides across(int i) const
-    {
-        return {own(i), at(row[2], i - 1), at(row[2], i + 1), at(row[2], i - 2), at(row[2], i + 2)};
-    }
-    Sides down(int i) const { return {own(i), at(row[1], i), at(row[3], i), at(row[0], i), at(row[4], i)}; }
-};
+ZORCC_INLINE Sides sidesDown(const Rows<5>& samples, int i)
+{
+    const auto row = [&](int r) { return at(samples.line[r], i); };
+    return {row(2), row(1), row(3), row(0), row(4)};
+}
 
-ZORCC_STAGE void greenDifferences(Samples samples, s32v sites, float* across, float* down, int length)
+ZORCC_STAGE void greenDifferences(Rows<5> samples, s32v sites, float* across, float* down, int length)
 {
     alongLine(length, [&](int i) {
-        const f32v own = samples.own(i);
-        store(across + i, (s32v)(own - samples.across(i).green()) & sites);
-        store(down + i, (s32v)(own - samples.down(i).green()) & sites);
+        const f32v own = at(samples.line[2], i);
+        store(across + i, (s32v)(own - sidesAcross(samples, i).green()) & sites);
+        store(down + i, (s32v)(own - sidesDown(samples, i).green()) & sites);
     });
 }
 
@@ -65,7 +64,7 @@ ZORCC_STAGE void greenDifferences(Samples samples, s32v sites, float* across, fl
 
 // From rows of differences, calls body(i, same, other) with that of the colour of the row's sites and that of the
 // colour of the sites above and below.
-template <class Body> ZORCC_INLINE void alongTents(const ThreeRows& rows, int length, Body body)
+template <class Body> ZORCC_INLINE void alongTents(const Rows<3>& rows, int length, Body body)
 {
     alongNeighbours(
         length,
@@ -77,7 +76,7 @@ template <class Body> ZORCC_INLINE void alongTents(const ThreeRows& rows, int le
         });
 }
 
-ZORCC_STAGE void chroma(ThreeRows differences, float* sameRow, float* otherRows, int length)
+ZORCC_STAGE void chroma(Rows<3> differences, float* sameRow, float* otherRows, int length)
 {
     alongTents(differences, length, [&](int i, f32v same, f32v other) {
         store(sameRow + i, same);
@@ -87,7 +86,7 @@ ZORCC_STAGE void chroma(ThreeRows differences, float* sameRow, float* otherRows,
 
 // A candidate's pixels in the space that its homogeneity is judged in.
 template <bool red>
-ZORCC_STAGE void candidateLab(const float* samples, ThreeRows differences, float scale, LabLines lab, int length)
+ZORCC_STAGE void candidateLab(const float* samples, Rows<3> differences, float scale, LabLines lab, int length)
 {
     alongTents(differences, length, [&](int i, f32v same, f32v other) {
         const f32v green = at(samples, i) - at(differences.line[1], i);
@@ -187,8 +186,8 @@ ZORCC_STAGE void homogeneity(JudgedRow across, JudgedRow down, float* to, int le
 constexpr float noLead = 4;
 
 // `near` are three rows of homogeneity. `green` is the result's green, `differences` those of the unrounded choice.
-ZORCC_STAGE void choose(ThreeRows near, Samples samples, s32v sites, const float* across, const float* down,
-                        float* green, float* differences, int length)
+ZORCC_STAGE void choose(Rows<3> near, Rows<5> samples, s32v sites, const float* across, const float* down, float* green,
+                        float* differences, int length)
 {
     const auto columns = [&](int i) {
         return Values<1>{{at(near.line[0], i) + at(near.line[1], i) + at(near.line[2], i)}};
@@ -199,9 +198,10 @@ ZORCC_STAGE void choose(ThreeRows near, Samples samples, s32v sites, const float
         const auto chosen = [&](f32v a, f32v d, f32v both) { return select(isAcross, a, select(isDown, d, both)); };
         const f32v a = at(across, i), d = at(down, i);
         store(differences + i, chosen(a, d, (a + d) * 0.5f));
-        const f32v greenAcross = samples.across(i).greenRoundedDown(), greenDown = samples.down(i).greenRoundedDown();
+        const f32v greenAcross = sidesAcross(samples, i).greenRoundedDown(),
+                   greenDown = sidesDown(samples, i).greenRoundedDown();
         const f32v mean = (greenAcross + greenDown) * 0.5f; // to be rounded with all results
-        store(green + i, select(sites, chosen(greenAcross, greenDown, mean), samples.own(i)));
+        store(green + i, select(sites, chosen(greenAcross, greenDown, mean), at(samples.line[2], i)));
     });
 }
 
@@ -213,7 +213,7 @@ ZORCC_INLINE f32v medianOfThree(f32v a, f32v b, f32v c) { return max(min(a, b), 
 // half of the way to the median of 3 x 3: that takes away single wrong choices, while the whole way would take away
 // thin coloured lines, too. The median is that of the greatest of the columns' lowest, the median of the columns'
 // medians, and the lowest of the columns' greatest.
-ZORCC_STAGE void smooth(ThreeRows rows, float* to, int length)
+ZORCC_STAGE void smooth(Rows<3> rows, float* to, int length)
 {
     const auto column = [&](int i) {
         const f32v a = at(rows.line[0], i), b = at(rows.line[1], i), c = at(rows.line[2], i);

@@ -46,13 +46,13 @@ ZORCC_INLINE f32v labCurve(f32v t)
 ZORCC_INLINE Lab toLab(f32v green, f32v redLessGreen, f32v blueLessGreen)
 {
     constexpr float unit = 1 / 257.f; // the matrix is for samples of 8 bits
-    const auto part = [&](f32v gray, float red, float blue) {
+    const auto weighted = [&](f32v gray, float red, float blue) {
         return gray + redLessGreen * (red * unit) + blueLessGreen * (blue * unit);
     };
     const f32v gray = green * (0.003922f * unit);
-    const f32v x = labCurve(part(green * (0.003921f * unit), 0.001702f, 0.000744f));
-    const f32v y = labCurve(part(gray, 0.000834f, 0.000283f));
-    const f32v z = labCurve(part(gray, 0.00007f, 0.003423f));
+    const f32v x = labCurve(weighted(green * (0.003921f * unit), 0.001702f, 0.000744f));
+    const f32v y = labCurve(weighted(gray, 0.000834f, 0.000283f));
+    const f32v z = labCurve(weighted(gray, 0.00007f, 0.003423f));
     return {y, (x - y) * 2.5f, y - z};
 }
 

@@ -1,10 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Row drivers of the adaptive homogeneity-directed demosaicing, compiled once for every tier.
-#include "demosaic/demosaicahd_rows.h"
-
 #include "demosaic/demosaicahd_formulas.h"
 #include "demosaic/demosaicahd_samples.h"
-#include "demosaic/demosaicahd_scratch.h"
 #include "frame/parallel.h"
 
 namespace zorcc::ZORCC_TIER {
@@ -53,7 +50,7 @@ constexpr int lineCount = sizeof(Lines) / sizeof(float*);
 // Columns x .. x + width - 1 of the region, and lines for them and for what they depend on.
 template <class Sample> class Strip {
 public:
-    Strip(const Mosaic<Sample>& m, const Scratch& scratch, int firstLine, int firstColumn, int columns)
+    Strip(const MosaicOf<Sample>& m, const Scratch& scratch, int firstLine, int firstColumn, int columns)
         : mosaic(m), x(firstColumn), width(columns), length(lineLength(columns))
     {
         float* all[lineCount];
@@ -71,7 +68,7 @@ public:
     }
 
 private:
-    const Mosaic<Sample>& mosaic;
+    const MosaicOf<Sample>& mosaic;
     const int x, width, length;
     int top = 0; // the image row of row 0
     Lines lines;
@@ -90,20 +87,15 @@ private:
         if (i >= 14) finish(i - 7);
     }
 
-    RowColours coloursOf(int row) const { return rowColours(mosaic.grid, top + row); }
+    RowColours coloursOf(int row) const { return mosaic.colours(top + row); }
     s32v sitesOf(int row) const
     {
         return alternatingMask<s32v>(coloursOf(row).sitesAreOdd != (((x - reach) & 1) != 0));
     }
 
-    Samples samplesAround(int row) const
-    {
-        return {{lines.samples[row - 2], lines.samples[row - 1], lines.samples[row], lines.samples[row + 1],
-                 lines.samples[row + 2]}};
-    }
     void estimateGreen(int row)
     {
-        greenDifferences(samplesAround(row), sitesOf(row), lines.candidate[0].differences[row],
+        greenDifferences(lines.samples.farAround(row), sitesOf(row), lines.candidate[0].differences[row],
                          lines.candidate[1].differences[row], length);
     }
 
@@ -129,7 +121,7 @@ private:
 
     void chooseGreen(int row)
     {
-        choose(lines.near.around(row), samplesAround(row), sitesOf(row), lines.candidate[0].differences[row],
+        choose(lines.near.around(row), lines.samples.farAround(row), sitesOf(row), lines.candidate[0].differences[row],
                lines.candidate[1].differences[row], lines.green[row], lines.differences[row], length);
     }
 
@@ -153,11 +145,10 @@ private:
     }
 };
 
-template <class Sample>
-void demosaicAhd(const Image& from, const Image& to, ZorSize size, const Region& region, ZorBayerGrid grid,
-                 const Image& scratchImage)
+template <class Sample> void demosaicAhd(const Mosaic& untyped, const Image& scratchImage)
 {
-    const Mosaic<Sample> mosaic{from, to, size, region, grid};
+    const MosaicOf<Sample> mosaic{untyped};
+    const Region region = mosaic.region;
     const int width = region.x1 - region.x0, height = region.y1 - region.y0;
     const auto stripAt = [&](int x) { return region.x1 - x < stripWidth ? region.x1 - x : stripWidth; };
     const Scratch scratch(scratchImage, width, Strip<Sample>::lineLength(stripAt(region.x0)));

@@ -3,23 +3,11 @@
 // the other colour's pixels are the row's *sites*.
 #pragma once
 
-#include "demosaic/region.h"
+#include "demosaic/demosaic_rows.h"
 #include "simd/vec.h"
 
 namespace zorcc::ZORCC_TIER {
 namespace {
-
-// A mosaic and the image that its region is to fill.
-template <class Sample> struct Mosaic {
-    const Image& from;
-    const Image& to;
-    ZorSize size; // of the mosaic
-    Region region;
-    ZorBayerGrid grid;
-
-    const Sample* row(int y) const { return (const Sample*)from.row(0, y); }
-    Sample* pixel(int x, int y) const { return (Sample*)to.row(0, y - region.y0) + 3 * (x - region.x0); }
-};
 
 struct RowColours {
     bool red;         // the sites are red, not blue
@@ -28,26 +16,24 @@ struct RowColours {
     bool isSite(int x) const { return (x & 1) == sitesAreOdd; }
 };
 
-// Of row y of an image whose first cell is `grid`.
-ZORCC_INLINE RowColours rowColours(ZorBayerGrid grid, int y)
-{
-    const bool odd = (y & 1) != 0;
-    return {(grid == zorBayerRGGB || grid == zorBayerGRBG) != odd,
-            (grid == zorBayerGBRG || grid == zorBayerGRBG) != odd};
-}
+template <class Sample> struct MosaicOf : Mosaic {
+    const Sample* row(int y) const { return (const Sample*)from.row(0, y); }
+    Sample* pixel(int x, int y) const { return (Sample*)to.row(0, y - region.y0) + 3 * (x - region.x0); }
+
+    RowColours colours(int y) const
+    {
+        const bool odd = (y & 1) != 0;
+        return {(grid == zorBayerRGGB || grid == zorBayerGRBG) != odd,
+                (grid == zorBayerGBRG || grid == zorBayerGRBG) != odd};
+    }
+};
 
 // The index inside 0 .. count - 1 that stands for one outside: the image is mirrored at its first and last pixel, which
 // keeps every colour at its place in the mosaic.
 ZORCC_INLINE int mirrored(int i, int count)
 {
-    for (;;) {
-        if (i < 0)
-            i = -i;
-        else if (i >= count)
-            i = 2 * (count - 1) - i;
-        else
-            return i;
-    }
+    while (i < 0 || i >= count) i = i < 0 ? -i : 2 * (count - 1) - i;
+    return i;
 }
 
 } // namespace

@@ -1,25 +1,20 @@
 // SPDX-License-Identifier: MIT
 #include "frame/convert.h"
 
+#include <initializer_list>
+
 namespace zorcc {
 
 namespace {
 
-bool hasAllPlanes(const Image& image)
+// Whether something holds for all planes of both images.
+template <class Holds> bool everywhere(const Image& from, const Image& to, Holds holds)
 {
-    for (int p = 0; p < image.planes; ++p)
-        if (!image.plane[p]) return false;
+    for (const Image* image : {&from, &to})
+        for (int p = 0; p < image->planes; ++p)
+            if (!holds(*image, p)) return false;
     return true;
 }
-
-bool hasPositiveSteps(const Image& image)
-{
-    for (int p = 0; p < image.planes; ++p)
-        if (image.step[p] < 1) return false;
-    return true;
-}
-
-bool isSame(ZorSize a, ZorSize b) { return a.width == b.width && a.height == b.height; }
 
 } // namespace
 
@@ -27,16 +22,18 @@ ZorStatus check(const Checks& checks, const Image& from, const Image& to, ZorSiz
 {
     using OddSize = Checks::OddSize;
     if (!from.given || !to.given) return zorStatusNullPointer;
-    const bool hasPlanes = hasAllPlanes(from) && hasAllPlanes(to);
+    const bool hasPlanes = everywhere(from, to, [](const Image& image, int p) { return image.plane[p] != nullptr; });
     if (checks.planes == Checks::Planes::beforeSize && !hasPlanes) return zorStatusNullPointer;
-    if (checks.steps == Checks::Steps::positiveBeforeSize && !(hasPositiveSteps(from) && hasPositiveSteps(to)))
+    if (checks.steps == Checks::Steps::positiveBeforeSize &&
+        !everywhere(from, to, [](const Image& image, int p) { return image.step[p] >= 1; }))
         return zorStatusBadStep;
     if (size.width < checks.minimum.width || size.height < checks.minimum.height) return zorStatusBadSize;
     if (!hasPlanes) return zorStatusNullPointer;
 
     const ZorSize asked = size;
     size = {size.width & -checks.block.width, size.height & -checks.block.height};
-    if (isSame(size, asked) || checks.oddSize == OddSize::cutOff) return zorStatusOk;
+    const bool isWhole = size.width == asked.width && size.height == asked.height;
+    if (isWhole || checks.oddSize == OddSize::cutOff) return zorStatusOk;
     return checks.oddSize == OddSize::warned ? zorStatusOddSize : zorStatusBadSize;
 }
 

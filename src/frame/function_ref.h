@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // A reference to something callable, for parameters of functions that call it before they return. It owns nothing, and
-// making one leaves no symbol: row files, which are compiled for several instruction sets, may do so.
+// making one emits no symbol: row files, which are compiled for several instruction sets, may do so.
 #pragma once
 
 namespace zorcc {

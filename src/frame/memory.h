@@ -4,6 +4,8 @@
 
 #include <stdint.h>
 
+#include <memory>
+
 namespace zorcc {
 
 // Null when the count is below 1 or memory is out.
@@ -13,5 +15,11 @@ float* zorsMalloc_32f(int count);
 
 // Null is ignored.
 void zorsFree(void* block);
+
+// A buffer that is freed with its owner.
+struct FreeBuffer {
+    void operator()(void* block) const { zorsFree(block); }
+};
+template <class Element> using Owned = std::unique_ptr<Element, FreeBuffer>;
 
 } // namespace zorcc

@@ -37,9 +37,10 @@ struct GroupBand {
     bool isFirst, isLast; // whether the image begins, ends with this band; both when there is only one
 };
 
-// Calls band for one band of groups a thread; forks from a width of 128 and above a height of 128. Together the bands
-// hold height / 4 groups; up to three rows below them are left to the band that is last. The last group belongs to that
-// band alone and is no part of what is divided: the others have equal shares of the rest, rounded down.
+// Calls band for one band of groups a thread; forks from a width of 128 and above a height of 128. The bands hold
+// height / 4 groups in all; up to three rows below them are left to the last band. The last group belongs to that band
+// alone and is not divided: each band has an equal share of the groups before it, rounded down, and the last one takes
+// the remainder.
 void groupsAboveThreshold(int width, int height, FunctionRef<void(GroupBand)> band);
 
 } // namespace zorcc

@@ -3,6 +3,9 @@
 
 #include <math.h>
 
+#include <new>
+#include <type_traits>
+
 #include "frame/memory.h"
 
 namespace zorcc {
@@ -10,45 +13,32 @@ namespace {
 
 constexpr int stateElements = 56; // size of a state in samples of its generator
 
-template <class Sample> struct Generator;
-
-template <> struct Generator<float> {
-    static constexpr int32_t kind = 37;
-    static float* allocate() { return zorsMalloc_32f(stateElements); }
-    static float convert(double value) { return static_cast<float>(value); }
-};
-
-template <> struct Generator<int16_t> {
-    static constexpr int32_t kind = 36;
-    static int16_t* allocate() { return zorsMalloc_16s(stateElements); }
-
-    // No clamp: products and sums of a 32-bit integer and 17-bit bounds are exact, so no value leaves the bounds.
-    static int16_t convert(double value) { return static_cast<int16_t>(lrint(value)); }
-};
+template <class Sample> constexpr bool isFloat = std::is_same_v<Sample, float>;
+template <class Sample> constexpr int32_t kind = isFloat<Sample> ? 37 : 36;
 
 uint32_t congruent(uint32_t x) { return x * 69069u + 1013904243u; }
 
-template <class Sample> ZorStatus initAlloc(RandUniform<Sample>** state, Sample low, Sample high, uint32_t seed)
+template <class Sample>
+ZorStatus initAlloc(Sample* (&allocate)(int), RandUniform<Sample>** state, Sample low, Sample high, uint32_t seed)
 {
     static_assert(sizeof(RandUniform<Sample>) <= stateElements * sizeof(Sample));
     if (!state) return zorStatusNullPointer;
-    void* const block = Generator<Sample>::allocate();
+    void* const block = allocate(stateElements);
     if (!block) return zorStatusNoMemory;
 
-    auto* const record = static_cast<RandUniform<Sample>*>(block);
     const double from = low, to = high;
-    record->kind = Generator<Sample>::kind;
-    record->seed = seed;
-    record->low = low;
-    record->high = high;
-    record->mid = (from + to) * 0.5;
-    record->scale = (to - from) * 0x1p-32;
-    record->lcg = 1131199209;
-    record->x1 = seed;
-    record->x2 = congruent(record->x1);
-    record->x3 = congruent(record->x2);
-    record->borrow = 0xffffffff;
-    *state = record;
+    const uint32_t x2 = congruent(seed);
+    *state = new (block) RandUniform<Sample>{.kind = kind<Sample>,
+                                             .seed = seed,
+                                             .low = low,
+                                             .high = high,
+                                             .mid = (from + to) * 0.5,
+                                             .scale = (to - from) * 0x1p-32,
+                                             .lcg = 1131199209,
+                                             .x1 = seed,
+                                             .x2 = x2,
+                                             .x3 = congruent(x2),
+                                             .borrow = 0xffffffff};
     return zorStatusOk;
 }
 
@@ -56,7 +46,7 @@ template <class Sample> ZorStatus fill(Sample* dst, int length, RandUniform<Samp
 {
     if (!dst || !state) return zorStatusNullPointer;
     if (length < 1) return zorStatusBadSize;
-    if (state->kind != Generator<Sample>::kind) return zorStatusContextMismatch;
+    if (state->kind != kind<Sample>) return zorStatusContextMismatch;
 
     RandUniform<Sample> s = *state;
     for (int i = 0; i < length; ++i) {
@@ -68,7 +58,12 @@ template <class Sample> ZorStatus fill(Sample* dst, int length, RandUniform<Samp
         s.x3 = s.x2;
         s.x2 = s.x1;
         s.x1 = x;
-        dst[i] = Generator<Sample>::convert(static_cast<int32_t>(x + s.lcg) * s.scale + s.mid);
+        // No clamp: products and sums of a 32-bit integer and 17-bit bounds are exact, so none leaves the bounds.
+        const double value = static_cast<int32_t>(x + s.lcg) * s.scale + s.mid;
+        if constexpr (isFloat<Sample>)
+            dst[i] = static_cast<float>(value);
+        else
+            dst[i] = static_cast<int16_t>(lrint(value));
     }
     *state = s;
     return zorStatusOk;
@@ -77,7 +72,7 @@ template <class Sample> ZorStatus fill(Sample* dst, int length, RandUniform<Samp
 template <class Sample> ZorStatus release(RandUniform<Sample>* state)
 {
     if (!state) return zorStatusNullPointer;
-    if (state->kind != Generator<Sample>::kind) return zorStatusContextMismatch;
+    if (state->kind != kind<Sample>) return zorStatusContextMismatch;
     zorsFree(state);
     return zorStatusOk;
 }
@@ -86,12 +81,12 @@ template <class Sample> ZorStatus release(RandUniform<Sample>* state)
 
 ZorStatus zorsRandUniformInitAlloc_32f(RandUniform_32f** state, float low, float high, uint32_t seed)
 {
-    return initAlloc(state, low, high, seed);
+    return initAlloc(zorsMalloc_32f, state, low, high, seed);
 }
 
 ZorStatus zorsRandUniformInitAlloc_16s(RandUniform_16s** state, int16_t low, int16_t high, uint32_t seed)
 {
-    return initAlloc(state, low, high, seed);
+    return initAlloc(zorsMalloc_16s, state, low, high, seed);
 }
 
 ZorStatus zorsRandUniform_32f(float* dst, int length, RandUniform_32f* state) { return fill(dst, length, state); }

@@ -57,11 +57,7 @@ struct Maximum {
     static constexpr float neutral = -__builtin_inff();
     static constexpr int vectors = 4, block = vectors * lanes; // so that the latency of a maximum does not set the pace
 
-    f32v best[vectors];
-    Maximum()
-    {
-        for (f32v& v : best) v = fillFloat(neutral);
-    }
+    f32v best[vectors] = {fillFloat(neutral), fillFloat(neutral), fillFloat(neutral), fillFloat(neutral)};
 
     // The one before where the sample is NaN.
     void add(const float* samples)
@@ -78,7 +74,7 @@ struct Maximum {
     }
 };
 
-// Every tier adds samples that are 16 apart and then the 16 sums in one order, so that all round alike.
+// Every tier adds samples at distances of 16 and then the 16 sums in one order, so that all round alike.
 struct Sum {
     static constexpr float neutral = 0;
     static constexpr int block = 16, doubles = vectorBytes / 8, vectors = block / doubles;

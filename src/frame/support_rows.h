@@ -12,7 +12,7 @@ struct SupportRows {
     void (&streamCopy)(const uint8_t* src, uint8_t* dst, size_t length);
     void (&streamFill)(uint8_t value, uint8_t* dst, size_t length);
 
-    // Of a one-channel image of floats, as frame/reductions.h says.
+    // Reduce a one-channel image of floats, as frame/reductions.h says.
     float (&maximum)(const Image& image, ZorSize size);
     double (&sum)(const Image& image, ZorSize size);
 };

@@ -46,18 +46,15 @@ void filter420To422_P2P3(const Image& from, const Image& to, ZorSize size)
 // ---- averages of neighbouring samples -------------------------------------------------------------------------------
 
 // For each row: samples, and the samples to their right.
-template <int rows> struct NeighboursOf;
-template <> struct NeighboursOf<1> : std::type_identity<Sequences<vectorBytes, Line{{1}}, Line{{1}}>> {
-};
-template <> struct NeighboursOf<2> : std::type_identity<FourRows<1>> {
-};
+template <int rows>
+using NeighboursOf = std::conditional_t<rows == 1, Sequences<vectorBytes, Line{{1}}, Line{{1}}>, FourRows<1>>;
 
 // One row of 2 n samples from rows of n. The last sample is its own right neighbour; it and those before it that make
 // no whole block round down.
 template <template <class> class Formula, int rows> void doubleRow(uint8_t* const (&row)[rows], uint8_t* to, int n)
 {
     const int whole = (n - 1) / roundedBlock * roundedBlock, rest = n - whole;
-    typename NeighboursOf<rows>::type inside, end;
+    NeighboursOf<rows> inside, end;
     uint8_t last[rows][roundedBlock + 1];
     for (int r = 0; r < rows; ++r) {
         inside.start[2 * r] = row[r];

@@ -26,27 +26,16 @@ template <class Rounding> struct Between {
 
 template <class Rounding> using PlanesBetween = Then<Between<Rounding>, Unzip>;
 
-// Three rows of luma and two of chroma pairs.
-template <class Rounding> struct PackedRow {
-    [[gnu::always_inline]] Vectors<4> operator()(const Vectors<10>& s) const
-    {
-        return withLuma<YUY2>(LowPass<Rounding>{}(slice<0, 6>(s)), Between<Rounding>{}(slice<6, 4>(s)));
-    }
-};
-
-// The packed row as it is, and three rows of luma, or two of chroma, that replace its own.
-template <class Rounding> struct PackedLuma {
-    [[gnu::always_inline]] Vectors<4> operator()(const Vectors<10>& s) const
-    {
-        return withLuma<YUY2>(LowPass<Rounding>{}(slice<4, 6>(s)), secondHalf(lumaAndPairs<YUY2>(slice<0, 4>(s))));
-    }
-};
-
-template <class Rounding> struct PackedChroma {
-    [[gnu::always_inline]] Vectors<4> operator()(const Vectors<8>& s) const
-    {
-        return withLuma<YUY2>(lumaOf<YUY2>(slice<0, 4>(s)), Between<Rounding>{}(slice<4, 4>(s)));
-    }
+// A packed row of luma, of three rows, and chroma, of two rows of pairs, or of what it has already.
+template <bool filtersLuma, bool filtersChroma> struct Packed {
+    template <class Rounding> struct Row {
+        [[gnu::always_inline]] Vectors<4> operator()(const Vectors<14>& s) const
+        {
+            const Vectors<4> old = lumaAndPairs<YUY2>(slice<0, 4>(s));
+            return withLuma<YUY2>(filtersLuma ? LowPass<Rounding>{}(slice<4, 6>(s)) : firstHalf(old),
+                                  filtersChroma ? Between<Rounding>{}(slice<10, 4>(s)) : secondHalf(old));
+        }
+    };
 };
 
 } // namespace

@@ -33,28 +33,21 @@ struct Slice {
     uint8_t* lower(int pair) const { return size.height > 2 ? upper(pair) + image.step[1] : upper(pair); }
 };
 
-template <Unit... units> using LumaPixels = Sequences<2 * vectorBytes, Line{units}...>;
-constexpr Unit lumaUnit{1, 0}, pairUnit{2, 1}, packedUnit{4, 1};
-
 void deinterlaceToYUY2(const Image& from, const Image& to, ZorSize size, FrameEdges edges)
 {
+    constexpr Line luma{{1}}, pairs{{2, 1}}, packed{{4, 1}};
     const Slice slice{from, size, edges};
     for (int y = 0; y < size.height; ++y) {
         uint8_t* const row = to.row(0, y);
-        uint8_t* const luma[] = {slice.luma(y - 1), slice.luma(y), slice.luma(y + 1)};
-        uint8_t* const chroma[] = {slice.upper(y / 2), slice.lower(y / 2)};
-        const LumaPixels<packedUnit> packed = {{{row}}};
-        if (slice.hasLuma(y) && slice.hasChroma(y)) {
-            const LumaPixels<lumaUnit, lumaUnit, lumaUnit, pairUnit, pairUnit> rows = {
-                {{luma[0], luma[1], luma[2], chroma[0], chroma[1]}}};
-            convertRow(rows, Rounded<PackedRow>{}, packed, size.width);
-        } else if (slice.hasLuma(y)) {
-            const LumaPixels<packedUnit, lumaUnit, lumaUnit, lumaUnit> rows = {{{row, luma[0], luma[1], luma[2]}}};
-            convertRow(rows, Rounded<PackedLuma>{}, packed, size.width);
-        } else if (slice.hasChroma(y)) {
-            const LumaPixels<packedUnit, pairUnit, pairUnit> rows = {{{row, chroma[0], chroma[1]}}};
-            convertRow(rows, Rounded<PackedChroma>{}, packed, size.width);
-        }
+        const Sequences<2 * vectorBytes, packed, luma, luma, luma, pairs, pairs> source = {
+            {{row, slice.luma(y - 1), slice.luma(y), slice.luma(y + 1), slice.upper(y / 2), slice.lower(y / 2)}}};
+        const Sequences<2 * vectorBytes, packed> destination = {{{row}}};
+        if (slice.hasLuma(y) && slice.hasChroma(y))
+            convertRow(source, Rounded<Packed<true, true>::Row>{}, destination, size.width);
+        else if (slice.hasLuma(y))
+            convertRow(source, Rounded<Packed<true, false>::Row>{}, destination, size.width);
+        else if (slice.hasChroma(y))
+            convertRow(source, Rounded<Packed<false, true>::Row>{}, destination, size.width);
     }
 }
 

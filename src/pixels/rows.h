@@ -136,13 +136,10 @@ constexpr Line ofRowPair(Line line, int row)
     return {line.unit, line.plane, line.row + row * line.rows, 2 * line.rows};
 }
 
-template <class Layout> struct Twice;
-template <Line... all> struct Twice<Lines<all...>> {
-    using Type = Lines<ofRowPair(all, 0)..., ofRowPair(all, 1)...>;
-};
+template <Line... all> auto twice(Lines<all...>) -> Lines<ofRowPair(all, 0)..., ofRowPair(all, 1)...>;
 
 // Two rows of a layout that holds one: the lines of the upper row, then those of the lower.
-template <class Layout> struct TwoRows : Twice<typename Layout::Base>::Type {
+template <class Layout> struct TwoRows : decltype(twice(typename Layout::Base{})) {
     static constexpr int rowsAtOnce = 2;
 
     Layout state; // what a layout holds beside its lines

@@ -10,141 +10,91 @@ namespace {
 // Converts some neighbouring channels of an image, band by band.
 template <class Src, class Dst, class Weights> class Diffusion {
 public:
-    // `above` holds the errors of the rows above a band: for each channel one row of zeros, or two, the upper one last.
-    Diffusion(const Image& from, const Image& to, ZorSize imageSize, const Reduction& reduction, const Weights& w,
-              const Noise* n, Channels c, float* above)
-        : size(imageSize), weights(w), noise(n), channels(c.count), steps(tileSteps(c.count)), errorRows(above),
-          step(white<Src>, reduction.intervals), quantise{fillFloat(white<Src>), fillFloat(step.step),
-                                                          fillFloat(step.inverse),
-                                                          fillFloat(static_cast<float>(reduction.intervals))},
-          tileRow(from, to, imageSize.width, c)
+    Diffusion(const Reduction& r, const Noise* n, Channels c)
+        : reduction(r), noise(n), channels(c), steps(c.steps), formula(r)
     {
-        for (auto& thresholds : tile.thresholds)
-            for (float& threshold : thresholds) threshold = 0.5f * step.step;
+        const float half = 0.5f * r.step(white<Src>);
+        for (auto& step : thresholds)
+            for (float& threshold : step) threshold = half;
     }
 
-    void convert()
+    // `errorRows` are those of all channels of the image.
+    void convert(float* errorRows)
     {
-        for (int y = 0; y < size.height; y += bandRows) convertBand(y);
+        const auto [width, height] = reduction.size;
+        const ptrdiff_t rowsOfChannel = rowsAbove<Weights> * (width + ptrdiff_t{2} * errorMargin);
+        for (int y = 0; y < height; y += bandRows) {
+            const int rows = height - y < bandRows ? height - y : bandRows;
+            for (int c = 0; c < channels.count; ++c)
+                errors[c].startBand(errorRows + (channels.first + c) * rowsOfChannel, width);
+            for (int64_t s = 0; s < int64_t{width} + lag<Weights> * (rows - 1); s += steps) convertTile(y, rows, s);
+        }
     }
 
 private:
-    static constexpr bool levelNumbers = !sameScale<Src, Dst>;
-    static constexpr int lag = Errors<Weights>::lag, ahead = Weights::ahead;
-
-    const ZorSize size;
-    const Weights& weights;
+    const Reduction& reduction;
     const Noise* const noise;
-    const int channels, steps;
-    float* const errorRows;
-    const StepSize step;
-    const Quantiser quantise;
-    const TileRow<Src, Dst> tileRow;
+    const Channels channels;
+    const int steps;
+    const AboveThreshold<Src, Dst> formula;
 
     Errors<Weights> errors[maxChannels];
-    Tile tile;
-    alignas(64) TileRows rows; // the tile's samples, row by row
-    alignas(64) TileRows rowThresholds;
+    alignas(64) TileSteps samples, thresholds;
 
-    void convertBand(int y)
+    // The tile that begins with step `first` of the band of `rows` rows from y on.
+    void convertTile(int y, int rows, int64_t first)
     {
-        const int left = size.height - y, height = left < bandRows ? left : bandRows;
-        const int64_t end = int64_t{size.width} + lag * (height - 1);
-        for (int c = 0; c < channels; ++c) startBand(c);
-        for (int64_t s = 0; s < end; s += steps) {
-            loadTile(y, height, s);
-            for (int c = 0; c < channels; ++c) receive(c, s);
-            diffuse<levelNumbers>(tile, steps, channels, errors, weights, quantise);
-            for (int c = 0; c < channels; ++c) {
-                if (height == bandRows) handOver(c, s);
-                errors[c].nextTile(steps);
-            }
-            storeTile(y, height, s);
-        }
-    }
-
-    // The tile that begins with step s of the band.
-    void loadTile(int y, int height, int64_t s)
-    {
+        const auto columnsFrom = [&](int64_t x) { return Span(x, reduction.size.width, steps); };
+        alignas(64) TileRows row, rowThresholds;
         for (int r = 0; r < bandRows; ++r) {
-            const int64_t x = s - lag * r;
-            const Span in = r < height ? tileRow.inImage(x) : Span{0, 0};
-            tileRow.load(y + r, x, in, rows[r]);
+            const int64_t x = first - lag<Weights> * r;
+            const Span in = columnsFrom(r < rows ? x : reduction.size.width);
+            loadRow((const Src*)reduction.from.row(0, y + r) + x * channels.perPixel, channels, in, row[r]);
             if (noise)
                 for (int j = in.begin; j < in.end; ++j) rowThresholds[r][j] = noise->at(static_cast<int>(x + j), y + r);
         }
-        transposeRows(rows, tile.samples, steps * channels);
-        if (noise) transposeRows(rowThresholds, tile.thresholds, steps);
-    }
+        transpose(row, samples, bandRows, steps * channels.count);
+        if (noise) transpose(rowThresholds, thresholds, bandRows, steps);
 
-    void storeTile(int y, int height, int64_t s)
-    {
-        const auto fromFloats = [&](const float* row, int samples, Dst* dst) {
-            for (int i = 0; i < samples; i += lanes) {
-                const f32v v = load<f32v>(row + i);
-                storeSamples(dst + i, levelNumbers ? levelValue<Dst>(v, quantise.intervals) : truncate(v));
-            }
-        };
-        transposeSteps(tile.samples, rows, steps * channels);
-        for (int r = 0; r < height; ++r) {
-            const int64_t x = s - lag * r;
-            tileRow.store(y + r, x, tileRow.inImage(x), rows[r], fromFloats);
+        diffuse(first);
+
+        transpose(samples, row, steps * channels.count, bandRows);
+        for (int r = 0; r < rows; ++r) {
+            const int64_t x = first - lag<Weights> * r;
+            Dst* const dst = (Dst*)reduction.to.row(0, y + r) + x * channels.perPixel;
+            storeRow(formula, row[r], channels, columnsFrom(x), dst);
         }
     }
 
-    // ---- errors from one band to the next ---------------------------------------------------------------------------
-
-    float* errorRow(int c, int n) const { return errorRows + ptrdiff_t{c * Weights::rowsAbove + n} * size.width; }
-
-    // What row n + 1 above the band has left in column x.
-    float received(int c, int n, int64_t x) const { return x < size.width ? errorRow(c, n)[x] : 0; }
-
-    // Nothing has been passed down yet, but the first columns above the first row.
-    void startBand(int c)
+    // Replaces samples by levels. A sample that saturates leaves no error. A function of its own, so that its loop has
+    // all registers to itself.
+    [[gnu::noinline]] void diffuse(int64_t first)
     {
-        errors[c].clear();
-        for (int n = 0; n < Weights::rowsAbove; ++n)
-            for (int x = 0; x < ahead; ++x) errors[c].above[n][ahead + x][0] = received(c, n, x);
-    }
-
-    void receive(int c, int64_t s)
-    {
-        const int64_t x = s + ahead;
-        const int end = tileRow.inImage(x).end;
-        for (int n = 0; n < Weights::rowsAbove; ++n) {
-            float* const incoming = errors[c].incoming[n];
-            __builtin_memcpy(incoming, errorRow(c, n) + x, static_cast<size_t>(end) * sizeof(float));
-            for (int j = end; j < steps; ++j) incoming[j] = 0;
-        }
-    }
-
-    // From the last rows of the band, to be received by the next one, which comes much later.
-    void handOver(int c, int64_t s)
-    {
-        for (int n = 0; n < Weights::rowsAbove; ++n) {
-            const int r = bandRows - 1 - n;
-            const int64_t x = s - lag * r;
-            const Span in = tileRow.inImage(x);
-            for (int j = in.begin; j < in.end; ++j) errorRow(c, n)[x + j] = errors[c].own[j + 2][r];
-        }
+        // Copies, which the stores below cannot change.
+        const AboveThreshold<Src, Dst> quantise = formula;
+        const int count = channels.count, end = steps;
+        for (int s = 0; s < end; ++s)
+            for (int c = 0; c < count; ++c)
+                for (int lane = 0; lane < bandRows; lane += lanes) {
+                    float* const sample = samples[s * count + c] + lane;
+                    const f32v v = load<f32v>(sample) + errors[c].gather(first, s, lane);
+                    const auto choice = quantise.choose(v, load<f32v>(thresholds[s] + lane));
+                    const s32v bright = v >= white<Src>, inside = (v >= 0.0f) & (v < white<Src>); // neither for NaN
+                    store(sample, select(inside, choice.level, select(bright, quantise.whiteLevel(), f32v{})));
+                    errors[c].leave(select(inside, choice.error, f32v{}), s, lane);
+                }
+        for (int c = 0; c < count; ++c) errors[c].endTile(first, end);
     }
 };
 
-// `weights` is a variable of static storage.
-template <class Src, class Dst, auto& weights>
-void diffuseChannels(const Image& from, const Image& to, ZorSize size, const Reduction& reduction,
-                     const DiffusionNeeds& needs)
+template <class Src, class Dst, class Weights>
+void diffuseChannels(const Reduction& reduction, const Noise* noise, float* errors, int workers)
 {
-    using Weights = std::remove_cvref_t<decltype(weights)>;
-    const int channels = colourChannels(reduction.layout);
-    sections(needs.workers, [&](int worker) {
+    sections(workers, [&](int worker) {
         // Where channels do not divide evenly the first workers have one more.
-        const auto firstOf = [&](int w) { return (w * channels + needs.workers - 1) / needs.workers; };
-        const int first = firstOf(worker);
-        const Channels share = {first, firstOf(worker + 1) - first, samplesPerPixel(reduction.layout)};
-        Diffusion<Src, Dst, Weights>(from, to, size, reduction, weights, needs.noise, share,
-                                     needs.errors + ptrdiff_t{first * Weights::rowsAbove} * size.width)
-            .convert();
+        const auto firstOf = [&](int w) { return (w * reduction.channels + workers - 1) / workers; };
+        const int first = firstOf(worker), count = firstOf(worker + 1) - first;
+        Diffusion<Src, Dst, Weights>(reduction, noise, {first, count, reduction.samplesPerPixel}).convert(errors);
     });
 }
 

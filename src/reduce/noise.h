@@ -20,7 +20,7 @@ public:
     // Numbers between the bounds; zorStatusNoMemory.
     ZorStatus create(float low, float high);
 
-    // Of the pixel in column x of row y, whatever its channels.
+    // The noise of the pixel in column x of row y, whatever its channels.
     [[gnu::always_inline]] float at(int x, int y) const
     {
         const unsigned column = static_cast<unsigned>(x), start = static_cast<unsigned>(offset[column % period]);

@@ -13,9 +13,9 @@ template <class Src, class Dst>
 constexpr ReduceDrivers drivers = {
     .plain = plain<Src, Dst>,
     .ordered = ordered<Src, Dst>,
-    .floydSteinberg = diffuseChannels<Src, Dst, floydSteinberg>,
-    .jarvisJudiceNinke = diffuseChannels<Src, Dst, jarvisJudiceNinke>,
-    .stucki = diffuseChannels<Src, Dst, stucki>,
+    .floydSteinberg = diffuseChannels<Src, Dst, FloydSteinberg>,
+    .jarvisJudiceNinke = diffuseChannels<Src, Dst, JarvisJudiceNinke>,
+    .stucki = diffuseChannels<Src, Dst, Stucki>,
     .whiteOfSource = white<Src>,
     .maxLevels = sizeof(Src) == 2 && sizeof(Dst) == 2 ? 65536 : 256,
 };

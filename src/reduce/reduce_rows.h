@@ -1,23 +1,49 @@
 // SPDX-License-Identifier: MIT
-// Row drivers of the bit-depth reduction: one for each method and pair of sample types.
+// Row drivers of the bit-depth reduction, one for each method and pair of sample types, and what they get. Row files of
+// all tiers include this, so that functions are always inline.
 #pragma once
 
-#include "reduce/reduction.h"
+#include "frame/convert.h"
+#include "reduce/noise.h"
 #include "simd/tier.h"
 
 namespace zorcc {
 
-// What error diffusion needs beside the reduction.
-struct DiffusionNeeds {
-    const Noise* noise; // null: no noise
-    float* errors;      // for every channel that is converted as many rows of `width` zeros as the method looks up
-    int workers;        // that share out the channels
+inline constexpr int maxChannels = 4;
+
+struct Reduction {
+    const Image &from, &to;
+    ZorSize size;
+    int samplesPerPixel, channels; // the first `channels` samples of a pixel are converted
+    int intervals;                 // levels - 1: the quantisation steps between black and white
+
+    // What a quantisation step is worth in the source's scale, and how many of them a unit holds; both rounded once.
+    [[gnu::always_inline]] float step(float whiteOfSource) const
+    {
+        return whiteOfSource / static_cast<float>(intervals);
+    }
+    [[gnu::always_inline]] float stepsPerUnit(float whiteOfSource) const
+    {
+        return static_cast<float>(intervals) / whiteOfSource;
+    }
 };
 
+// The greatest value of a source sample, which stands for white, and likewise of a destination's. Signed samples stand
+// for 0..65535, less 32768; floats for 0..1.
+template <class Sample> inline constexpr float white = 65535;
+template <> inline constexpr float white<uint8_t> = 255;
+template <> inline constexpr float white<float> = 1;
+
+// Error diffusion; no noise if that is null. `workers` threads share out the channels. `errors` holds, for every
+// channel that is converted, as many rows of zeros as the method looks up. A row has a margin on both sides of its
+// columns: samples there, which a band of rows passes on its way, leave no error and may be read and written.
+using DiffusionDriver = void(const Reduction&, const Noise* noise, float* errors, int workers);
+inline constexpr int errorMargin = 160;
+
 struct ReduceDrivers {
-    DriverWith<const Reduction&>& plain;
-    DriverWith<const Reduction&, const Noise*>& ordered; // with noise unless it is null
-    DriverWith<const Reduction&, const DiffusionNeeds&>&floydSteinberg, &jarvisJudiceNinke, &stucki;
+    void (&plain)(const Reduction&);
+    void (&ordered)(const Reduction&, const Noise*); // with noise unless it is null
+    DiffusionDriver &floydSteinberg, &jarvisJudiceNinke, &stucki;
     float whiteOfSource;
     int maxLevels;
 };

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 // Rows of samples, whatever channel they are of, as floats from 0 to white, and back. A pixel of these layouts is a
-// sample.
+// sample; keepsAlpha leaves every fourth sample as it is.
 #pragma once
 
 #include "pixels/sequences.h"
-#include "reduce/reduction.h"
+#include "reduce/reduce_rows.h"
 #include "simd/samples.h"
 
 namespace zorcc::ZORCC_TIER {
@@ -13,36 +13,30 @@ namespace {
 constexpr int signedBias = 32768; // signed samples stand for a value that is so much greater
 
 // The least signed sample has the same bits as the unsigned word of the middle.
-ZORCC_INLINE f32v loadFloats(const int16_t* p) { return toFloat(loadIntegers((const uint16_t*)p) ^ signedBias); }
+ZORCC_INLINE s32v loadSamples(const int16_t* p) { return loadIntegers((const uint16_t*)p) ^ signedBias; }
+template <class Unsigned> ZORCC_INLINE s32v loadSamples(const Unsigned* p) { return loadIntegers(p); }
+
 ZORCC_INLINE f32v loadFloats(const float* p) { return load<f32v>(p); }
-template <class Integer> ZORCC_INLINE f32v loadFloats(const Integer* p) { return toFloat(loadIntegers(p)); }
+template <class Integer> ZORCC_INLINE f32v loadFloats(const Integer* p) { return toFloat(loadSamples(p)); }
 
 // Values about 0 to white, saturated.
 ZORCC_INLINE void storeSamples(int16_t* p, s32v v) { storeIntegers(p, v - signedBias); }
 template <class Unsigned> ZORCC_INLINE void storeSamples(Unsigned* p, s32v v) { storeIntegers(p, v); }
 
-ZORCC_INLINE s32v loadSamples(const int16_t* p) { return loadIntegers((const uint16_t*)p) ^ signedBias; }
-template <class Unsigned> ZORCC_INLINE s32v loadSamples(const Unsigned* p) { return loadIntegers(p); }
-
-template <class Sample> struct SampleRow : Lines<Line{{sizeof(Sample)}}> {
+constexpr Block fourthOfFour32 = {{0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 255, 255, 255, 255}};
+template <class Sample, bool keepsAlpha = false> struct SampleRow : Lines<Line{{sizeof(Sample)}}> {
     static constexpr int pixelsAtOnce = lanes;
 
     f32v load(int x) const { return loadFloats((const Sample*)this->at(0, x)); }
-    void store(int x, s32v v) const { storeSamples((Sample*)this->at(0, x), v); }
-};
-
-// Every fourth sample is left as it is.
-constexpr Block fourthOfFour32 = {{0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 255, 255, 255, 255}};
-template <class Sample> struct ColourSampleRow : SampleRow<Sample> {
     void store(int x, s32v v) const
     {
-        const s32v alpha = (s32v)fillBlock(fourthOfFour32);
         Sample* const p = (Sample*)this->at(0, x);
-        storeSamples(p, select(alpha, loadSamples(p), v));
+        if constexpr (keepsAlpha) v = select((s32v)fillBlock(fourthOfFour32), loadSamples(p), v);
+        storeSamples(p, v);
     }
 };
 
-// The same for bytes that stay bytes, several vectors at a time.
+// Bytes that stay bytes, several vectors at a time.
 using ByteRow = Sequences<3 * vectorBytes, Line{{1}}>;
 struct ColourByteRow : ByteRow {
     void store(int x, const Vectors<3>& v) const

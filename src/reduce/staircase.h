@@ -8,21 +8,19 @@
 namespace zorcc::ZORCC_TIER {
 namespace {
 
-class Staircases {
+// For thresholds that repeat after `side` rows and columns.
+template <int side> class Staircases {
 public:
-    // Samples of an image from which on the construction pays.
-    static constexpr int64_t minSamples = 1 << 15;
-
     // False where there are too many outputs, or one that is less than that of a lesser input: then the formula itself
     // must be used. The output for input 0 must not depend on the threshold.
-    template <class Formula> bool build(const Formula& formula, const float (&thresholds)[bayerSide][bayerSide])
+    template <class Formula>
+    bool build(const Formula& formula, const float (&thresholds)[side][side], int samplesPerPixel)
     {
+        uint8_t outputs[side][side][256];
         bool present[256] = {};
-        for (int y = 0; y < bayerSide; ++y)
-            for (int x = 0; x < bayerSide; ++x) {
+        for (int y = 0; y < side; ++y)
+            for (int x = 0; x < side; ++x) {
                 uint8_t* const output = outputs[y][x];
-                staircase[y][x] = thresholds[y][x] == thresholds[0][0] ? outputs[0][0] : output;
-                if (y + x > 0 && staircase[y][x] != output) continue;
                 evaluate(formula, thresholds[y][x], output);
                 if (falls(output)) return false;
                 for (int i = 0; i < 256; i = firstAbove(output, output[i])) present[output[i]] = true;
@@ -34,21 +32,16 @@ public:
             values.byte[count++] = static_cast<uint8_t>(v);
         }
         rises = count - 1;
-        return true;
-    }
-
-    // How the samples of a row belong to pixels.
-    void spread(int channels)
-    {
-        for (int y = 0; y < bayerSide; ++y)
+        for (int y = 0; y < side; ++y)
             for (int r = 0; r < rises; ++r) {
-                int8_t last[bayerSide]; // input whose output is not above value r; less 128
-                for (int x = 0; x < bayerSide; ++x)
-                    last[x] = static_cast<int8_t>(firstAbove(staircase[y][x], values.byte[r]) - 129);
+                int8_t last[side]; // input whose output is not above value r; less 128
+                for (int x = 0; x < side; ++x)
+                    last[x] = static_cast<int8_t>(firstAbove(outputs[y][x], values.byte[r]) - 129);
                 int8_t* const row = below[y][r];
-                for (int i = 0; i < period; ++i) row[i] = last[i / channels % bayerSide];
+                for (int i = 0; i < period; ++i) row[i] = last[i / samplesPerPixel % side];
                 for (int i = period; i < period + step; i += period) __builtin_memcpy(row + i, row, period);
             }
+        return true;
     }
 
     // The formula of row y.
@@ -70,18 +63,16 @@ public:
             return collect<3>([&](auto k) { return shuffle(value, count[k]); });
         }
     };
-    [[gnu::always_inline]] Row row(int y) const { return {*this, y % bayerSide, 0}; }
+    [[gnu::always_inline]] Row row(int y) const { return {*this, y % side, 0}; }
 
 private:
     static constexpr int maxValues = 16;         // what one shuffle can look up
     static constexpr int period = 48;            // samples after which all layouts repeat their thresholds
     static constexpr int step = 3 * vectorBytes; // a multiple of it
 
-    uint8_t outputs[bayerSide][bayerSide][256];
-    const uint8_t* staircase[bayerSide][bayerSide]; // those of one threshold are one
-    Block values = {};                              // the outputs, ascending
+    Block values = {}; // the outputs, ascending
     int rises;
-    alignas(64) int8_t below[bayerSide][maxValues - 1][period + step];
+    alignas(64) int8_t below[side][maxValues - 1][period + step];
 
     template <class Formula> static void evaluate(const Formula& formula, float threshold, uint8_t* output)
     {

@@ -15,10 +15,16 @@ template <class Sample> ZORCC_INLINE s32v loadIntegers(const Sample* p)
     std::conditional_t<sizeof(Sample) == 1, uint32_t, uint64_t> four;
     __builtin_memcpy(&four, p, sizeof four);
     return widen((Vec<Sample>)u64v{four}).part[0];
+#elif defined(ZORCC_TIER_avx2)
+    if constexpr (sizeof(Sample) == 1)
+        return (s32v)_mm256_cvtepu8_epi32(_mm_loadl_epi64((const __m128i*)p));
+    else
+        return (s32v)_mm256_cvtepu16_epi32(_mm_loadu_si128((const __m128i*)p));
 #else
-    Sample samples __attribute__((vector_size(lanes * sizeof(Sample))));
-    __builtin_memcpy(&samples, p, sizeof samples);
-    return __builtin_convertvector(samples, s32v);
+    if constexpr (sizeof(Sample) == 1)
+        return (s32v)_mm512_cvtepu8_epi32(_mm_loadu_si128((const __m128i*)p));
+    else
+        return (s32v)_mm512_cvtepu16_epi32(_mm256_loadu_si256((const __m256i*)p));
 #endif
 }
 

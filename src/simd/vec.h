@@ -158,29 +158,17 @@ ZORCC_INLINE s16v packSigned(s32v lo, s32v hi) { return (s16v)ZORCC_MM(packs_epi
 // ---- order within blocks --------------------------------------------------------------------------------------------
 
 // Per block: a0 b0 a1 b1 ... of the lower halves, and of the upper halves.
-template <class V> ZORCC_INLINE V zipLow(V a, V b)
-{
-    if constexpr (sizeof(a[0]) == 1)
-        return (V)ZORCC_MM(unpacklo_epi8)(reg(a), reg(b));
-    else if constexpr (sizeof(a[0]) == 2)
-        return (V)ZORCC_MM(unpacklo_epi16)(reg(a), reg(b));
-    else if constexpr (sizeof(a[0]) == 4)
-        return (V)ZORCC_MM(unpacklo_epi32)(reg(a), reg(b));
-    else
-        return (V)ZORCC_MM(unpacklo_epi64)(reg(a), reg(b));
-}
-
-template <class V> ZORCC_INLINE V zipHigh(V a, V b)
-{
-    if constexpr (sizeof(a[0]) == 1)
-        return (V)ZORCC_MM(unpackhi_epi8)(reg(a), reg(b));
-    else if constexpr (sizeof(a[0]) == 2)
-        return (V)ZORCC_MM(unpackhi_epi16)(reg(a), reg(b));
-    else if constexpr (sizeof(a[0]) == 4)
-        return (V)ZORCC_MM(unpackhi_epi32)(reg(a), reg(b));
-    else
-        return (V)ZORCC_MM(unpackhi_epi64)(reg(a), reg(b));
-}
+#define ZORCC_ZIP(name, unpack)                                                                                        \
+    template <class V> ZORCC_INLINE V name(V a, V b)                                                                   \
+    {                                                                                                                  \
+        if constexpr (sizeof(a[0]) == 1) return (V)ZORCC_MM(unpack##_epi8)(reg(a), reg(b));                            \
+        if constexpr (sizeof(a[0]) == 2) return (V)ZORCC_MM(unpack##_epi16)(reg(a), reg(b));                           \
+        if constexpr (sizeof(a[0]) == 4) return (V)ZORCC_MM(unpack##_epi32)(reg(a), reg(b));                           \
+        if constexpr (sizeof(a[0]) == 8) return (V)ZORCC_MM(unpack##_epi64)(reg(a), reg(b));                           \
+    }
+ZORCC_ZIP(zipLow, unpacklo)
+ZORCC_ZIP(zipHigh, unpackhi)
+#undef ZORCC_ZIP
 
 // The lower and the upper byte of every pair.
 ZORCC_INLINE s16v firstOfPairs(u8v pairs) { return (s16v)pairs & 0xff; }

@@ -126,19 +126,14 @@ template <PackedOrder order, ChromaForm form, int rows = 1, int columns = 1> str
 
     [[gnu::always_inline]] Vectors<rows * 2 * n> operator()(const Vectors<rows * n + 2>& s) const
     {
-        const Vectors<n> pairs = repeated(asPairs(slice<rows * n, 2>(s)));
+        const Vectors<2> chroma = slice<rows * n, 2>(s);
+        const Vectors<n> pairs = repeated(form == ChromaForm::pairs ? chroma : Zip{}(chroma));
         const auto packed = withLuma<order>(slice<0, n>(s), pairs);
         if constexpr (rows == 1) return packed;
         if constexpr (rows == 2) return concat(packed, withLuma<order>(slice<n, n>(s), pairs));
     }
 
 private:
-    [[gnu::always_inline]] static Vectors<2> asPairs(const Vectors<2>& chroma)
-    {
-        if constexpr (form == ChromaForm::pairs) return chroma;
-        if constexpr (form == ChromaForm::planes) return Zip{}(chroma);
-    }
-
     [[gnu::always_inline]] static Vectors<n> repeated(const Vectors<2>& pairs)
     {
         if constexpr (columns == 1) return pairs;
@@ -154,7 +149,7 @@ template <PackedOrder order, ChromaForm form, int rows = 1, int columns = 1> str
     {
         const auto first = lumaAndPairs<order>(slice<0, 2 * n>(s));
         const Vectors<n> luma = firstHalf(first);
-        const Vectors<2> chroma = inForm(kept(secondHalf(first)));
+        const Vectors<2> pairs = kept(secondHalf(first)), chroma = form == ChromaForm::pairs ? pairs : Unzip{}(pairs);
         if constexpr (rows == 1) return concat(luma, chroma);
         if constexpr (rows == 2) return concat(luma, lumaOf<order>(slice<2 * n, 2 * n>(s)), chroma);
     }
@@ -165,23 +160,14 @@ private:
         if constexpr (columns == 1) return pairs;
         if constexpr (columns == 2) return everySecond<0, u16v>(pairs);
     }
-
-    [[gnu::always_inline]] static Vectors<2> inForm(const Vectors<2>& pairs)
-    {
-        if constexpr (form == ChromaForm::pairs) return pairs;
-        if constexpr (form == ChromaForm::planes) return Unzip{}(pairs);
-    }
 };
 
 // ---- lines of whole images: `rows` rows, chroma samples for `columns` pairs of pixels, which makes loads as long ----
 
-template <int rows, int pixels, Unit luma, Line... chroma> struct LumaRows;
-template <int pixels, Unit luma, Line... chroma>
-struct LumaRows<1, pixels, luma, chroma...> : Sequences<pixels, Line{luma}, chroma...> {
-};
-template <int pixels, Unit luma, Line... chroma>
-struct LumaRows<2, pixels, luma, chroma...> : Sequences<pixels, Line{luma, 0, 0, 2}, Line{luma, 0, 1, 2}, chroma...> {
-    static constexpr int rowsAtOnce = 2;
+template <int rows, int pixels, Unit luma, Line... chroma>
+struct LumaRows : std::conditional_t<rows == 1, Sequences<pixels, Line{luma}, chroma...>,
+                                     Sequences<pixels, Line{luma, 0, 0, 2}, Line{luma, 0, 1, 2}, chroma...>> {
+    static constexpr int rowsAtOnce = rows;
 };
 
 template <int rows, int columns> using PackedLines = LumaRows<rows, 2 * columns * vectorBytes, Unit{4, 1}>;
