@@ -17,85 +17,99 @@
 namespace zorcc::test {
 namespace {
 
-// Rows that one call of a callback stands for.
-using Take = std::function<void(int firstRow, int rowCount)>;
+// What one call of a callback stands for: rows, and the numbers that it was given.
+using Share = std::vector<int>;
+using Take = std::function<void(int firstRow, int rowCount, const Share& share)>;
 
 struct Pattern {
     const char* name;
     void (*run)(int width, int height, const Take& take);
 };
 
-const Pattern patterns[] = {
-    {"rowsAboveThreshold",
-     [](int width, int height, const Take& take) { rowsAboveThreshold(width, height, [&](int y) { take(y, 1); }); }},
-    {"rowsAlways", [](int, int height, const Take& take) { rowsAlways(height, [&](int y) { take(y, 1); }); }},
-    {"bandsAboveThreshold",
-     [](int width, int height, const Take& take) {
-         bandsAboveThreshold(width, height, [&](int first, int count) { take(first, count); });
-     }},
-    {"groupsAboveThreshold",
-     [](int width, int height, const Take& take) {
-         groupsAboveThreshold(width, height, [&](GroupBand band) {
-             const int first = 4 * band.firstGroup;
-             take(first, band.isLast ? height - first : 4 * band.groupCount);
-         });
-     }},
-};
-
-class Parallel : public testing::TestWithParam<Pattern> {
-protected:
-    void SetUp() override { ASSERT_EQ(zorSetNumThreads(4), zorStatusOk); }
-};
-INSTANTIATE_TEST_SUITE_P(, Parallel, testing::ValuesIn(patterns), [](const auto& test) { return test.param.name; });
-
-void expectEveryRowOnce(const Pattern& pattern, int width, int height)
+void runRows(int width, int height, const Take& take)
 {
-    std::vector<std::atomic<int>> times(height);
-    pattern.run(width, height, [&](int first, int count) {
-        for (int y = first; y < first + count; ++y) ++times.at(y);
+    rowsAboveThreshold(width, height, [&](int y) { take(y, 1, {y}); });
+}
+void runAlways(int, int height, const Take& take)
+{
+    rowsAlways(height, [&](int y) { take(y, 1, {y}); });
+}
+void runBands(int width, int height, const Take& take)
+{
+    bandsAboveThreshold(width, height, [&](int first, int count) { take(first, count, {first, count}); });
+}
+void runGroups(int width, int height, const Take& take)
+{
+    groupsAboveThreshold(width, height, [&](GroupBand band) {
+        const int first = 4 * band.firstGroup, count = band.isLast ? height - first : 4 * band.groupCount;
+        take(first, count, {band.firstGroup, band.groupCount, band.isFirst, band.isLast});
     });
-    for (int y = 0; y < height; ++y)
-        ASSERT_EQ(times[y], 1) << "row " << y << " of " << width << " x " << height << ", " << ownGetNumThreads()
-                               << " threads";
 }
 
-void expectEveryRowOnce(const Pattern& pattern)
+constexpr Pattern rows{"rows", runRows}, always{"always", runAlways}, bands{"bands", runBands},
+    groups{"groups", runGroups}, patterns[] = {rows, always, bands, groups};
+
+struct Observation {
+    std::vector<int> times, member; // of each row
+    std::multiset<Share> shares;
+    std::set<std::thread::id> threads;
+    bool forked = false;
+};
+
+Observation observe(const Pattern& pattern, int width, int height)
 {
-    for (int threads = 1; threads <= 8; ++threads) {
-        ASSERT_EQ(zorSetNumThreads(threads), zorStatusOk);
-        for (int height = 1; height <= 20; ++height)
-            for (const int width : {1, 64, 300, 5000}) expectEveryRowOnce(pattern, width, height);
-        const ZorSize sizes[] = {{64, 64},   {65, 64},   {4096, 1},  {4097, 1},  {1, 4096},  {1, 4097},
-                                 {17, 241},  {191, 192}, {192, 191}, {192, 192}, {193, 199}, {127, 129},
-                                 {128, 128}, {128, 129}, {128, 130}, {128, 131}, {128, 132}, {1000, 133}};
-        for (const ZorSize size : sizes) expectEveryRowOnce(pattern, size.width, size.height);
-    }
+    Observation seen{std::vector<int>(height), std::vector<int>(height), {}, {}};
+    std::mutex mutex;
+    pattern.run(width, height, [&](int first, int count, const Share& share) {
+        const std::lock_guard lock(mutex);
+        for (int y = first; y < first + count; ++y) {
+            ++seen.times.at(y);
+            seen.member.at(y) = omp_get_thread_num();
+        }
+        seen.shares.insert(share);
+        seen.threads.insert(std::this_thread::get_id());
+        seen.forked |= omp_in_parallel() != 0;
+    });
+    return seen;
 }
 
-TEST_P(Parallel, EveryRowOnce) { expectEveryRowOnce(GetParam()); }
-
-// The runtime makes teams as large as it sees fit, at most as large as asked for.
-TEST_P(Parallel, EveryRowOnceWithDynamicTeams)
+void expectEveryRowOnce(int width, int height)
 {
-    omp_set_dynamic(1);
-    expectEveryRowOnce(GetParam());
-    omp_set_dynamic(0);
+    for (const Pattern& pattern : patterns)
+        EXPECT_EQ(observe(pattern, width, height).times, std::vector<int>(height, 1))
+            << pattern.name << ", width " << width << ", " << ownGetNumThreads() << " threads";
 }
 
-TEST_P(Parallel, EveryRowOnceWhenForkingIsRefused)
+// The runtime makes teams as large as asked for, as large as it sees fit up to that, or none.
+TEST(Parallel, EveryRowOnceWhateverTheTeam)
 {
     const int levels = omp_get_max_active_levels();
-    omp_set_max_active_levels(0);
-    expectEveryRowOnce(GetParam());
+    const struct {
+        bool dynamic;
+        int levels;
+    } teams[] = {{false, levels}, {true, levels}, {false, 0}};
+    for (const auto& team : teams) {
+        omp_set_dynamic(team.dynamic);
+        omp_set_max_active_levels(team.levels);
+        for (int threads = 1; threads <= 8; ++threads) {
+            ASSERT_EQ(zorSetNumThreads(threads), zorStatusOk);
+            for (const int width : {1, 64, 128, 192, 5000})
+                for (const int height :
+                     {1, 2, 3, 4, 5, 7, 8, 9, 15, 16, 17, 20, 64, 65, 128, 129, 130, 131, 132, 133, 191, 192, 193})
+                    expectEveryRowOnce(width, height);
+        }
+    }
+    omp_set_dynamic(0);
     omp_set_max_active_levels(levels);
 }
 
-TEST_P(Parallel, EveryRowOnceFromSeveralThreadsAtOnce)
+TEST(Parallel, EveryRowOnceFromSeveralThreadsAtOnce)
 {
+    ASSERT_EQ(zorSetNumThreads(4), zorStatusOk);
     std::vector<std::thread> callers;
     for (int i = 0; i < 4; ++i)
         callers.emplace_back([] {
-            for (int height = 192; height < 200; ++height) expectEveryRowOnce(GetParam(), 192, height);
+            for (int height = 192; height < 200; ++height) expectEveryRowOnce(192, height);
         });
     for (std::thread& caller : callers) caller.join();
 }
@@ -117,64 +131,48 @@ TEST(ParallelSections, EachOnceAndOnAThreadOfItsOwn)
     }
 }
 
-TEST(ParallelSections, OnOneThreadInsideAParallelRegion)
+TEST(Parallel, StaysOnTheCallingThreadInsideAParallelRegion)
 {
     ASSERT_EQ(zorSetNumThreads(4), zorStatusOk);
     EXPECT_EQ(threadsHere(), 4);
-    std::atomic<int> strangers = 0, inside = 0, done = 0;
+    omp_set_max_active_levels(2); // so that the runtime would fork again
+    std::atomic<int> inside = 0, done = 0, strangers = 0;
 #pragma omp parallel num_threads(2)
     {
         inside += threadsHere();
-        const auto caller = std::this_thread::get_id();
+        const std::thread::id self = std::this_thread::get_id();
+        const auto look = [&] { strangers += std::this_thread::get_id() != self; };
         sections(3, [&](int) {
             ++done;
-            strangers += std::this_thread::get_id() != caller;
+            look();
         });
+        for (const Pattern& pattern : patterns) pattern.run(1000, 1000, [&](int, int, const Share&) { look(); });
     }
+    omp_set_max_active_levels(1);
     EXPECT_EQ(inside, 2);
     EXPECT_EQ(done, 6);
     EXPECT_EQ(strangers, 0);
 }
 
-struct Observation {
-    bool forked = false;
-    std::set<std::thread::id> threads;
-};
-
-Observation observe(const Pattern& pattern, int width, int height)
-{
-    Observation seen;
-    std::mutex mutex;
-    pattern.run(width, height, [&](int, int) {
-        const std::lock_guard lock(mutex);
-        seen.forked |= omp_in_parallel() != 0;
-        seen.threads.insert(std::this_thread::get_id());
-    });
-    return seen;
-}
-
 TEST(ParallelThreshold, ForksFromItsSizeOn)
 {
-    ASSERT_EQ(zorSetNumThreads(4), zorStatusOk);
-    const Pattern& rows = patterns[0];
-    const Pattern& always = patterns[1];
-    const Pattern& bands = patterns[2];
-    const Pattern& groups = patterns[3];
     const struct {
         const Pattern& pattern;
-        int width, height;
+        int threads, width, height;
         bool forks;
     } cases[] = {
-        {rows, 64, 64, false},      {rows, 65, 64, true},       {rows, 4096, 1, false},
-        {rows, 4097, 1, true},      {rows, 1, 4096, false},     {rows, 1, 4097, true},
-        {rows, 17, 241, true},      {rows, 65536, 65536, true}, // a product that 32 bits would lose
-        {always, 1, 1, true},       {always, 1, 2, true},       {always, 4096, 2, true},
-        {bands, 192, 192, true},    {bands, 191, 192, false},   {bands, 192, 191, false},
-        {bands, 5000, 191, false},  {bands, 191, 5000, false},  {groups, 128, 129, true},
-        {groups, 127, 129, false},  {groups, 128, 128, false},  {groups, 127, 5000, false},
-        {groups, 5000, 128, false},
+        {rows, 4, 64, 64, false},     {rows, 4, 65, 64, true},       {rows, 4, 4096, 1, false},
+        {rows, 4, 4097, 1, true},     {rows, 4, 1, 4096, false},     {rows, 4, 1, 4097, true},
+        {rows, 4, 17, 241, true},     {rows, 4, 65536, 65536, true}, // a product that 32 bits would lose
+        {rows, 1, 1000, 1000, false}, {always, 4, 1, 1, true},       {always, 4, 4096, 2, true},
+        {always, 1, 9, 1000, false},  {bands, 4, 192, 192, true},    {bands, 4, 191, 192, false},
+        {bands, 4, 192, 191, false},  {bands, 4, 5000, 191, false},  {bands, 4, 191, 5000, false},
+        {bands, 1, 999, 999, false},  {groups, 4, 128, 129, true},   {groups, 4, 127, 129, false},
+        {groups, 4, 128, 128, false}, {groups, 4, 127, 5000, false}, {groups, 4, 5000, 128, false},
+        {groups, 1, 999, 999, false},
     };
     for (const auto& c : cases) {
+        ASSERT_EQ(zorSetNumThreads(c.threads), zorStatusOk);
         const Observation seen = observe(c.pattern, c.width, c.height);
         EXPECT_EQ(seen.forked, c.forks) << c.pattern.name << " " << c.width << " x " << c.height;
         if (!c.forks) {
@@ -185,121 +183,53 @@ TEST(ParallelThreshold, ForksFromItsSizeOn)
     }
 }
 
-TEST_P(Parallel, OneThreadDoesNotFork)
-{
-    ASSERT_EQ(zorSetNumThreads(1), zorStatusOk);
-    const Observation seen = observe(GetParam(), 1000, 1000);
-    EXPECT_FALSE(seen.forked);
-    EXPECT_EQ(seen.threads, std::set{std::this_thread::get_id()});
-}
-
-TEST_P(Parallel, StaysOnTheCallingThreadInsideAParallelRegion)
-{
-    omp_set_max_active_levels(2); // so that the runtime would fork again
-    std::atomic<int> callers = 0, elsewhere = 0;
-#pragma omp parallel num_threads(2)
-    {
-        ++callers;
-        const std::thread::id self = std::this_thread::get_id();
-        GetParam().run(1000, 1000, [&](int, int) { elsewhere += std::this_thread::get_id() != self; });
-    }
-    omp_set_max_active_levels(1);
-    EXPECT_EQ(callers, 2);
-    EXPECT_EQ(elsewhere, 0);
-}
-
 TEST(ParallelRows, MembersTakeContiguousBandsInTheirOrder)
 {
-    for (const Pattern& pattern : {patterns[0], patterns[1]}) {
+    for (const Pattern& pattern : {rows, always})
         for (int threads = 2; threads <= 5; ++threads) {
             ASSERT_EQ(zorSetNumThreads(threads), zorStatusOk);
-            std::vector<int> member(203);
-            pattern.run(100, 203, [&](int y, int) { member[y] = omp_get_thread_num(); });
+            const std::vector<int> member = observe(pattern, 100, 203).member;
             EXPECT_TRUE(std::is_sorted(member.begin(), member.end())) << pattern.name;
             for (int m = 0; m < threads; ++m) {
-                const auto rows = std::count(member.begin(), member.end(), m);
-                EXPECT_TRUE(rows == 203 / threads || rows == 203 / threads + 1) << pattern.name << ": " << rows;
+                const auto count = std::count(member.begin(), member.end(), m);
+                EXPECT_TRUE(count == 203 / threads || count == 203 / threads + 1) << pattern.name << ": " << count;
             }
         }
-    }
 }
-
-using Band = std::vector<int>; // numbers that a callback was given
-using Bands = std::multiset<Band>;
-
-class Recorder {
-public:
-    void add(const Band& band)
-    {
-        const std::lock_guard lock(mutex);
-        bands.insert(band);
-    }
-    Bands bands;
-
-private:
-    std::mutex mutex;
-};
 
 TEST(ParallelBands, SharesByHand)
 {
     const struct {
+        const Pattern& pattern;
         int threads, width, height;
-        Bands bands; // first row, row count
+        std::multiset<Share> shares;
     } cases[] = {
-        {1, 500, 200, {{0, 200}}},
-        {2, 192, 193, {{0, 96}, {96, 97}}},
-        {3, 200, 200, {{0, 66}, {66, 66}, {132, 68}}},
-        {7, 192, 192, {{0, 27}, {27, 27}, {54, 27}, {81, 27}, {108, 27}, {135, 27}, {162, 30}}},
-        {5, 5000, 191, {{0, 191}}},
-        {193, 192, 192, {{0, 192}}}, // quotient 0: the remainder is everything
+        // first row, row count
+        {bands, 1, 500, 200, {{0, 200}}},
+        {bands, 2, 192, 193, {{0, 96}, {96, 97}}},
+        {bands, 3, 200, 200, {{0, 66}, {66, 66}, {132, 68}}},
+        {bands, 7, 192, 192, {{0, 27}, {27, 27}, {54, 27}, {81, 27}, {108, 27}, {135, 27}, {162, 30}}},
+        {bands, 5, 5000, 191, {{0, 191}}},
+        {bands, 193, 192, 192, {{0, 192}}}, // quotient 0: the remainder is everything
+        // first group, group count, is first, is last
+        {groups, 2, 500, 4, {{0, 1, 1, 1}}},
+        {groups, 2, 500, 3, {{0, 0, 1, 1}}},
+        {groups, 4, 128, 128, {{0, 32, 1, 1}}},
+        {groups, 2, 128, 132, {{0, 16, 1, 0}, {16, 17, 0, 1}}},                 // 33 groups, 32 divided
+        {groups, 3, 128, 129, {{0, 10, 1, 0}, {10, 10, 0, 0}, {20, 12, 0, 1}}}, // 32 groups, 31 divided
+        {groups, 3, 128, 131, {{0, 10, 1, 0}, {10, 10, 0, 0}, {20, 12, 0, 1}}}, // three rows left over
+        // 64 groups, 63 divided
+        {groups, 4, 999, 256, {{0, 15, 1, 0}, {15, 15, 0, 0}, {30, 15, 0, 0}, {45, 19, 0, 1}}},
+        {groups, 40, 128, 131, {{0, 32, 1, 1}}}, // quotient 0
     };
     for (const auto& c : cases) {
         ASSERT_EQ(zorSetNumThreads(c.threads), zorStatusOk);
-        Recorder recorder;
-        bandsAboveThreshold(c.width, c.height, [&](int first, int count) { recorder.add({first, count}); });
-        EXPECT_EQ(recorder.bands, c.bands) << c.width << " x " << c.height << ", " << c.threads << " threads";
-    }
-}
-
-Bands groupBands(int width, int height)
-{
-    Recorder recorder;
-    groupsAboveThreshold(width, height, [&](GroupBand band) {
-        recorder.add({band.firstGroup, band.groupCount, band.isFirst, band.isLast});
-    });
-    return recorder.bands;
-}
-
-TEST(ParallelGroups, SharesByHand)
-{
-    const struct {
-        int threads, width, height;
-        Bands bands; // first group, group count, is first, is last
-    } cases[] = {
-        {1, 500, 200, {{0, 50, 1, 1}}},
-        {2, 500, 4, {{0, 1, 1, 1}}},
-        {2, 500, 3, {{0, 0, 1, 1}}},
-        {4, 127, 200, {{0, 50, 1, 1}}},
-        {4, 128, 128, {{0, 32, 1, 1}}},
-        {2, 128, 132, {{0, 16, 1, 0}, {16, 17, 0, 1}}},                                 // 33 groups, 32 divided
-        {3, 128, 129, {{0, 10, 1, 0}, {10, 10, 0, 0}, {20, 12, 0, 1}}},                 // 32 groups, 31 divided
-        {3, 128, 131, {{0, 10, 1, 0}, {10, 10, 0, 0}, {20, 12, 0, 1}}},                 // three rows left over
-        {4, 999, 256, {{0, 15, 1, 0}, {15, 15, 0, 0}, {30, 15, 0, 0}, {45, 19, 0, 1}}}, // 64 groups, 63 divided
-        {40, 128, 131, {{0, 32, 1, 1}}},                                                // quotient 0
-    };
-    for (const auto& c : cases) {
-        ASSERT_EQ(zorSetNumThreads(c.threads), zorStatusOk);
-        EXPECT_EQ(groupBands(c.width, c.height), c.bands)
+        EXPECT_EQ(observe(c.pattern, c.width, c.height).shares, c.shares)
             << c.width << " x " << c.height << ", " << c.threads << " threads";
     }
-}
-
-TEST(ParallelGroups, OneBandWhenForkingIsRefused)
-{
-    ASSERT_EQ(zorSetNumThreads(3), zorStatusOk);
     const int levels = omp_get_max_active_levels();
     omp_set_max_active_levels(0);
-    EXPECT_EQ(groupBands(128, 129), (Bands{{0, 32, 1, 1}}));
+    EXPECT_EQ(observe(groups, 128, 129).shares, (std::multiset<Share>{{0, 32, 1, 1}}));
     omp_set_max_active_levels(levels);
 }
 

@@ -2,10 +2,13 @@
 // The harness must find what it is there for: broken conversions pass through it, and each must be caught.
 #include <gtest/gtest.h>
 
+#include <set>
+#include <sstream>
 #include <utility>
 
 #include "tests/harness/argument_checks.h"
 #include "tests/harness/arrangements.h"
+#include "tests/harness/cases.h"
 #include "tests/reference/chromasampling.h"
 #include "tests/reference/yuv.h"
 #include "zorcc.h"
@@ -31,9 +34,6 @@ constexpr Case mosaic{.name = "zoriCFAToRGB_8u_C1C3R", .minimum = {2, 2}, .demos
 
 const Function& sound(const Case& c) { return *interface::findFunction(c.name); }
 
-// What the function of a case does, as a part of another body.
-ZorStatus right(const Case& c, const Call& call) { return sound(c).bound(call); }
-
 using Body = ZorStatus (*)(const Call&);
 
 Function withBody(const Case& c, Body body)
@@ -42,6 +42,101 @@ Function withBody(const Case& c, Body body)
     function.bound = body;
     return function;
 }
+
+using Byte = std::uint8_t;
+
+Byte* row(const interface::Image& image, int y)
+{
+    return static_cast<Byte*>(image.plane[0]) + std::ptrdiff_t{image.step[0]} * y;
+}
+
+// Broken bodies for a case: change(call) before the right work,
+template <const Case& c, class Change> Body changed(Change)
+{
+    return [](const Call& call) {
+        Call confused = call;
+        Change{}(confused);
+        return sound(c).bound(confused);
+    };
+}
+
+// or a status of its own where check(call) holds,
+template <const Case& c, ZorStatus status, class Check> Body refused(Check)
+{
+    return [](const Call& call) -> ZorStatus { return Check{}(call) ? status : sound(c).bound(call); };
+}
+
+// or damage to every row of interleaved pixels after the right work.
+struct Row {
+    Byte *from, *to;
+    int bytes, fromStep, toStep, y;
+    bool isLast;
+};
+template <const Case& c = interleaved, int channels = 3, class Damage> Body damaged(Damage)
+{
+    return [](const Call& call) {
+        const ZorStatus status = sound(c).bound(call);
+        for (int y = 0; y < call.size.height && (status == zorStatusOk || status == zorStatusOddSize); ++y)
+            Damage{}(Row{row(call.source, y), row(call.destination, y), channels * call.size.width, call.source.step[0],
+                         call.destination.step[0], y, y == call.size.height - 1});
+        return status;
+    };
+}
+
+volatile Byte sink; // of reads that leave no trace in the results
+
+const Body wrongLastPixel = damaged([](Row r) { r.to[r.bytes - 1] ^= 1; });
+const Body oneByteTooFar = damaged([](Row r) { r.to[r.bytes] ^= 1; });
+const Body warns = [](const Call& call) -> ZorStatus {
+    const ZorStatus status = sound(interleaved).bound(call);
+    return status == zorStatusOk ? zorStatusOddSize : status;
+};
+
+constexpr auto exchangePlanes = [](Call& call) {
+    std::swap(call.destination.plane[1], call.destination.plane[2]);
+    std::swap(call.destination.step[1], call.destination.step[2]);
+};
+
+struct Fault {
+    const char* name;
+    const Case& c;
+    Body body;
+};
+
+const Fault faults[] = {
+    {"first pixel", interleaved, damaged([](Row r) { r.to[0] ^= 0x80; })},
+    {"last pixel", interleaved, wrongLastPixel},
+    {"neighbours exchanged", interleaved, damaged([](Row r) { std::swap(r.to[1], r.to[r.bytes > 3 ? 4 : 1]); })},
+    {"does nothing", interleaved, [](const Call&) -> ZorStatus { return zorStatusOk; }},
+    {"warns of every size", interleaved, warns},
+    {"writes one byte too far", interleaved, oneByteTooFar},
+    {"writes before rows", interleaved, damaged([](Row r) { r.to[-1] ^= 1; })},
+    {"writes far after rows", interleaved, damaged([](Row r) { r.to[r.bytes + 60] ^= 1; })},
+    {"writes padding", interleaved, damaged([](Row r) {
+         if (r.toStep > r.bytes && !r.isLast) r.to[r.toStep - 1] ^= 1;
+     })},
+    {"writes the source", interleaved, damaged([](Row r) { r.from[0] ^= 1; })},
+    {"writes the source's padding", interleaved, damaged([](Row r) {
+         if (r.fromStep > r.bytes && !r.isLast) r.from[r.bytes] ^= 1;
+     })},
+    {"reads before rows", interleaved, damaged([](Row r) { sink = r.from[-1]; })},
+    {"reads after rows", interleaved, damaged([](Row r) { sink = r.from[r.bytes]; })},
+    {"reads after the last row", interleaved, damaged([](Row r) { sink = r.from[r.isLast ? r.bytes : 0]; })},
+    {"reads far after the last row", interleaved, damaged([](Row r) { sink = r.from[r.isLast ? r.bytes + 15 : 0]; })},
+    {"writes an alpha", withAlpha, damaged<withAlpha, 4>([](Row r) { r.to[r.bytes - 1] = 0; })},
+    {"takes one step for another", planar422,
+     changed<planar422>([](Call& call) { call.destination.step[2] = call.destination.step[1]; })},
+    {"exchanges planes", planar422, changed<planar422>(exchangePlanes)},
+    {"exchanges planes of pairs", semiPlanar, changed<semiPlanar>(exchangePlanes)},
+    {"reads an odd column", planar420, damaged<planar420>([](Row r) {
+         if (r.y == 0) sink = r.from[r.bytes - 1];
+     })},
+    {"writes to an odd row", toInterleaved, damaged<toInterleaved>([](Row r) { r.to[0] ^= r.isLast && r.y % 2 == 0; })},
+    {"forgets the region", mosaic, changed<mosaic>([](Call& call) { call.extra.region.reset(); })},
+    {"takes the region's first pixel for the image's", mosaic, changed<mosaic>([](Call& call) {
+         if (const auto& region = call.extra.region) call.extra.grid ^= region->x & 1 ? 2 : 0;
+     })},
+};
 
 // Runs the sizes that every function runs, as far as needed.
 testing::AssertionResult sweep(const Case& c, const Function& function)
@@ -54,187 +149,39 @@ testing::AssertionResult sweep(const Case& c, const Function& function)
     return testing::AssertionSuccess();
 }
 
-// Whether the sweep fails with another body in the function's place.
-bool isCaught(const Case& c, Body body) { return !sweep(c, withBody(c, body)); }
-
-using Byte = std::uint8_t;
-
-Byte* row(const interface::Image& image, int y)
-{
-    return static_cast<Byte*>(image.plane[0]) + std::ptrdiff_t{image.step[0]} * y;
-}
-
-// The right work on interleaved pixels of 3 bytes; then changes every row of the destination, given it and the width.
-template <class Damage> ZorStatus damaged(const Call& call, Damage damage)
-{
-    const ZorStatus status = right(interleaved, call);
-    if (status == zorStatusOk)
-        for (int y = 0; y < call.size.height; ++y) damage(row(call.destination, y), call.size.width);
-    return status;
-}
-
-ZorStatus wrongLastPixel(const Call& call)
-{
-    return damaged(call, [](Byte* row, int width) { row[3 * width - 1] ^= 1; });
-}
-
-ZorStatus oneByteTooFar(const Call& call)
-{
-    return damaged(call, [](Byte* row, int width) { row[3 * width] ^= 1; });
-}
-
-TEST(Harness, PassesWhatIsRight)
+TEST(Harness, CatchesFaultsAndNothingElse)
 {
     for (const Case& c : {interleaved, withAlpha, planar422, planar420, toInterleaved, semiPlanar, mosaic})
         EXPECT_TRUE(sweep(c, sound(c)));
-    EXPECT_FALSE(isCaught(interleaved, [](const Call& call) { return damaged(call, [](Byte*, int) {}); }));
+    EXPECT_TRUE(sweep(interleaved, withBody(interleaved, damaged([](Row) {}))));
+    for (const Fault& fault : faults) EXPECT_FALSE(sweep(fault.c, withBody(fault.c, fault.body))) << fault.name;
 }
 
-TEST(Harness, CatchesWrongPixels)
-{
-    EXPECT_TRUE(isCaught(interleaved, wrongLastPixel));
-    EXPECT_TRUE(isCaught(interleaved, [](const Call& call) { // the first pixel
-        return damaged(call, [](Byte* row, int) { row[0] ^= 0x80; });
-    }));
-    EXPECT_TRUE(isCaught(interleaved, [](const Call& call) { // the last vector
-        return damaged(call, [](Byte* row, int width) {
-            for (int i = 3 * (width - 16); i >= 0 && i < 3 * width; i += 3) ++row[i];
-        });
-    }));
-    EXPECT_TRUE(isCaught(interleaved, [](const Call& call) { // two neighbours exchanged
-        return damaged(call, [](Byte* row, int width) {
-            if (width >= 2) std::swap(row[1], row[4]);
-        });
-    }));
-}
-
-TEST(Harness, CatchesWritesOutside)
-{
-    EXPECT_TRUE(isCaught(interleaved, oneByteTooFar));
-    EXPECT_TRUE(
-        isCaught(interleaved, [](const Call& call) { return damaged(call, [](Byte* row, int) { row[-1] ^= 1; }); }));
-    EXPECT_TRUE(isCaught(interleaved, [](const Call& call) {
-        return damaged(call, [](Byte* row, int width) { row[3 * width + 60] ^= 1; });
-    }));
-}
-
-// Reads that leave no trace in the results: one byte before or behind every row, or behind the last one only.
-volatile Byte sink;
-
-template <int before, int behind, bool lastRowOnly> ZorStatus strayRead(const Call& call)
-{
-    const ZorStatus status = right(interleaved, call);
-    for (int y = lastRowOnly ? call.size.height - 1 : 0; y < call.size.height; ++y) {
-        if (before > 0) sink = row(call.source, y)[-before];
-        if (behind > 0) sink = row(call.source, y)[3 * call.size.width - 1 + behind];
-    }
-    return status;
-}
-
-TEST(Harness, CatchesStrayReads)
-{
-    EXPECT_TRUE(isCaught(interleaved, strayRead<1, 0, false>));
-    EXPECT_TRUE(isCaught(interleaved, strayRead<0, 1, false>));
-    EXPECT_TRUE(isCaught(interleaved, strayRead<0, 1, true>));
-    EXPECT_TRUE(isCaught(interleaved, strayRead<0, 16, true>));
-}
-
-// Every row but the last, which an image that merely ends at a page cannot tell.
+// Every row but the last: an image that merely ends at a page does not show it.
 TEST(Harness, CatchesStrayReadsBetweenRows)
 {
-    Checker checker(interleaved, withBody(interleaved, [](const Call& call) {
-                        const ZorStatus status = right(interleaved, call);
-                        if (call.size.height == 3) sink = row(call.source, 1)[3 * call.size.width];
-                        return status;
-                    }));
+    const Body body = damaged([](Row r) { sink = r.from[r.isLast ? 0 : r.bytes]; });
+    Checker checker(interleaved, withBody(interleaved, body));
     EXPECT_TRUE(checker.check({{20, 3}, {Steps::tight}}));
     EXPECT_FALSE(checker.check({{20, 3}, {Steps::isolated}}));
 }
 
-TEST(Harness, CatchesOtherDamage)
-{
-    EXPECT_TRUE(isCaught(interleaved, [](const Call& call) { // the source's pixels
-        const ZorStatus status = right(interleaved, call);
-        ++row(call.source, 0)[0];
-        return status;
-    }));
-    EXPECT_TRUE(isCaught(interleaved, [](const Call& call) { // the source's padding
-        const ZorStatus status = right(interleaved, call);
-        if (call.source.step[0] > 3 * call.size.width) ++row(call.source, 0)[3 * call.size.width];
-        return status;
-    }));
-    EXPECT_TRUE(isCaught(interleaved, [](const Call& call) { // the destination's padding
-        const ZorStatus status = right(interleaved, call);
-        const int step = call.destination.step[0];
-        if (step > 3 * call.size.width && call.size.height > 1) ++row(call.destination, 0)[step - 1];
-        return status;
-    }));
-    EXPECT_TRUE(isCaught(interleaved, [](const Call&) -> ZorStatus { return zorStatusOk; })); // does nothing
-}
-
 TEST(Harness, CatchesAddressesOf32Bits)
 {
-    Checker checker(interleaved, withBody(interleaved, [](const Call& call) -> ZorStatus {
-                        for (int y = 0; y < call.size.height; ++y) {
-                            Call one = call;
-                            const unsigned step = static_cast<unsigned>(call.source.step[0]);
-                            one.source.plane[0] =
-                                row(call.source, 0) + static_cast<std::int32_t>(step * static_cast<unsigned>(y));
-                            one.destination.plane[0] = row(call.destination, y);
-                            one.size.height = 1;
-                            static_cast<void>(right(interleaved, one));
-                        }
-                        return zorStatusOk;
-                    }));
+    const Body body = [](const Call& call) -> ZorStatus {
+        Call one = call;
+        one.size.height = 1;
+        for (int y = 0; y < call.size.height; ++y) {
+            const unsigned offset = static_cast<unsigned>(call.source.step[0]) * static_cast<unsigned>(y);
+            one.source.plane[0] = row(call.source, 0) + static_cast<std::int32_t>(offset);
+            one.destination.plane[0] = row(call.destination, y);
+            static_cast<void>(sound(interleaved).bound(one));
+        }
+        return zorStatusOk;
+    };
+    Checker checker(interleaved, withBody(interleaved, body));
     EXPECT_TRUE(checker.check({{20, 5}, {Steps::isolated}}));
     EXPECT_FALSE(checker.check({{20, 5}, {Steps::huge}}));
-}
-
-Call withPlanesExchanged(Call call)
-{
-    std::swap(call.destination.plane[1], call.destination.plane[2]);
-    std::swap(call.destination.step[1], call.destination.step[2]);
-    return call;
-}
-
-TEST(Harness, KnowsLayouts)
-{
-    EXPECT_TRUE(isCaught(withAlpha, [](const Call& call) { // writes an alpha
-        const ZorStatus status = right(withAlpha, call);
-        for (int y = 0; y < call.size.height; ++y) row(call.destination, y)[4 * call.size.width - 1] = 0;
-        return status;
-    }));
-    EXPECT_TRUE(isCaught(planar422, [](const Call& call) { // takes one step for another
-        Call confused = call;
-        confused.destination.step[2] = call.destination.step[1];
-        return right(planar422, confused);
-    }));
-    EXPECT_TRUE(isCaught(planar422, [](const Call& call) { return right(planar422, withPlanesExchanged(call)); }));
-    EXPECT_TRUE(isCaught(semiPlanar, [](const Call& call) { return right(semiPlanar, withPlanesExchanged(call)); }));
-    EXPECT_TRUE(isCaught(planar420, [](const Call& call) { // reads an odd column
-        const ZorStatus status = right(planar420, call);
-        if (call.size.width > 1 && call.size.height > 1) sink = row(call.source, 0)[3 * call.size.width - 1];
-        return status;
-    }));
-    EXPECT_TRUE(isCaught(toInterleaved, [](const Call& call) { // writes to an odd row
-        const ZorStatus status = right(toInterleaved, call);
-        if (call.size.height % 2 != 0) row(call.destination, call.size.height - 1)[0] ^= 1;
-        return status;
-    }));
-}
-
-TEST(Harness, KnowsRegions)
-{
-    EXPECT_TRUE(isCaught(mosaic, [](const Call& call) { // forgets the region
-        Call fixed = call;
-        fixed.extra.region.reset();
-        return right(mosaic, fixed);
-    }));
-    EXPECT_TRUE(isCaught(mosaic, [](const Call& call) { // takes the region's first pixel for the image's
-        Call moved = call;
-        if (const auto& region = call.extra.region) moved.extra.grid ^= region->x & 1 ? 2 : 0;
-        return right(mosaic, moved);
-    }));
 }
 
 TEST(Harness, CatchesDamageInPlace)
@@ -243,78 +190,74 @@ TEST(Harness, CatchesDamageInPlace)
     EXPECT_FALSE(Checker(interleaved, withBody(interleaved, wrongLastPixel)).checkInPlace({{33, 3}}));
 }
 
-// What a failure tells.
+// What the message of a failure says.
 TEST(Harness, SaysWhere)
 {
-    Checker wrong(interleaved, withBody(interleaved, wrongLastPixel));
-    const std::string text = wrong.check({{20, 3}, {Steps::sample}, {Steps::wide, true}}).message();
-    EXPECT_NE(text.find("zoriRGBToYUV_8u_C3R on ssse3, 20x3"), std::string::npos) << text;
-    EXPECT_NE(text.find("plane 0, sample (59, "), std::string::npos) << text;
-    EXPECT_NE(text.find("expected"), std::string::npos) << text;
-
-    Checker outside(interleaved, withBody(interleaved, oneByteTooFar));
-    const std::string beside = outside.check({{20, 1}, {}, {Steps::tight, false, Edge::start}}).message();
-    EXPECT_NE(beside.find("outside the image, 60 bytes from the start of row 0"), std::string::npos) << beside;
-    const std::string fault = outside.check({{20, 1}}).message();
-    EXPECT_NE(fault.find("byte 60 of row 0, plane 0 of the destination"), std::string::npos) << fault;
+    const auto says = [](Body body, const Trial& trial, const char* text) {
+        const std::string message = Checker(interleaved, withBody(interleaved, body)).check(trial).message();
+        EXPECT_NE(message.find(text), std::string::npos) << message;
+    };
+    const Trial wide{{20, 3}, {Steps::sample}, {Steps::wide, true}};
+    for (const char* text : {"zoriRGBToYUV_8u_C3R on ssse3, 20x3", "plane 0, sample (59, ", "expected"})
+        says(wrongLastPixel, wide, text);
+    says(oneByteTooFar, {{20, 1}, {}, {Steps::tight, false, Edge::start}},
+         "outside the image, 60 bytes from the start of row 0");
+    says(oneByteTooFar, {{20, 1}}, "byte 60 of row 0, plane 0 of the destination");
 }
 
-// Statuses. The body looks at arguments in another order, or too late, or not at all.
-TEST(Harness, CatchesWrongChecks)
+// Bodies that look at arguments in another order, or too late, or not at all.
+const Fault wrongChecks[] = {
+    {"the size before pointers", interleaved,
+     refused<interleaved, zorStatusBadSize>([](const Call& c) { return c.size.width < 1 || c.size.height < 1; })},
+    {"writes before it checks", interleaved, changed<interleaved>([](Call& call) {
+         if (call.destination.plane[0]) row(call.destination, 0)[0] ^= 1;
+     })},
+    {"forgets the height", interleaved, changed<interleaved>([](Call& call) { call.size.height = 1; })},
+    {"planes before the size", planar422, refused<planar422, zorStatusNullPointer>([](const Call& call) {
+         const auto& plane = call.destination.plane;
+         return call.source.plane[0] && !call.nullArrays[1] && !(plane[0] && plane[1] && plane[2]);
+     })},
+    {"forgets the last plane", planar422,
+     changed<planar422>([](Call& call) { call.destination.plane[2] = call.destination.plane[1]; })},
+    {"the size before planes", semiPlanar, refused<semiPlanar, zorStatusBadSize>([](const Call& call) {
+         const bool images = call.source.plane[0] && call.source.plane[1] && !call.nullArrays[1];
+         return images && (call.size.width < 2 || call.size.height < 2);
+     })},
+    {"forgets the pairs", semiPlanar,
+     changed<semiPlanar>([](Call& call) { call.source.plane[1] = call.source.plane[0]; })},
+    {"forgets the grid", mosaic, changed<mosaic>([](Call& call) { call.extra.grid &= 3; })},
+};
+
+TEST(Harness, CatchesWrongStatuses)
 {
-    const auto isCaught = [](const Case& c, Body body) { return !checkFaultyArguments(c, withBody(c, body)); };
     for (const Case& c : {interleaved, planar422, semiPlanar, mosaic}) EXPECT_TRUE(checkFaultyArguments(c, sound(c)));
-    EXPECT_TRUE(isCaught(mosaic, [](const Call& call) { // forgets the grid
-        Call fixed = call;
-        fixed.extra.grid &= 3;
-        return right(mosaic, fixed);
-    }));
-    EXPECT_TRUE(isCaught(interleaved, [](const Call& call) -> ZorStatus { // the size before pointers
-        return call.size.width < 1 || call.size.height < 1 ? zorStatusBadSize : right(interleaved, call);
-    }));
-    EXPECT_TRUE(isCaught(interleaved, [](const Call& call) { // writes before it checks
-        if (call.destination.plane[0]) row(call.destination, 0)[0] ^= 1;
-        return right(interleaved, call);
-    }));
-    EXPECT_TRUE(isCaught(interleaved, [](const Call& call) { // forgets the height
-        Call fixed = call;
-        fixed.size.height = 1;
-        return right(interleaved, fixed);
-    }));
-    EXPECT_TRUE(isCaught(planar422, [](const Call& call) -> ZorStatus { // planes before the size
-        const auto& plane = call.destination.plane;
-        const bool images = call.source.plane[0] && !call.nullArrays[1];
-        return images && !(plane[0] && plane[1] && plane[2]) ? zorStatusNullPointer : right(planar422, call);
-    }));
-    EXPECT_TRUE(isCaught(planar422, [](const Call& call) { // forgets the last plane
-        Call fixed = call;
-        if (!fixed.destination.plane[2]) fixed.destination.plane[2] = fixed.destination.plane[1];
-        return right(planar422, fixed);
-    }));
-    EXPECT_TRUE(isCaught(semiPlanar, [](const Call& call) -> ZorStatus { // the size before planes
-        const bool images = call.source.plane[0] && call.source.plane[1] && !call.nullArrays[1];
-        return images && (call.size.width < 2 || call.size.height < 2) ? zorStatusBadSize : right(semiPlanar, call);
-    }));
-    EXPECT_TRUE(isCaught(semiPlanar, [](const Call& call) { // forgets the pairs
-        Call fixed = call;
-        if (!fixed.source.plane[1]) fixed.source.plane[1] = fixed.source.plane[0];
-        return right(semiPlanar, fixed);
-    }));
+    for (const Fault& fault : wrongChecks)
+        EXPECT_FALSE(checkFaultyArguments(fault.c, withBody(fault.c, fault.body))) << fault.name;
+
+    for (const Case& c : {interleaved, semiPlanar}) EXPECT_TRUE(checkOddSizes(c, sound(c)));
+    EXPECT_FALSE(checkOddSizes(interleaved, withBody(interleaved, warns)));
+    const Body hasNoMinimum =
+        refused<semiPlanar, zorStatusOk>([](const Call& c) { return c.size.width == 1 && c.size.height == 1; });
+    EXPECT_FALSE(checkOddSizes(semiPlanar, withBody(semiPlanar, hasNoMinimum)));
 }
 
-TEST(Harness, CatchesWrongStatusesOfSizes)
+// Every exported conversion has a reference and runs through the tests of a family.
+TEST(Cases, CoverEveryFunction)
 {
-    for (const Case& c : {interleaved, semiPlanar}) EXPECT_TRUE(checkOddSizes(c, sound(c)));
-    const Body warns = [](const Call& call) -> ZorStatus {
-        static_cast<void>(right(interleaved, call));
-        return zorStatusOddSize;
-    };
-    EXPECT_TRUE(isCaught(interleaved, warns));
-    EXPECT_FALSE(checkOddSizes(interleaved, withBody(interleaved, warns)));
-    const Body forgetsMinimum = [](const Call& call) -> ZorStatus {
-        return call.size.width == 1 && call.size.height == 1 ? zorStatusOk : right(semiPlanar, call);
-    };
-    EXPECT_FALSE(checkOddSizes(semiPlanar, withBody(semiPlanar, forgetsMinimum)));
+    std::istringstream names(ZORCC_FAMILIES);
+    std::set<std::string> withTests;
+    for (std::string name; names >> name;) withTests.insert(name);
+    std::set<const reference::Case*> used;
+    for (const interface::Function& function : interface::functions()) {
+        const Rule rule = ruleOf(function);
+        ASSERT_TRUE(rule.expected) << function.name;
+        EXPECT_TRUE(rule.expected->reference || rule.expected->imageReference || rule.expected->demosaic);
+        EXPECT_TRUE(withTests.contains(std::string(rule.family->name))) << rule.family->name;
+        used.insert(rule.expected);
+    }
+    for (const Family& family : families())
+        for (const reference::Case& rule : family.rules)
+            EXPECT_TRUE(used.contains(&rule)) << "no function for " << rule.name << " of " << family.name;
 }
 
 } // namespace

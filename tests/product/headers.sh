@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Each public header compiles alone, and twice in one file: headers.sh INCLUDE-FOLDER LANGUAGE STANDARD COMPILER
+# Each public header compiles alone, and twice in one file: headers.sh INCLUDE-FOLDER STANDARD_COMPILER
 set -euo pipefail
-include=$1 language=$2 standard=$3 compiler=$4
+include=$1 standard=${2%%_*} compiler=${2#*_} language=${2%%[0-9]*}
 command -v "$compiler" >/dev/null || { echo "skipped: no $compiler"; exit 77; }
 
 flags=(-Wall -Wextra -pedantic -Werror -Wconversion -Wundef)

@@ -1,45 +1,37 @@
 # SPDX-License-Identifier: MIT
-"""How a shared library is linked: linkage.py LIBRARY SONAME NEEDED-LIBRARIES PATH...
+"""How a shared library is linked: linkage.py LIBRARY HEADER SONAME NEEDED-LIBRARIES PATH...
 
-NEEDED-LIBRARIES, joined by commas, may be needed beside the OpenMP runtime and the C library, and no PATH may stand in
-the file.
+It exports the functions that its header declares, no more and no fewer. NEEDED-LIBRARIES, joined by commas, may be
+needed beside the OpenMP runtime and the C library, and no PATH may stand in the file.
 """
+import pathlib
 import re
 import sys
 
-from tools import Findings, output_of
+from tools import Findings, output_of, prototypes
 
-library, soname, needed_libraries, *paths = sys.argv[1:]
+library, header, soname, needed_libraries, *paths = sys.argv[1:]
 allowed = {"libgomp.so.1", "libomp.so.5", "libc.so.6", "libm.so.6", "ld-linux-x86-64.so.2"}
-findings = Findings()
-
+symbols = [line.split() for line in output_of("nm", "-D", "--defined-only", library).splitlines()]
 dynamic = output_of("readelf", "-dW", library)
-if re.findall(r"\(SONAME\).*\[(.*)\]", dynamic) != [soname]:
-    findings.add(f"SONAME is not {soname}")
 needed = re.findall(r"\(NEEDED\).*\[(.*)\]", dynamic)
-if not needed:
-    findings.add("needs no library: not read rightly")
-for name in sorted(set(needed) - allowed - set(needed_libraries.split(","))):
-    findings.add(f"needs {name}")
-if not re.search(r"\(FLAGS(_1)?\).*\b(BIND_NOW|NOW)\b", dynamic):
-    findings.add("symbols are not bound at once")
-if "(TEXTREL)" in dynamic:
-    findings.add("relocations in code")
-for path in re.findall(r"\((?:RPATH|RUNPATH)\).*\[(.*)\]", dynamic):
-    if path != "$ORIGIN":
-        findings.add(f"search path {path}")
-
 segments = output_of("readelf", "-lW", library)
-if not re.search(r"^\s*GNU_RELRO", segments, re.M):
-    findings.add("relocations are not made read-only")
 stack = re.findall(r"^\s*GNU_STACK(?:\s+0x\w+){5}\s+([RWE ]+?)\s+0x", segments, re.M)
-if stack != ["RW"]:
-    findings.add(f"stack is {stack}, not RW")
+content = pathlib.Path(library).read_bytes()
 
-with open(library, "rb") as file:
-    content = file.read()
-for path in paths:
-    at = content.find(path.encode())
-    if at >= 0:
-        findings.add(f"the path {path} stands in the file: ...{content[at:at + 100]}")
+findings = Findings()
+findings.same({name for _, _, name in symbols}, prototypes(header), "the library", "the header")
+for fault, found in (
+        ("symbols other than functions", {kind for _, kind, _ in symbols} - {"T"}),
+        (f"SONAME is not {soname}", re.findall(r"\(SONAME\).*\[(.*)\]", dynamic) != [soname]),
+        ("needs no library: not read rightly", not needed),
+        ("needs other libraries", set(needed) - allowed - set(needed_libraries.split(","))),
+        ("symbols are not bound at once", not re.search(r"\(FLAGS(_1)?\).*\b(BIND_NOW|NOW)\b", dynamic)),
+        ("relocations in code", "(TEXTREL)" in dynamic),
+        ("search paths", set(re.findall(r"\((?:RPATH|RUNPATH)\).*\[(.*)\]", dynamic)) - {"$ORIGIN"}),
+        ("relocations are not made read-only", not re.search(r"^\s*GNU_RELRO", segments, re.M)),
+        (f"stack is {stack}, not RW", stack != ["RW"]),
+        ("paths of this machine stand in the file", [path for path in paths if path.encode() in content])):
+    if found:
+        findings.add(f"{fault}: {found}")
 findings.leave()

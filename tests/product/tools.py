@@ -50,10 +50,8 @@ class Findings:
         print(text)
 
     def same(self, one, other, what_one, what_other):
-        for name in sorted(set(one) - set(other)):
-            self.add(f"{name}: in {what_one}, not in {what_other}")
-        for name in sorted(set(other) - set(one)):
-            self.add(f"{name}: in {what_other}, not in {what_one}")
+        for name in sorted(set(one) ^ set(other)):
+            self.add(f"{name}: only in {what_one if name in one else what_other}")
 
     def leave(self):
         sys.exit(1 if self.count else 0)

@@ -11,42 +11,33 @@
 namespace zorcc::test {
 namespace {
 
-struct Use {
-    ZorDitherMethod method;
-    int noise;
-    int allocations;
-};
+constexpr ZorDitherMethod methods[] = {zorDitherMethodNone, zorDitherMethodFloydSteinberg,
+                                       zorDitherMethodJarvisJudiceNinke, zorDitherMethodStucki, zorDitherMethodOrdered};
 
-// Noise takes two tables and two generators, error diffusion the rows of errors.
-constexpr Use uses[] = {
-    {zorDitherMethodNone, 0, 0},
-    {zorDitherMethodNone, 50, 0},
-    {zorDitherMethodOrdered, 0, 0},
-    {zorDitherMethodOrdered, 50, 4},
-    {zorDitherMethodFloydSteinberg, 0, 1},
-    {zorDitherMethodFloydSteinberg, 50, 5},
-    {zorDitherMethodJarvisJudiceNinke, 0, 1},
-    {zorDitherMethodJarvisJudiceNinke, 50, 5},
-    {zorDitherMethodStucki, 0, 1},
-    {zorDitherMethodStucki, 50, 5},
-};
+// Noise takes two tables and two generators, where the method takes noise; error diffusion the rows of errors.
+int allocationsFor(ZorDitherMethod method, int noise)
+{
+    const bool diffuses = method != zorDitherMethodNone && method != zorDitherMethodOrdered;
+    return (noise > 0 && method != zorDitherMethodNone ? 4 : 0) + diffuses;
+}
 
 TEST(ReduceMemory, EveryAllocationMayFail)
 {
     const std::vector<std::uint16_t> source(3 * 100 * 3, 12345);
     const std::vector<std::uint8_t> before(source.size(), 99);
-    for (const Use& use : uses)
-        for (int failing = 0; failing <= use.allocations; ++failing) {
-            std::vector<std::uint8_t> destination = before;
-            const AllocationFailure failure(failing);
-            const ZorStatus status = zoriReduceBits_16u8u_C3R(source.data(), 600, destination.data(), 300, {100, 3},
-                                                              use.noise, use.method, 2);
-            const bool fails = failing < use.allocations;
-            EXPECT_EQ(status, fails ? zorStatusNoMemory : zorStatusOk)
-                << "method " << use.method << ", noise " << use.noise << ", allocation " << failing;
-            EXPECT_EQ(destination == before, fails);
-            EXPECT_EQ(liveBlocks(), 0);
-        }
+    for (const ZorDitherMethod method : methods)
+        for (const int noise : {0, 50})
+            for (int failing = 0; failing <= allocationsFor(method, noise); ++failing) {
+                std::vector<std::uint8_t> destination = before;
+                const AllocationFailure failure(failing);
+                const ZorStatus status =
+                    zoriReduceBits_16u8u_C3R(source.data(), 600, destination.data(), 300, {100, 3}, noise, method, 2);
+                const bool fails = failing < allocationsFor(method, noise);
+                EXPECT_EQ(status, fails ? zorStatusNoMemory : zorStatusOk)
+                    << "method " << method << ", noise " << noise << ", allocation " << failing;
+                EXPECT_EQ(destination == before, fails);
+                EXPECT_EQ(liveBlocks(), 0);
+            }
 }
 
 // Rows of errors that no int can count. The sizes are never reached: nothing is read.

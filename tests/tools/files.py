@@ -1,5 +1,6 @@
 # SPDX-License-Identifier: MIT
 """Running the tool, and files written and read without it."""
+import array
 import atexit
 import os
 import shutil
@@ -23,27 +24,30 @@ atexit.register(shutil.rmtree, FOLDER)
 os.chdir(FOLDER)
 
 
-def run(*arguments, **options):
-    return subprocess.run([ZORCC, *map(str, arguments)], capture_output=True, text=True, timeout=120, env=ENVIRONMENT,
-                          **options)
+def run(line, *more):
+    """Runs the tool with the words of a line, and further arguments as they are."""
+    return subprocess.run([ZORCC, *line.split(), *map(str, more)], capture_output=True, text=True, timeout=120,
+                          env=ENVIRONMENT)
 
 
-def zorcc(*arguments):
+def zorcc(line, *more):
     """Runs the tool, which must succeed without a word on stderr; gives what it printed."""
-    result = run(*arguments)
-    assert result.returncode == 0 and not result.stderr, (arguments, result)
+    result = run(line, *more)
+    assert result.returncode == 0 and not result.stderr, (line, more, result)
     return result.stdout
-
-
-def functions():
-    """name, source and destination of every row of `zorcc list`."""
-    return [line.split()[:3] for line in zorcc("list").splitlines()]
 
 
 def compare(a, b):
     """{channel: (PSNR, largest difference)}"""
     rows = [line.split() for line in zorcc("compare", a, b).splitlines()[1:]]
     return {row[0]: (float(row[1]), float(row[2])) for row in rows}
+
+
+def there_and_back(picture, target, size, back="back.ppm"):
+    """PSNR and largest difference of a picture that went through a headerless file of another format"""
+    zorcc("convert", picture, "there.raw", "--to", target)
+    zorcc(f"convert --size {size} --format {target} there.raw {back} --to rgb24")
+    return compare(picture, back)["all"]
 
 
 def read(path):
@@ -61,6 +65,11 @@ def write_ppm(path, width, height, samples):
     return write(path, b"P6\n%d %d\n255\n" % (width, height) + bytes(samples))
 
 
+def write_pgm(path, width, height, samples, maximum=255):
+    packed = bytes(samples) if maximum < 256 else struct.pack(f">{len(samples)}H", *samples)
+    return write(path, b"P5\n%d %d\n%d\n" % (width, height, maximum) + packed)
+
+
 def read_pnm(path):
     """width, height, maximum, samples of a binary file as the tool writes it"""
     magic, size, maximum, samples = read(path).split(b"\n", 3)
@@ -74,22 +83,17 @@ def write_y4m(path, width, height, frames, tags=b"F25:1 C420jpeg", frame_line=b"
 
 
 def read_y4m(path):
-    """words of the header, bytes of the frames"""
-    header, rest = read(path).split(b"\n", 1)
-    words = header.decode().split()
-    value = {word[0]: word[1:] for word in words[1:]}
-    width, height = int(value["W"]), int(value["H"])
-    half = lambda size: (size + 1) // 2
-    chroma = {"420": half(width) * half(height), "422": half(width) * height, "444": width * height}[value["C"][:3]]
-    step = len(b"FRAME\n") + width * height + 2 * chroma
-    assert len(rest) % step == 0, (path, len(rest), step)
-    frames = [rest[at:at + step] for at in range(0, len(rest), step)]
-    assert all(frame.startswith(b"FRAME\n") for frame in frames)
-    return words, [frame[6:] for frame in frames]
+    """words of the header, bytes of the frames, which are all of one size"""
+    header, *frames = read(path).split(b"FRAME\n")
+    assert header.endswith(b"\n") and len(set(map(len, frames))) == 1, (path, header, [len(f) for f in frames])
+    return header.decode().split(), frames
 
 
 GREY, RGB, PALETTE, GREY_ALPHA, RGB_ALPHA = 0, 2, 3, 4, 6
 PNG_CHANNELS = {GREY: 1, RGB: 3, PALETTE: 1, GREY_ALPHA: 2, RGB_ALPHA: 4}
+# What holds the samples of a PNG file in a headerless one, by depth and colour type.
+HEADERLESS = {(8, GREY): "grey8", (16, GREY): "grey16", (8, RGB): "rgb24", (16, RGB): "rgb48",
+              (8, RGB_ALPHA): "rgba", (16, RGB_ALPHA): "rgba64"}
 
 
 def png_chunk(name, data):
@@ -122,31 +126,14 @@ def write_png(path, pixels, depth, colour, interlaced=False, palette=None, trans
 
 
 def read_png(path):
-    """depth, colour type, rows of pixels of a file that is not interlaced"""
-    content, at, data = read(path), 8, b""
-    while at < len(content):
-        length, name = struct.unpack(">I4s", content[at:at + 8])
-        body = content[at + 8:at + 8 + length]
-        if name == b"IHDR":
-            width, height, depth, colour, _, _, interlaced = struct.unpack(">IIBBBBB", body)
-            assert depth in (8, 16) and not interlaced
-        elif name == b"IDAT":
-            data += body
-        at += 12 + length
-    data = zlib.decompress(data)
-    sample_bytes = depth // 8
-    pixel_bytes = PNG_CHANNELS[colour] * sample_bytes
-    above, rows = bytearray(width * pixel_bytes), []
-    for y in range(height):
-        start = y * (1 + len(above))
-        kind, row = data[start], bytearray(data[start + 1:start + 1 + len(above)])
-        for i in range(len(row)):
-            left, upper_left = (row[i - pixel_bytes], above[i - pixel_bytes]) if i >= pixel_bytes else (0, 0)
-            estimate = left + above[i] - upper_left
-            nearest = min((left, above[i], upper_left), key=lambda v: abs(estimate - v))
-            row[i] = (row[i] + (0, left, above[i], (left + above[i]) // 2, nearest)[kind]) & 255
-        above = row
-        samples = [int.from_bytes(row[i:i + sample_bytes], "big") for i in range(0, len(row), sample_bytes)]
-        channels = PNG_CHANNELS[colour]
-        rows.append([tuple(samples[i:i + channels]) for i in range(0, len(samples), channels)])
-    return depth, colour, rows
+    """depth, colour type, samples. The tool decodes them: its decoder must first pass on files of write_png."""
+    depth, colour = read(path)[24:26]
+    zorcc("convert", path, "samples.raw", "--to", HEADERLESS[depth, colour])
+    return depth, colour, list(array.array("B" if depth == 8 else "H", read("samples.raw")))
+
+
+def samples(path):
+    """The samples of an 8-bit PNM file, of a PNG file, or the bytes of any other"""
+    if path.endswith(".png"):
+        return read_png(path)[2]
+    return list(read_pnm(path)[3] if path.endswith((".pgm", ".ppm")) else read(path))

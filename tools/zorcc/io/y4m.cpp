@@ -74,7 +74,7 @@ public:
             else if (word == "XCOLORRANGE=FULL" || word == "XCOLORRANGE=LIMITED")
                 videoTags.range = word.substr(12);
         }
-        if (visible.width == 0 || visible.height == 0) throw Cause("the header does not tell width and height");
+        if (visible.width == 0 || visible.height == 0) throw Cause("the header lacks width and height");
         // The header has no field for the matrix; it may give the range, and limited range is usual with BT.601.
         const bool limited = videoTags.range == "LIMITED";
         format = &byMatrix(*format, matrix.value_or(limited ? interface::Model::bt601 : interface::Model::yuv));
