@@ -20,7 +20,6 @@ template <class Holds> bool everywhere(const Image& from, const Image& to, Holds
 
 ZorStatus check(const Checks& checks, const Image& from, const Image& to, ZorSize& size)
 {
-    using OddSize = Checks::OddSize;
     if (!from.given || !to.given) return zorStatusNullPointer;
     const bool hasPlanes = everywhere(from, to, [](const Image& image, int p) { return image.plane[p] != nullptr; });
     if (checks.planes == Checks::Planes::beforeSize && !hasPlanes) return zorStatusNullPointer;
@@ -33,8 +32,8 @@ ZorStatus check(const Checks& checks, const Image& from, const Image& to, ZorSiz
     const ZorSize asked = size;
     size = {size.width & -checks.block.width, size.height & -checks.block.height};
     const bool isWhole = size.width == asked.width && size.height == asked.height;
-    if (isWhole || checks.oddSize == OddSize::cutOff) return zorStatusOk;
-    return checks.oddSize == OddSize::warned ? zorStatusOddSize : zorStatusBadSize;
+    if (isWhole || checks.oddSize == Checks::OddSize::cutOff) return zorStatusOk;
+    return checks.oddSize == Checks::OddSize::warned ? zorStatusOddSize : zorStatusBadSize;
 }
 
 } // namespace zorcc

@@ -83,8 +83,8 @@ template <class Formula> struct UnpackMixed {
     [[gnu::always_inline]] Vectors<6> operator()(const Vectors<8>& s) const
     {
         const Vectors<4> upper = lumaAndPairs<UYVY>(firstHalf(s)), lower = lumaAndPairs<UYVY>(secondHalf(s));
-        return concat(firstHalf(upper), firstHalf(lower),
-                      Unzip{}(Formula{}(concat(secondHalf(upper), secondHalf(lower)))));
+        const Vectors<4> pairs = concat(secondHalf(upper), secondHalf(lower));
+        return concat(concat(firstHalf(upper), firstHalf(lower)), Unzip{}(Formula{}(pairs)));
     }
 };
 
@@ -93,7 +93,7 @@ template <class Formula> struct PackMixed {
     [[gnu::always_inline]] Vectors<4> operator()(const Vectors<6>& s) const
     {
         return Pack<UYVY, ChromaForm::planes>{}(
-            concat(slice<0, 2>(s), Formula{}(slice<2, 2>(s)), Formula{}(slice<4, 2>(s))));
+            concat(slice<0, 2>(s), concat(Formula{}(slice<2, 2>(s)), Formula{}(slice<4, 2>(s)))));
     }
 };
 

@@ -8,9 +8,7 @@
 namespace zorcc::ZORCC_TIER {
 namespace {
 
-template <int count> struct Integers {
-    s32v c[count];
-};
+template <int count> using Integers = Widened<count>;
 
 template <class V> ZORCC_INLINE auto asFloats(const V& samples) { return toFloat(widen(samples)); }
 template <int parts> ZORCC_INLINE const Floats<parts>& asFloats(const Floats<parts>& floats) { return floats; }
@@ -27,7 +25,7 @@ ZORCC_INLINE auto throughFloats(Formula formula, const Inputs&... inputs)
         Widened<parts> wide[count];
         for (int p = 0; p < parts; ++p) {
             const Integers<count> results = formula(floats.part[p]...);
-            for (int i = 0; i < count; ++i) wide[i].part[p] = results.c[i];
+            for (int i = 0; i < count; ++i) wide[i].part[p] = results.part[i];
         }
         Samples<Sample, count> samples;
         for (int i = 0; i < count; ++i) samples.c[0][i] = narrow<Sample>(wide[i]);

@@ -131,12 +131,9 @@ template <class Layout> ZORCC_INLINE Layout fromPixel(const Layout& whole, int x
     return row;
 }
 
-constexpr Line ofRowPair(Line line, int row)
-{
-    return {line.unit, line.plane, line.row + row * line.rows, 2 * line.rows};
-}
-
-template <Line... all> auto twice(Lines<all...>) -> Lines<ofRowPair(all, 0)..., ofRowPair(all, 1)...>;
+template <Line... all>
+auto twice(Lines<all...>) -> Lines<Line{all.unit, all.plane, all.row, 2 * all.rows}...,
+                                   Line{all.unit, all.plane, all.row + all.rows, 2 * all.rows}...>;
 
 // Two rows of a layout that holds one: the lines of the upper row, then those of the lower.
 template <class Layout> struct TwoRows : decltype(twice(typename Layout::Base{})) {

@@ -54,13 +54,6 @@ ZORCC_INLINE Vectors<first + second> concat(const Vectors<first>& a, const Vecto
     });
 }
 
-template <int first, int second, int third>
-ZORCC_INLINE Vectors<first + second + third> concat(const Vectors<first>& a, const Vectors<second>& b,
-                                                    const Vectors<third>& c)
-{
-    return concat(concat(a, b), c);
-}
-
 // ---- two sequences and one; Element is u8v for bytes, u16v for pairs of them ----------------------------------------
 
 // a0 b0 a1 b1 ...

@@ -41,6 +41,14 @@ private:
     static int within(int64_t j, int steps) { return static_cast<int>(j < 0 ? 0 : j > steps ? steps : j); }
 };
 
+// Copies `count` samples at given distances.
+template <class Sample>
+ZORCC_INLINE void copySpaced(const Sample* from, int fromStep, Sample* to, int toStep, int count)
+{
+    const Sample* const end = to + count * toStep;
+    for (; to != end; to += toStep, from += fromStep) *to = *from;
+}
+
 // The columns of a row as floats from 0 to white; those that are not in the image are `outside`.
 template <class Src> ZORCC_INLINE void loadRow(const Src* src, Channels channels, Span in, float* row)
 {
@@ -61,8 +69,7 @@ template <class Src> ZORCC_INLINE void loadRow(const Src* src, Channels channels
     float* const floats = count < perPixel ? all : row;
     for (int i = 0; i < samples; i += lanes) store(floats + i, loadFloats(src + i));
     if (count < perPixel)
-        for (int c = 0; c < count; ++c)
-            for (int j = 0; j < steps; ++j) row[j * count + c] = all[j * perPixel + first + c];
+        for (int c = 0; c < count; ++c) copySpaced(all + first + c, perPixel, row + c, count, steps);
     for (int i = 0; i < in.begin * count; ++i) row[i] = outside;
     for (int i = in.end * count; i < steps * count; ++i) row[i] = outside;
 }
@@ -85,7 +92,7 @@ ZORCC_INLINE void storeRow(const AboveThreshold<Src, Dst>& formula, const float*
         return;
     }
     for (int c = 0; c < count; ++c)
-        for (int j = in.begin; j < in.end; ++j) dst[j * perPixel + first + c] = staged[j * count + c];
+        copySpaced(staged + begin + c, count, dst + in.begin * perPixel + first + c, perPixel, in.end - in.begin);
 }
 
 } // namespace

@@ -77,25 +77,44 @@ ZorStatus reduceBits(const ReduceDrivers& drivers, Layout layout, const Image& f
 
 using namespace zorcc;
 
-// Four functions for each pair of sample types, whose names and parameters zorcc.h declares.
-#define ZORCC_REDUCE_BITS_LAYOUT(types, Src, Dst, layout)                                                              \
-    ZorStatus zoriReduceBits_##types##_##layout##R(const Src* pSrc, int srcStep, Dst* pDst, int dstStep,               \
-                                                   ZorSize roiSize, int noise, ZorDitherMethod method, int levels)     \
+// All of them have the same parameters, but for the types of samples.
+#define ZORCC_REDUCE_BITS(name, Src, Dst, drivers, layout)                                                             \
+    ZorStatus name(const Src* pSrc, int srcStep, Dst* pDst, int dstStep, ZorSize roiSize, int noise,                   \
+                   ZorDitherMethod method, int levels)                                                                 \
     {                                                                                                                  \
-        return reduceBits(reduceRows().my##types, layout, interleaved(pSrc, srcStep), interleaved(pDst, dstStep),      \
+        return reduceBits(reduceRows().drivers, layout, interleaved(pSrc, srcStep), interleaved(pDst, dstStep),        \
                           roiSize, noise, method, levels);                                                             \
     }
-#define ZORCC_REDUCE_BITS(types, Src, Dst)                                                                             \
-    ZORCC_REDUCE_BITS_LAYOUT(types, Src, Dst, C1)                                                                      \
-    ZORCC_REDUCE_BITS_LAYOUT(types, Src, Dst, C3)                                                                      \
-    ZORCC_REDUCE_BITS_LAYOUT(types, Src, Dst, C4)                                                                      \
-    ZORCC_REDUCE_BITS_LAYOUT(types, Src, Dst, AC4)
 
-ZORCC_REDUCE_BITS(8u, uint8_t, uint8_t)
-ZORCC_REDUCE_BITS(16u, uint16_t, uint16_t)
-ZORCC_REDUCE_BITS(16u8u, uint16_t, uint8_t)
-ZORCC_REDUCE_BITS(16s, int16_t, int16_t)
-ZORCC_REDUCE_BITS(16s8u, int16_t, uint8_t)
-ZORCC_REDUCE_BITS(32f8u, float, uint8_t)
-ZORCC_REDUCE_BITS(32f16u, float, uint16_t)
-ZORCC_REDUCE_BITS(32f16s, float, int16_t)
+ZORCC_REDUCE_BITS(zoriReduceBits_8u_C1R, uint8_t, uint8_t, my8u, C1)
+ZORCC_REDUCE_BITS(zoriReduceBits_8u_C3R, uint8_t, uint8_t, my8u, C3)
+ZORCC_REDUCE_BITS(zoriReduceBits_8u_C4R, uint8_t, uint8_t, my8u, C4)
+ZORCC_REDUCE_BITS(zoriReduceBits_8u_AC4R, uint8_t, uint8_t, my8u, AC4)
+ZORCC_REDUCE_BITS(zoriReduceBits_16u_C1R, uint16_t, uint16_t, my16u, C1)
+ZORCC_REDUCE_BITS(zoriReduceBits_16u_C3R, uint16_t, uint16_t, my16u, C3)
+ZORCC_REDUCE_BITS(zoriReduceBits_16u_C4R, uint16_t, uint16_t, my16u, C4)
+ZORCC_REDUCE_BITS(zoriReduceBits_16u_AC4R, uint16_t, uint16_t, my16u, AC4)
+ZORCC_REDUCE_BITS(zoriReduceBits_16u8u_C1R, uint16_t, uint8_t, my16u8u, C1)
+ZORCC_REDUCE_BITS(zoriReduceBits_16u8u_C3R, uint16_t, uint8_t, my16u8u, C3)
+ZORCC_REDUCE_BITS(zoriReduceBits_16u8u_C4R, uint16_t, uint8_t, my16u8u, C4)
+ZORCC_REDUCE_BITS(zoriReduceBits_16u8u_AC4R, uint16_t, uint8_t, my16u8u, AC4)
+ZORCC_REDUCE_BITS(zoriReduceBits_16s_C1R, int16_t, int16_t, my16s, C1)
+ZORCC_REDUCE_BITS(zoriReduceBits_16s_C3R, int16_t, int16_t, my16s, C3)
+ZORCC_REDUCE_BITS(zoriReduceBits_16s_C4R, int16_t, int16_t, my16s, C4)
+ZORCC_REDUCE_BITS(zoriReduceBits_16s_AC4R, int16_t, int16_t, my16s, AC4)
+ZORCC_REDUCE_BITS(zoriReduceBits_16s8u_C1R, int16_t, uint8_t, my16s8u, C1)
+ZORCC_REDUCE_BITS(zoriReduceBits_16s8u_C3R, int16_t, uint8_t, my16s8u, C3)
+ZORCC_REDUCE_BITS(zoriReduceBits_16s8u_C4R, int16_t, uint8_t, my16s8u, C4)
+ZORCC_REDUCE_BITS(zoriReduceBits_16s8u_AC4R, int16_t, uint8_t, my16s8u, AC4)
+ZORCC_REDUCE_BITS(zoriReduceBits_32f8u_C1R, float, uint8_t, my32f8u, C1)
+ZORCC_REDUCE_BITS(zoriReduceBits_32f8u_C3R, float, uint8_t, my32f8u, C3)
+ZORCC_REDUCE_BITS(zoriReduceBits_32f8u_C4R, float, uint8_t, my32f8u, C4)
+ZORCC_REDUCE_BITS(zoriReduceBits_32f8u_AC4R, float, uint8_t, my32f8u, AC4)
+ZORCC_REDUCE_BITS(zoriReduceBits_32f16u_C1R, float, uint16_t, my32f16u, C1)
+ZORCC_REDUCE_BITS(zoriReduceBits_32f16u_C3R, float, uint16_t, my32f16u, C3)
+ZORCC_REDUCE_BITS(zoriReduceBits_32f16u_C4R, float, uint16_t, my32f16u, C4)
+ZORCC_REDUCE_BITS(zoriReduceBits_32f16u_AC4R, float, uint16_t, my32f16u, AC4)
+ZORCC_REDUCE_BITS(zoriReduceBits_32f16s_C1R, float, int16_t, my32f16s, C1)
+ZORCC_REDUCE_BITS(zoriReduceBits_32f16s_C3R, float, int16_t, my32f16s, C3)
+ZORCC_REDUCE_BITS(zoriReduceBits_32f16s_C4R, float, int16_t, my32f16s, C4)
+ZORCC_REDUCE_BITS(zoriReduceBits_32f16s_AC4R, float, int16_t, my32f16s, AC4)

@@ -70,31 +70,22 @@ template <int divisor> ZORCC_INLINE f32v divideBy(f32v v)
 
 // ---- neighbours in a sequence of vectors ----------------------------------------------------------------------------
 
-// Each element's left neighbour; `previous` is the vector before.
-ZORCC_INLINE f32v leftOf(f32v previous, f32v here)
+// As many elements of the sequence a, b, from the given one on.
+template <int first> ZORCC_INLINE f32v window(f32v a, f32v b)
 {
 #if defined(ZORCC_TIER_avx512)
-    return (f32v)_mm512_alignr_epi32((Register)here, (Register)previous, 15);
+    return (f32v)_mm512_alignr_epi32((Register)b, (Register)a, first);
 #elif defined(ZORCC_TIER_avx2)
-    const Register middle = _mm256_permute2x128_si256((Register)previous, (Register)here, 0x21);
-    return (f32v)_mm256_alignr_epi8((Register)here, middle, 12);
+    const Register middle = _mm256_permute2x128_si256((Register)a, (Register)b, 0x21);
+    return (f32v)_mm256_alignr_epi8(first < 4 ? middle : (Register)b, first < 4 ? (Register)a : middle, 4 * first % 16);
 #else
-    return (f32v)_mm_alignr_epi8((Register)here, (Register)previous, 12);
+    return (f32v)_mm_alignr_epi8((Register)b, (Register)a, 4 * first);
 #endif
 }
 
-// Each element's right neighbour; `next` is the vector after.
-ZORCC_INLINE f32v rightOf(f32v here, f32v next)
-{
-#if defined(ZORCC_TIER_avx512)
-    return (f32v)_mm512_alignr_epi32((Register)next, (Register)here, 1);
-#elif defined(ZORCC_TIER_avx2)
-    const Register middle = _mm256_permute2x128_si256((Register)here, (Register)next, 0x21);
-    return (f32v)_mm256_alignr_epi8(middle, (Register)here, 4);
-#else
-    return (f32v)_mm_alignr_epi8((Register)next, (Register)here, 4);
-#endif
-}
+// Each element's neighbour in a sequence of vectors: its left one, `previous` being the vector before, its right one.
+ZORCC_INLINE f32v leftOf(f32v previous, f32v here) { return window<lanes - 1>(previous, here); }
+ZORCC_INLINE f32v rightOf(f32v here, f32v next) { return window<1>(here, next); }
 
 // ---- from samples to 32 bits and back -------------------------------------------------------------------------------
 

@@ -151,7 +151,7 @@ template <PackedOrder order, ChromaForm form, int rows = 1, int columns = 1> str
         const Vectors<n> luma = firstHalf(first);
         const Vectors<2> pairs = kept(secondHalf(first)), chroma = form == ChromaForm::pairs ? pairs : Unzip{}(pairs);
         if constexpr (rows == 1) return concat(luma, chroma);
-        if constexpr (rows == 2) return concat(luma, lumaOf<order>(slice<2 * n, 2 * n>(s)), chroma);
+        if constexpr (rows == 2) return concat(concat(luma, lumaOf<order>(slice<2 * n, 2 * n>(s))), chroma);
     }
 
 private:
