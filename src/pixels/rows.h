@@ -54,8 +54,7 @@ ZORCC_INLINE Pixels<channels, 1, columns> rowOf(const Pixels<channels, 2, column
     return one;
 }
 
-// Luma of one row or of two, and the chroma that each pair of columns shares: per block eight samples of the first
-// chroma channel, then eight of the second.
+// Luma of one row or two, and chroma for pairs of columns: per block eight samples of Cb or U, then eight of Cr or V.
 template <int rows> struct Subsampled {
     u8v y[rows];
     u8v chroma;
@@ -158,9 +157,8 @@ template <class Layout> struct TwoRows : decltype(twice(typename Layout::Base{})
 
 // ---- formulas -------------------------------------------------------------------------------------------------------
 
-// Some formulas work in two steps, `prepare` and the call: what comes before their divisions and the rest. The walk
-// prepares the next vector before it finishes the current one, so that processors, which do not look far ahead, find
-// work while divisions last: 10 to 25 % here. Formulas that do not wait lose by it.
+// Some formulas work in two steps, `prepare` (what comes before their divisions) and the call. The walk prepares the
+// next vector before it finishes the current one: work for while divisions last, 10 to 25 % here. Others lose by it.
 template <class Formula, class Loaded>
 concept WorksInTwoSteps = requires(const Formula& formula, const Loaded& pixels)
 {
@@ -198,8 +196,7 @@ template <class Formula> ZORCC_INLINE auto singleOf(const Formula& formula)
         return formula;
 }
 
-// A tier's quicker way of a conversion: layouts of the same memory and a formula that give the same bytes. Specialised
-// where there is one.
+// A tier's quicker way of a conversion, where specialised: other layouts of the same memory, a formula, the same bytes.
 template <class From, class By, class To> struct OnThisTier {
     using Source = From;
     using Formula = By;
@@ -254,10 +251,9 @@ ZORCC_INLINE void convertShortRow(const Source& from, const Formula& formula, co
     destination.copyTo(to, width);
 }
 
-// Formulas of wide samples have some hundred instructions for each cache line, so that the instructions which a
-// processor holds at a time cover few lines; images beyond the caches gain a tenth to twice their speed when lines are
-// requested this far ahead. Bytes have too many pixels in a line for that. `width` is a multiple of a load's pixels:
-// nothing beyond the row is requested.
+// Formulas of wide samples have some hundred instructions for each cache line, of which a processor holds few; images
+// beyond the caches gain a tenth to twice their speed when lines are requested this far ahead. Bytes have too many
+// pixels in a line for that. `width` is a multiple of a load's pixels: nothing beyond the row is requested.
 constexpr int prefetchedBytes = 1024;
 template <class Layout> ZORCC_INLINE void prefetchAhead(const Layout& row, int x, int width)
 {

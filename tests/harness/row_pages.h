@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Pages far apart, one for each row of a plane: an access between them ends the test.
+// Pages far from each other, one for each row of a plane: an access between them ends the test.
 #pragma once
 
 #include <sys/mman.h>
@@ -33,7 +33,7 @@ public:
 
     std::uint8_t* data() const { return firstPage; }
 
-    // Four of the system's: room for a long row of floats.
+    // Four of the system's: space for a long row of floats.
     static std::size_t pageBytes() { return 4 * static_cast<std::size_t>(sysconf(_SC_PAGESIZE)); }
 
 private:

@@ -16,7 +16,7 @@ namespace {
 
 constexpr int wideGap = 67;          // samples
 constexpr int wideGapPerPlane = 5;   // samples more in every further plane
-constexpr int hugeStep = 0x60000000; // bytes; three rows are further apart than an int can tell
+constexpr int hugeStep = 0x60000000; // bytes; three rows are further from each other than an int can say
 constexpr std::size_t patternBytes = 1 << 16;
 
 // Random bytes twice over, so that any start in the first half is followed by half the bytes.
@@ -141,7 +141,7 @@ std::optional<Difference> TestImage::difference() const
     return std::nullopt;
 }
 
-// The byte at `address`, told from the nearest row of plane p.
+// The byte at `address`, named by the nearest row of plane p.
 TestImage::Place TestImage::placeOf(int p, const std::uint8_t* address) const
 {
     Place best{std::numeric_limits<std::ptrdiff_t>::max(), p, 0, 0};

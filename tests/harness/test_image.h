@@ -18,7 +18,7 @@ enum class Steps {
     sample,   // a gap of one sample
     wide,     // a gap of many samples, a different one in every plane where the signature allows it
     isolated, // inaccessible memory around every row
-    huge      // as isolated, more than a GiB apart
+    huge      // as isolated, more than a GiB from row to row
 };
 
 struct Arrangement {

@@ -17,7 +17,7 @@ void rearrange420As411(const Pixels& source, Pixels& destination);
 // Odd rows of 4:2:2 chroma from four of 4:2:0.
 void filterOddRows(const Pixels& source, Pixels& destination);
 
-// Fields apart.
+// Each field on its own.
 void mixFieldsTo420(const Pixels& source, Pixels& destination);
 void mixFieldsTo422(const Pixels& source, Pixels& destination);
 

@@ -12,7 +12,7 @@ SWAPPED = lambda y, cb, cr: y + cr + cb
 
 def interleaved(*streams):
     """The bytes of the streams in turn."""
-    return bytes(byte for together in zip(*streams, strict=True) for byte in together)
+    return bytes(byte for samples in zip(*streams, strict=True) for byte in samples)
 
 
 PAIRS = lambda y, cb, cr: y + interleaved(cb, cr)
