@@ -16,7 +16,8 @@ constexpr auto second = [](int i, const auto& a, const auto& b) {
 template <int half>
 constexpr auto zipped = [](int i, const auto& a, const auto& b) {
     constexpr int n = sizeof a / sizeof a[0];
-    return (i % 2 ? b : a)[half * n / 2 + i / 2];
+    const int k = half * n / 2 + i / 2;
+    return i % 2 ? b[k] : a[k];
 };
 
 constexpr auto inQuarters = [](int i, const auto& v) {

@@ -4,8 +4,11 @@
 namespace zorcc::ZORCC_TIER {
 namespace {
 
-constexpr auto lowZipped = [](int j, auto* a, auto* b) { return (j % 2 ? b : a)[j / 2]; };
-constexpr auto highZipped = [](int j, auto* a, auto* b) { return (j % 2 ? b : a)[8 / int{sizeof *a} + j / 2]; };
+constexpr auto lowZipped = [](int j, auto* a, auto* b) { return j % 2 ? b[j / 2] : a[j / 2]; };
+constexpr auto highZipped = [](int j, auto* a, auto* b) {
+    const int k = 8 / int{sizeof *a} + j / 2;
+    return j % 2 ? b[k] : a[k];
+};
 constexpr auto firstHalfZipped = [](int j, auto* v) { return v[j / 2 + j % 2 * (8 / int{sizeof *v})]; };
 constexpr auto unzipped = [](int j, auto* v) {
     constexpr int n = 8 / int{sizeof *v};
