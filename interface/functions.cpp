@@ -23,6 +23,7 @@ template <class Bound, class NameOf> constexpr Function describe(std::string_vie
     static_assert(Bound::signature() == signatureOf(name), "name and parameters differ");
     return {text,
             {},
+            name.variant,
             &format<shapeOf(name, name.source)>,
             &format<shapeOf(name, name.destination)>,
             alphaOf(name, Bound::takes(arguments::alpha)),

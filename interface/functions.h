@@ -15,7 +15,8 @@ enum class Alpha { none, keep, copy, zero, argument, converted };
 
 struct Function {
     std::string_view name;
-    std::string_view family; // title
+    std::string_view family;  // title
+    std::string_view variant; // as the name has it: "Filter"; often empty
     const Format* source;
     const Format* destination;
     Alpha alpha;

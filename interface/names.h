@@ -56,7 +56,7 @@ constexpr Name parse(std::string_view text)
 {
     constexpr std::string_view words[] = {"RGB", "BGR", "YUV", "YCbCr", "YCrCb", "CbYCr", "HLS", "HSV"};
     constexpr std::string_view packings[] = {"422", "420", "411", "1620", "565"};
-    constexpr std::string_view variants[] = {"709CSC_", "709HDTV_", "Filter_", "Interlace_"};
+    constexpr std::string_view variants[] = {"709CSC", "709HDTV", "Filter", "Interlace"};
     constexpr std::string_view samples[] = {"8u", "16u", "16s", "32s", "32f"};
     constexpr std::string_view layouts[] = {"AC4", "AP4", "C1", "C2", "C3", "C4", "P2", "P3", "P4"};
 
@@ -82,6 +82,7 @@ constexpr Name parse(std::string_view text)
     }
     name.expect(name.read("_"));
     n.variant = name.readOneOf(variants);
+    name.expect(n.variant.empty() || name.read("_"));
     from.sample = name.readOneOf(samples);
     to.sample = name.readOneOf(samples, from.sample);
     name.expect(!from.sample.empty() && name.read("_"));
@@ -115,7 +116,7 @@ constexpr Model modelOf(const Name& name, const Name::Side& side)
     if (side.model == "HSV") return Model::hsv;
     if (!isRgb(name.source) && !isRgb(name.destination)) return Model::anyYcc;
     if (side.model == "YUV") return Model::yuv;
-    return name.variant == "709CSC_" ? Model::bt709 : name.variant == "709HDTV_" ? Model::bt709full : Model::bt601;
+    return name.variant == "709CSC" ? Model::bt709 : name.variant == "709HDTV" ? Model::bt709full : Model::bt601;
 }
 
 constexpr Shape shapeOf(const Name& name, const Name::Side& side)

@@ -90,16 +90,17 @@ private:
             window.other[k] = plane(rows[k], 1 - sites);
         }
         window.left = sites - 1;
-        constexpr decltype(&owncnBayerRect<true, 0, directed>) kernel[2][2] = {
-            {owncnBayerRect<false, 0, directed>, owncnBayerRect<false, 1, directed>},
-            {owncnBayerRect<true, 0, directed>, owncnBayerRect<true, 1, directed>}};
-        kernel[colours.red][sites](window, mosaic.pixel(x, y), width);
+        const auto store = colours.red  ? sites == 0 ? storeRow<true, 0, directed> : storeRow<true, 1, directed>
+                            : sites == 0 ? storeRow<false, 0, directed>
+                                        : storeRow<false, 1, directed>;
+        store(window, mosaic.pixel(x, y), width);
     }
 
     // One row of pixels. `sites` is the plane that holds the row's sites, whose colour is red or blue.
     template <bool red, int sites, bool directed>
-    static void owncnBayerRect(const PlaneWindow<Sample> w, Sample* dst, int width)
+    static void storeRow(const PlaneWindow<Sample>& window, Sample* dst, int width)
     {
+        const PlaneWindow<Sample> w = window; // which the stores below cannot change
         const auto pixelsTo = [&](Sample* p, int i) {
             Vec<Sample> site[3], green[3];
             interpolate<directed>(w, i, site, green);

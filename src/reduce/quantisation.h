@@ -26,7 +26,7 @@ template <class Src, class Dst, bool keepsAlpha> struct Quantisation : Reduction
         const float unit = step(white<Src>);
         float threshold[bayerSide][bayerSide];
         for (int y = 0; y < bayerSide; ++y)
-            for (int x = 0; x < bayerSide; ++x) threshold[y][x] = bayer_thresh[y][x] * unit;
+            for (int x = 0; x < bayerSide; ++x) threshold[y][x] = bayerMatrix[y][x] * unit;
         const auto inParallel = [&](auto row) { rowsAlways(size.height, row); };
         if (byStaircases(above, threshold, inParallel)) return;
         constexpr int period = 64; // a multiple of the matrix's side and of the lanes
@@ -45,7 +45,7 @@ template <class Src, class Dst, bool keepsAlpha> struct Quantisation : Reduction
             const int pixels = size.width > period ? period : size.width < least ? least : size.width;
             alignas(64) float row[maxChannels * period];
             fillThresholds(row, pixels,
-                           [&](int x) { return (noise.at(x, y) + bayer_thresh[y % bayerSide][x % bayerSide]) * unit; });
+                           [&](int x) { return (noise.at(x, y) + bayerMatrix[y % bayerSide][x % bayerSide]) * unit; });
             quantiseRow(y, above, row, period);
         });
     }

@@ -93,7 +93,7 @@ template <class Src, class Dst> struct AboveThresholds {
 constexpr int bayerSide = 4;
 
 // In quantisation steps. By fifteenths, not sixteenths: the greatest is a whole step, which no sample exceeds.
-constexpr float bayer_thresh[bayerSide][bayerSide] = {
+constexpr float bayerMatrix[bayerSide][bayerSide] = {
     {0.0f / 15.0f, 8.0f / 15.0f, 2.0f / 15.0f, 10.0f / 15.0f},
     {12.0f / 15.0f, 4.0f / 15.0f, 14.0f / 15.0f, 6.0f / 15.0f},
     {3.0f / 15.0f, 11.0f / 15.0f, 1.0f / 15.0f, 9.0f / 15.0f},

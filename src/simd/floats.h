@@ -60,9 +60,9 @@ template <int divisor> ZORCC_INLINE f32v divideBy(f32v v)
     constexpr float most = static_cast<float>(1.0 / divisor), rest = static_cast<float>(1.0 / divisor - double{most});
     constexpr uint32_t least = 0x1f800000, infinity = 0x7f800000; // bits of 2^-64
     const __m512 quotient = _mm512_fmadd_ps(reg(v), reg(fillFloat(most)), reg(v * rest));
-    const u32v size = (u32v)quotient & 0x7fffffff;
-    const __mmask16 notZero = _mm512_test_epi32_mask(reg(size), reg(size));
-    if (!_mm512_mask_cmpge_epu32_mask(notZero, reg(size - least), reg(u32v{} + (infinity - least)))) [[likely]]
+    const u32v bits = (u32v)quotient; // of negative ones, which are rare, beyond infinity's
+    const __mmask16 notZero = _mm512_test_epi32_mask(reg(bits), reg(bits));
+    if (!_mm512_mask_cmpge_epu32_mask(notZero, reg(bits - least), reg(u32v{} + (infinity - least)))) [[likely]]
         return (f32v)quotient;
 #endif
     return v / float{divisor};

@@ -66,7 +66,7 @@ RAW = "--format yuv420p good.yuv out.png --size"
 FAILING = {
     **{f"{name}: {text}": f"convert {name} out.png" for name, (_, text) in UNREADABLE.items()},
     **{f"full.{kind}: ": f"convert good.png full.{kind}" for kind in ("ppm", "png", "jpg", "y4m")},
-    "good.png: zoriReduceBits_8u_C3R: so many levels": "reduce good.png out.png --levels 257",
+    "good.png: zoriReduceBits_8u_C3R: that many levels": "reduce good.png out.png --levels 257",
     "good.y4m: cannot reduce yuv420p": "reduce good.y4m out.png",
     "missing.png: No such file": ("convert missing.png out.png", "compare good.png missing.png",
                                   "sheet out.png good.png missing.png", "reduce missing.png out.png"),

@@ -20,7 +20,7 @@ std::string statusText(ZorStatus status)
         {zorStatusBadSize, "the picture is too small for the function"},
         {zorStatusNoMemory, "not enough memory"},
         {zorStatusBadStep, "bad step"},
-        {zorStatusDitherLevels, "so many levels are not possible"}};
+        {zorStatusDitherLevels, "that many levels are not supported"}};
     const auto found = texts.find(status);
     return found != texts.end() ? found->second : "status " + std::to_string(status);
 }
@@ -49,11 +49,7 @@ bool isOf(const Function& function, std::optional<interface::Model> matrix)
 }
 
 // Does it in a way that has to be asked for.
-bool isVariant(const Function& function)
-{
-    return function.takesSlice || function.name.find("_Filter_") != std::string_view::npos ||
-           function.name.find("_Interlace_") != std::string_view::npos;
-}
+bool isVariant(const Function& function) { return function.variant == "Filter" || function.variant == "Interlace"; }
 
 } // namespace
 
