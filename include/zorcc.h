@@ -42,6 +42,7 @@
 #include "zorcc/bt601.h"          /* RGB and YCbCr (ITU-R BT.601) */
 #include "zorcc/bt709.h"          /* BGR and YCbCr (ITU-R BT.709) */
 #include "zorcc/chromasampling.h" /* chroma sampling and plane orders */
+#include "zorcc/rgb565.h"         /* packed 16-bit RGB */
 #include "zorcc/videolayouts.h"   /* video layouts and deinterlacing */
 #include "zorcc/yuv.h"            /* RGB and YUV */
 

@@ -51,7 +51,7 @@ enum class Layout {
     planar,      // one plane a channel; channels 1 and 2 may be subsampled
     packed422,   // one plane, four samples for two pixels
     semiPlanar,  // a luma plane and a plane of interleaved chroma pairs
-    packedBits   // one plane, all channels in the bits of one sample
+    packedBits   // one plane, all channels in the bits of one sample, the first in the lowest
 };
 
 // A plane holds `samples` samples for every (1 << log2X) x (1 << log2Y) pixels.
@@ -69,6 +69,7 @@ struct Format {
     Layout layout;
     int planes;
     PlaneShape plane[maxPlanes];
+    int fieldBits = 0; // packed bits: those of each channel, as three digits
 
     constexpr bool subsampled() const { return layout == Layout::packed422 || plane[1].log2X > 0; }
     constexpr int log2X() const { return layout == Layout::packed422 ? 1 : plane[1].log2X; } // chroma subsampling
@@ -95,6 +96,7 @@ struct Shape {
     int log2X = 0, log2Y = 0;
     bool reversed = false;    // blue before red, Cr before Cb
     bool chromaFirst = false; // packed 4:2:2: chroma before luma
+    int fieldBits = 0;        // packed bits: those of each channel, as three digits
 };
 
 struct Text {
@@ -131,7 +133,7 @@ constexpr Text channelsOf(const Shape& s)
 // What follows the channels in the name of a format.
 constexpr std::string_view arrangementOf(const Shape& s)
 {
-    if (s.layout == Layout::packedBits) return "565";
+    if (s.layout == Layout::packedBits) return s.fieldBits == 565 ? "565" : s.fieldBits == 555 ? "555" : "444";
     if (s.layout == Layout::packed422) return "";
     if (s.layout == Layout::planar) return s.log2X > 1 ? "411p" : s.log2Y ? "420p" : s.log2X ? "422p" : "444p";
     constexpr std::string_view single[] = {"8", "16", "16s", "32s", "f32"}; // by sample type
@@ -168,7 +170,10 @@ template <Shape s> struct FormatOf {
         Format f{name, channels, s.model, s.sample, s.layout, 1, {{s.channels}}};
         const PlaneShape chroma{s.layout == Layout::semiPlanar ? 2 : 1, s.log2X, s.log2Y};
         if (s.layout == Layout::packed422) f.plane[0] = {2};
-        if (s.layout == Layout::packedBits) f.plane[0] = {1};
+        if (s.layout == Layout::packedBits) {
+            f.plane[0] = {1};
+            f.fieldBits = s.fieldBits;
+        }
         if (s.layout == Layout::semiPlanar || s.layout == Layout::planar) {
             f.planes = s.layout == Layout::semiPlanar ? 2 : s.channels;
             f.plane[0] = {1};

@@ -17,6 +17,7 @@ struct Name {
     };
     Side source, destination;
     std::string_view variant;
+    bool dither = false;
     bool steps = false; // there are steps between rows; otherwise they follow each other without gaps
 };
 
@@ -55,7 +56,7 @@ private:
 constexpr Name parse(std::string_view text)
 {
     constexpr std::string_view words[] = {"RGB", "BGR", "YUV", "YCbCr", "YCrCb", "CbYCr", "HLS", "HSV"};
-    constexpr std::string_view packings[] = {"422", "420", "411", "1620", "565"};
+    constexpr std::string_view packings[] = {"422", "420", "411", "1620", "565", "555", "444"};
     constexpr std::string_view variants[] = {"709CSC", "709HDTV", "Filter", "Interlace"};
     constexpr std::string_view samples[] = {"8u", "16u", "16s", "32s", "32f"};
     constexpr std::string_view layouts[] = {"AC4", "AP4", "C1", "C2", "C3", "C4", "P2", "P3", "P4"};
@@ -76,6 +77,7 @@ constexpr Name parse(std::string_view text)
         if (name.read("To")) {
             to.model = name.readOneOf(words, from.model);
             to.packing = name.readOneOf(packings);
+            n.dither = name.read("Dither");
         } else {
             to = from;
         }
@@ -124,8 +126,9 @@ constexpr Shape shapeOf(const Name& name, const Name::Side& side)
     const int count = side.layout.back() - '0';
     Shape s{modelOf(name, side), sampleOf(side), Layout::interleaved, count};
     s.reversed = side.model == "BGR" || side.model == "YCrCb";
-    if (side.packing == "565") {
+    if (isRgb(side) && !side.packing.empty()) {
         s.layout = Layout::packedBits;
+        s.fieldBits = side.packing == "565" ? 565 : side.packing == "555" ? 555 : 444;
     } else if (side.layout == "C2") {
         s.layout = Layout::packed422;
         s.chromaFirst = side.model == "CbYCr";

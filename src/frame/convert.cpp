@@ -23,17 +23,17 @@ ZorStatus check(const Checks& checks, const Image& from, const Image& to, ZorSiz
     if (!from.given || !to.given) return zorStatusNullPointer;
     const bool hasPlanes = everywhere(from, to, [](const Image& image, int p) { return image.plane[p] != nullptr; });
     if (checks.planes == Checks::Planes::beforeSize && !hasPlanes) return zorStatusNullPointer;
-    if (checks.steps == Checks::Steps::positiveBeforeSize &&
-        !everywhere(from, to, [](const Image& image, int p) { return image.step[p] >= 1; }))
-        return zorStatusBadStep;
+    const bool hasSteps = everywhere(from, to, [](const Image& image, int p) { return image.step[p] >= 1; });
+    if (checks.steps == Checks::Steps::positiveBeforeSize && !hasSteps) return zorStatusBadStep;
     if (size.width < checks.minimum.width || size.height < checks.minimum.height) return zorStatusBadSize;
     if (!hasPlanes) return zorStatusNullPointer;
+    if (checks.steps == Checks::Steps::positiveAfterSize && !hasSteps) return zorStatusBadStep;
 
-    const ZorSize asked = size;
-    size = {size.width & -checks.block.width, size.height & -checks.block.height};
-    const bool isWhole = size.width == asked.width && size.height == asked.height;
+    const ZorSize whole = {size.width & -checks.block.width, size.height & -checks.block.height};
+    const bool isWhole = size.width == whole.width && size.height == whole.height;
+    if (checks.oddSize != Checks::OddSize::convertedAndWarned) size = whole;
     if (isWhole || checks.oddSize == Checks::OddSize::cutOff) return zorStatusOk;
-    return checks.oddSize == Checks::OddSize::warned ? zorStatusOddSize : zorStatusBadSize;
+    return checks.oddSize == Checks::OddSize::refused ? zorStatusBadSize : zorStatusOddSize;
 }
 
 } // namespace zorcc

@@ -92,8 +92,8 @@ inline Image contiguousHalfWidthChroma(const uint8_t* const* plane, int width)
 // What a conversion checks beside its image arguments, which come first. The defaults are those of most families.
 struct Checks {
     enum class Planes { afterSize, beforeSize }; // when the pointers inside arrays are looked at
-    enum class Steps { any, positiveBeforeSize };
-    enum class OddSize { cutOff, warned, refused };
+    enum class Steps { any, positiveBeforeSize, positiveAfterSize };
+    enum class OddSize { cutOff, warned, convertedAndWarned, refused };
 
     ZorSize block = {1, 1}; // pixels that are converted as one; the sides are powers of two
     ZorSize minimum = {1, 1};
@@ -105,8 +105,8 @@ struct Checks {
 // Whole 2 x 2 blocks are converted; odd sizes have a status of their own.
 inline constexpr Checks even = {.block = {2, 2}, .oddSize = Checks::OddSize::warned};
 
-// An error is the status of the first check that fails. Otherwise the size is cut down to whole blocks, and the status
-// is that of the finished conversion.
+// An error is the status of the first check that fails. Otherwise the size is cut down to whole blocks, unless what
+// does not fill one is converted, too, and the status is that of the finished conversion.
 [[nodiscard]] ZorStatus check(const Checks& checks, const Image& from, const Image& to, ZorSize& size);
 
 template <class... Arguments>

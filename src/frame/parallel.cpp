@@ -11,6 +11,7 @@ namespace zorcc {
 namespace {
 
 constexpr int64_t maxSerialPixels = 4096;
+constexpr int minTallHeight = 192;
 constexpr int minBandedSize = 192; // width and height
 constexpr int minGroupedWidth = 128;
 constexpr int maxSerialGroupedHeight = 128;
@@ -37,6 +38,11 @@ void sections(int count, FunctionRef<void(int)> section) { forEach(omp_in_parall
 void rowsAboveThreshold(int width, int height, FunctionRef<void(int)> row)
 {
     forEach(int64_t{width} * height > maxSerialPixels ? threadsHere() : 1, height, row);
+}
+
+void rowsOfTallImages(int height, FunctionRef<void(int)> row)
+{
+    forEach(height >= minTallHeight ? threadsHere() : 1, height, row);
 }
 
 void rowsAlways(int height, FunctionRef<void(int)> row) { forEach(threadsHere(), height, row); }

@@ -20,6 +20,9 @@ void sections(int count, FunctionRef<void(int index)> section);
 // Calls row(y) for every row; forks above 4096 pixels. Each member gets one contiguous band of rows.
 void rowsAboveThreshold(int width, int height, FunctionRef<void(int y)> row);
 
+// Calls row(y) for every row; forks from 192 rows.
+void rowsOfTallImages(int height, FunctionRef<void(int y)> row);
+
 // Calls row(y) for every row; forks whatever the size.
 void rowsAlways(int height, FunctionRef<void(int y)> row);
 

@@ -33,6 +33,16 @@ struct RgbToBt601_422 : RgbToSubsampled<1, WeightedLuma<bt601::fromRgb.y, ycbcr:
     RgbToBt601 single() const { return {}; }
 };
 
+// 4:2:2 with the rounding of 4:2:0, and 4:1:1.
+struct RgbToBt601_422By8th
+    : RgbToSubsampled<1, WeightedLuma<bt601::fromRgb.y, ycbcr::studioLuma>, EighthChroma<bt601::fromRgb>> {
+    RgbToBt601 single() const { return {}; }
+};
+struct RgbToBt601_411
+    : RgbToSubsampled<1, WeightedLuma<bt601::fromRgb.y, ycbcr::studioLuma>, YCbCrChroma<bt601::fromRgb, 4>, 4> {
+    RgbToBt601 single() const { return {}; }
+};
+
 using Bt601ToRgb = YccToRgb<bt601::toRgb>;
 using Bt601PlanesToRgb = YccToRgb<bt601::planarToRgb>;
 using Bt601PackedToRgb = YccToRgb<bt601::packedToRgb>;

@@ -125,12 +125,18 @@ struct PlanarRow : Lines<Line{{1}, 0}, Line{{1, log2Columns}, 1}, Line{{1, log2C
     }
     YccPixels remainder(int x, int width) const { return withLastChroma(*this, x, width); }
 
-    [[gnu::always_inline]] void store(int x, const Subsampled<1>& s) const requires(log2Columns == 1)
+    [[gnu::always_inline]] void store(int x, const Subsampled<1>& s) const
     {
         zorcc::ZORCC_TIER::store(this->at(0, x), s.y[0]);
-        storeHalves(this->at(1, x), this->at(2, x), s.chroma);
+        const auto storeChroma = [](auto* u, auto* v, u8v chroma) {
+            return log2Columns == 1 ? storeHalves(u, v, chroma) : storeEvenQuarters(u, v, chroma);
+        };
+        storeChroma(this->at(1, x), this->at(2, x), s.chroma);
     }
-    void storeRemainder(int x, int, const YccPixels& rest) const { *this->at(0, x) = rest.channel[0][0]; }
+    void storeRemainder(int x, int width, const YccPixels& rest) const
+    {
+        __builtin_memcpy(this->at(0, x), rest.channel[0], static_cast<size_t>(width - x));
+    }
 };
 
 using Planar422 = PlanarRow<1>;

@@ -2,28 +2,102 @@
 // Pixels whose channels are fields of one 16-bit word.
 #pragma once
 
-#include "pixels/rows.h"
+#include "pixels/layouts.h"
+
+namespace zorcc {
+
+// Bits of the fields of R and of B, and of that of G between them. The lowest field begins at bit 0; bits above the
+// highest are 0.
+struct FieldBits {
+    int outer, green;
+};
+
+inline constexpr FieldBits bits565 = {5, 6}, bits555 = {5, 5}, bits444 = {4, 4};
+
+} // namespace zorcc
 
 namespace zorcc::ZORCC_TIER {
 namespace {
 
-// Channel 0 in bits 4..0, channel 1 in bits 10..5, channel 2 in bits 15..11. Each field moves to the top of a byte,
-// with zeros below.
-struct Bits565 : Lines<Line{{2}}> {
+// Numbers in the fields of the next pixels, as their bytes have them when they are zipped with zeros.
+template <int rows, Columns columns> struct Fields {
+    u16v c[rows][3][2];
+};
+
+template <Columns columns> ZORCC_INLINE Fields<1, columns> rowOf(const Fields<2, columns>& both, int row)
+{
+    Fields<1, columns> one;
+    for (int c = 0; c < 3; ++c)
+        for (int k = 0; k < 2; ++k) one.c[0][c][k] = both.c[row][c][k];
+    return one;
+}
+
+// The channel named first is the lowest field: R as stored, B of reversed images. A field stands for the top bits of a
+// byte, with zeros below.
+template <FieldBits bits, Order order> struct PackedBits : Lines<Line{{2}}> {
     using Base = Lines<Line{{2}}>;
 
     [[gnu::always_inline]] Pixels<3> load(int x) const
     {
         u8v v[2];
         loadBlocks(at(0, x), v);
-        const u16v a = (u16v)v[0], b = (u16v)v[1];
-        return {{{pack(a << 3 & 0xf8, b << 3 & 0xf8), pack(a >> 3 & 0xfc, b >> 3 & 0xfc),
-                  pack(a >> 8 & 0xf8, b >> 8 & 0xf8)}}};
+        Pixels<3> p = {{{byteOf<0>(v), byteOf<1>(v), byteOf<2>(v)}}};
+        arrange<order>(p.c[0]);
+        return p;
+    }
+
+    // Keeps the top bits of bytes.
+    template <Columns columns> [[gnu::always_inline]] void store(int x, Pixels<3, 1, columns> p) const
+    {
+        arrange<order>(p.c[0]);
+        const auto [first, green, last] = p.c[0];
+        const u8v lower = shiftBytes<8 - bits.outer>(first) | shiftBytes<8 - end[1]>(keepTop<bits.green>(green));
+        const u8v upper = shiftBytes<16 - end[1]>(green) | shiftBytes<16 - end[2]>(keepTop<bits.outer>(last));
+        storeWords<columns>(x, (u16v)zipLow(lower, upper), (u16v)zipHigh(lower, upper));
+    }
+
+    template <Columns columns> [[gnu::always_inline]] void store(int x, Fields<1, columns> fields) const
+    {
+        u16v word[2];
+        for (int k = 0; k < 2; ++k) {
+            u16v c[3] = {fields.c[0][0][k], fields.c[0][1][k], fields.c[0][2][k]};
+            arrange<order>(c);
+            word[k] = c[0] | c[1] << end[0] | c[2] << end[1];
+        }
+        storeWords<columns>(x, word[0], word[1]);
     }
 
 private:
-    static u8v pack(u16v lo, u16v hi) { return packUnsigned((s16v)lo, (s16v)hi); }
+    // The bit after each field.
+    static constexpr int end[] = {bits.outer, bits.outer + bits.green, 2 * bits.outer + bits.green};
+
+    template <int channel> ZORCC_INLINE u8v byteOf(const u8v (&words)[2])
+    {
+        constexpr int down = end[channel] - 8, count = channel == 1 ? bits.green : bits.outer;
+        const auto top = [](u8v v) {
+            constexpr uint16_t mask = 0x100 - (0x100 >> count);
+            if constexpr (down > 0)
+                return (s16v)((u16v)v >> down & mask);
+            else
+                return (s16v)((u16v)v << -down & mask);
+        };
+        return packUnsigned(top(words[0]), top(words[1]));
+    }
+
+    template <int count> ZORCC_INLINE u8v keepTop(u8v v) { return v & static_cast<uint8_t>(0x100 - (0x100 >> count)); }
+
+    // Of columns in order or, from zipped bytes, of even and odd ones.
+    template <Columns columns> [[gnu::always_inline]] void storeWords(int x, u16v a, u16v b) const
+    {
+        if constexpr (columns == Columns::inOrder)
+            storeBlocks(at(0, x), {(u8v)a, (u8v)b});
+        else
+            storeBlocks(at(0, x), {(u8v)zipLow(a, b), (u8v)zipHigh(a, b)});
+    }
 };
+
+template <FieldBits bits> using Rgb16 = PackedBits<bits, Order::asStored>;
+template <FieldBits bits> using Bgr16 = PackedBits<bits, Order::reversed>;
 
 } // namespace
 } // namespace zorcc::ZORCC_TIER

@@ -8,10 +8,9 @@
 
 #include <algorithm>
 #include <type_traits>
-#include <utility>
 
-#include "frame/convert.h"
 #include "frame/parallel.h"
+#include "pixels/lines.h"
 #include "simd/interleave.h"
 
 namespace zorcc::ZORCC_TIER {
@@ -60,75 +59,7 @@ template <int rows> struct Subsampled {
     u8v chroma;
 };
 
-// ---- lines: where the samples of a layout's pixels are --------------------------------------------------------------
-
-// `bytes` bytes of a line hold (1 << log2Pixels) pixels.
-struct Unit {
-    int bytes, log2Pixels = 0;
-
-    constexpr ptrdiff_t offset(int pixels) const { return static_cast<ptrdiff_t>(pixels >> log2Pixels) * bytes; }
-};
-
-// A row of a plane. Where `rows` rows of the plane are converted at a time, it is number `row` of them.
-struct Line {
-    Unit unit;
-    int plane = 0, row = 0, rows = 1;
-};
-
-template <Line... all> struct Lines {
-    static constexpr int lines = sizeof...(all);
-    static constexpr Line line[] = {all...};
-    static constexpr int pixelsAtOnce = vectorBytes; // what a load gives and a store takes
-    static constexpr int rowsAtOnce = 1;             // rows of the image that the lines hold
-    static constexpr int group = 1;                  // pixels of a row that share samples
-
-    uint8_t* start[lines];
-
-    uint8_t* at(int l, int x) const { return start[l] + line[l].unit.offset(x); }
-
-    // f(0) .. f(lines - 1). Written out: a loop over the lines would keep their pointers in memory.
-    template <class F> [[gnu::always_inline]] static void each(const F& f)
-    {
-        [&]<int... l>(std::integer_sequence<int, l...>) __attribute__((always_inline)) { (f(l), ...); }
-        (std::make_integer_sequence<int, lines>());
-    }
-};
-
-// An image as a sequence of rows in a layout, or of pairs of rows.
-template <class Layout> class RowsOf {
-public:
-    [[gnu::always_inline]] explicit RowsOf(const Image& image)
-    {
-        Layout::each([&](int l) {
-            const Line& line = Layout::line[l];
-            first[l] = image.row(line.plane, line.row);
-            step[l] = line.rows * image.step[line.plane];
-        });
-    }
-
-    [[gnu::always_inline]] Layout operator[](ptrdiff_t y) const
-    {
-        Layout row;
-        Layout::each([&](int l) {
-            row.start[l] = first[l] + y * step[l];
-            // In a register: compilers would calculate several pointers in a vector and extract them again.
-            asm("" : "+r"(row.start[l]));
-        });
-        return row;
-    }
-
-private:
-    uint8_t* first[Layout::lines];
-    ptrdiff_t step[Layout::lines];
-};
-
-// The rest of a row, from pixel x on.
-template <class Layout> ZORCC_INLINE Layout fromPixel(const Layout& whole, int x)
-{
-    Layout row = whole;
-    Layout::each([&](int l) { row.start[l] = whole.at(l, x); });
-    return row;
-}
+// ---- two rows at a time ----
 
 template <Line... all>
 auto twice(Lines<all...>) -> Lines<Line{all.unit, all.plane, all.row, 2 * all.rows}...,
@@ -179,6 +110,15 @@ template <class Formula> ZORCC_INLINE decltype(auto) formulaAt(const Formula& fo
 {
     if constexpr (requires { formula.at(x); })
         return formula.at(x);
+    else
+        return (formula);
+}
+
+// The formula for row y of the image: formulas that see it say so by a member `onRow`.
+template <class Formula> ZORCC_INLINE decltype(auto) formulaOnRow(const Formula& formula, int y)
+{
+    if constexpr (requires { formula.onRow(y); })
+        return formula.onRow(y);
     else
         return (formula);
 }
@@ -241,13 +181,14 @@ private:
     Layout staged;
 };
 
-// Converts `width` pixels, fewer than a load takes.
+// Converts `width` pixels, fewer than a load takes; for the formula they begin at column x.
 template <class Source, class Formula, class Destination>
-ZORCC_INLINE void convertShortRow(const Source& from, const Formula& formula, const Destination& to, int width)
+ZORCC_INLINE void convertShortRow(const Source& from, const Formula& formula, const Destination& to, int width,
+                                  int x = 0)
 {
     const Stage<Source> source(from, width);
     const Stage<Destination> destination(to, width); // with what a store keeps
-    destination.row().store(0, formulaAt(formula, 0)(prepared(formula, source.row().load(0))));
+    destination.row().store(0, formulaAt(formula, x)(prepared(formula, source.row().load(0))));
     destination.copyTo(to, width);
 }
 
@@ -321,7 +262,7 @@ ZORCC_INLINE void convertRow(const Source& from, const Formula& formula, const D
     if constexpr (requires { from.remainder(whole, width); }) {
         if (whole == width) return;
         auto rest = from.remainder(whole, width);
-        convertShortRow(rest.planes(), singleOf(formula), fromPixel(to, whole), width - whole);
+        convertShortRow(rest.planes(), singleOf(formula), fromPixel(to, whole), width - whole, whole);
     } else if constexpr (requires { to.storeRemainder(whole, width, {}); }) {
         if (whole == width) return;
         typename Destination::Remainder rest;
@@ -344,6 +285,7 @@ ZORCC_INLINE void convertRow(const Source& from, const InBlocks<pixels, Blocks, 
 enum class Threads {
     one,
     aboveThreshold, // of 4096 pixels
+    tallImages,     // from 192 rows
     always
 };
 
@@ -386,12 +328,14 @@ void rows(const Image& from, const Image& to, ZorSize size, Arguments... argumen
     const RowsOf<Destination> destination(to);
     const auto row = [&](int y) __attribute__((always_inline))
     {
-        convertRow(source[y], formula, destination[y], width);
+        convertRow(source[y], formulaOnRow(formula, rowsAtOnce * y), destination[y], width);
     };
     if constexpr (threads == Threads::one)
         for (int y = 0; y < height; ++y) row(y);
     else if constexpr (threads == Threads::aboveThreshold)
         rowsAboveThreshold(width, height, row);
+    else if constexpr (threads == Threads::tallImages)
+        rowsOfTallImages(height, row);
     else
         rowsAlways(height, row);
 }

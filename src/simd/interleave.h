@@ -6,6 +6,7 @@
 #include <type_traits>
 
 #include "simd/floats.h"
+#include "simd/order.h"
 
 namespace zorcc::ZORCC_TIER {
 namespace {
@@ -121,6 +122,14 @@ ZORCC_INLINE void storeHalves(uint8_t* low, uint8_t* high, u8v v)
     _mm_storel_epi64((__m128i*)low, both);
     _mm_storel_epi64((__m128i*)high, _mm_unpackhi_epi64(both, both));
 #endif
+}
+
+// The even bytes of halves, each half to a quarter of a vector's bytes: the other way.
+ZORCC_INLINE void storeEvenQuarters(uint8_t* low, uint8_t* high, u8v v)
+{
+    const u8v quarters = orderQuarters(unzipHalves(v));
+    __builtin_memcpy(low, &quarters, vectorBytes / 4);
+    __builtin_memcpy(high, (const uint8_t*)&quarters + vectorBytes / 4, vectorBytes / 4);
 }
 
 // ---- channels -------------------------------------------------------------------------------------------------------

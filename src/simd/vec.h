@@ -96,6 +96,8 @@ ZORCC_INLINE u8v fillBlock(__m128i block)
 #endif
 }
 
+ZORCC_INLINE __m128i loadBlock(const void* p) { return _mm_loadu_si128((const __m128i*)p); }
+
 ZORCC_INLINE u8v fillBlock(const Block& block) { return fillBlock(_mm_load_si128((const __m128i*)block.byte)); }
 
 // ---- multiplication -------------------------------------------------------------------------------------------------
@@ -170,9 +172,21 @@ ZORCC_ZIP(zipLow, unpacklo)
 ZORCC_ZIP(zipHigh, unpackhi)
 #undef ZORCC_ZIP
 
+// Every byte shifted right or, by a negative count, left.
+template <int count> ZORCC_INLINE u8v shiftBytes(u8v v)
+{
+    if constexpr (count >= 8 || count <= -8) return u8v{};
+    if constexpr (count == 0) return v;
+    if constexpr (count > 0) return (u8v)((u16v)v >> count) & static_cast<uint8_t>(0xff >> count);
+    if constexpr (count < 0) return (u8v)((u16v)v << -count) & static_cast<uint8_t>(0xff << -count);
+}
+
 // The lower and the upper byte of every pair.
 ZORCC_INLINE s16v firstOfPairs(u8v pairs) { return (s16v)pairs & 0xff; }
 ZORCC_INLINE s16v secondOfPairs(u8v pairs) { return (s16v)((u16v)pairs >> 8); }
+
+// The two elements of every pair in each other's place.
+ZORCC_INLINE s16v exchangePairs(s16v v) { return (s16v)((u32v)v << 16 | (u32v)v >> 16); }
 
 // Per block: element i is v[index[i]], or 0 where index[i] has its top bit set.
 ZORCC_INLINE u8v shuffle(u8v v, u8v index) { return (u8v)ZORCC_MM(shuffle_epi8)(reg(v), reg(index)); }
@@ -241,6 +255,16 @@ ZORCC_INLINE s16v addOneWhere(s16v v, u16v a, u16v b)
     return (s16v)_mm512_mask_sub_epi16(reg(v), greater, reg(v), _mm512_set1_epi16(-1));
 #else
     return v - (s16v)((s16v)(a ^ 0x8000) > (s16v)(b ^ 0x8000)); // true is -1
+#endif
+}
+
+ZORCC_INLINE u16v addOneWhere(u16v v, s16v a, s16v b)
+{
+#if defined(ZORCC_TIER_avx512)
+    const __mmask32 greater = _mm512_cmpgt_epi16_mask(reg(a), reg(b));
+    return (u16v)_mm512_mask_sub_epi16(reg(v), greater, reg(v), _mm512_set1_epi16(-1));
+#else
+    return v - (u16v)(a > b);                                   // true is -1
 #endif
 }
 

@@ -15,8 +15,9 @@ struct FromRgb {
 // What is added to luma: 16 and a half; 16 alone; a half.
 inline constexpr int studioLuma = 16 * 65536 + 32768, studioLumaDown = 16 * 65536, fullLuma = 32768;
 
-// What is added to chroma: 128 and a half, for each pixel of a sum of 1 or 2; 128 and an eighth for each of 4.
-constexpr int chromaBias(int pixels) { return pixels * (128 * 65536 + (pixels == 4 ? 8192 : 32768)); }
+// What is added to chroma: 128 and an eighth for each pixel of a sum; 128 and a half for each of 1 or 2.
+constexpr int eighthBias(int pixels) { return pixels * (128 * 65536 + 8192); }
+constexpr int chromaBias(int pixels) { return pixels == 4 ? eighthBias(4) : pixels * (128 * 65536 + 32768); }
 
 } // namespace zorcc::ycbcr
 
@@ -39,7 +40,8 @@ template <Weights y, int yBias, Weights first, Weights second, int chromaBias> s
 
 // ---- shared chroma: a way to weigh luma and a way to form chroma, for one row or two --------------------------------
 
-template <int rows, class Luma, class Chroma> struct RgbToSubsampled {
+// Two columns share chroma, or four: then both pairs of them get it.
+template <int rows, class Luma, class Chroma, int columns = 2> struct RgbToSubsampled {
     [[gnu::always_inline]] Subsampled<rows> operator()(const Pixels<3, rows>& rgb) const
     {
         Subsampled<rows> out;
@@ -49,6 +51,8 @@ template <int rows, class Luma, class Chroma> struct RgbToSubsampled {
             out.y[row] = Luma::of(r, g, b);
             for (int c = 0; c < 3; ++c) sum[c] += mulAddPairs(rgb.c[row][c], fillPair8(1, 1));
         }
+        if constexpr (columns == 4)
+            for (s16v& pairs : sum) pairs += exchangePairs(pairs);
         out.chroma = Chroma::of(sum[0], sum[1], sum[2]);
         return out;
     }
@@ -113,6 +117,10 @@ template <ycbcr::FromRgb k> using RgbToYCbCr = MatrixToYcc<k.y, ycbcr::studioLum
 // Chroma of sums over 2 or 4 pixels.
 template <ycbcr::FromRgb k, int pixels, int crBias = ycbcr::chromaBias(pixels)>
 using YCbCrChroma = MatrixChroma<k.cb, ycbcr::chromaBias(pixels), k.cr, crBias, pixels == 2 ? 17 : 18>;
+
+// Two pixels with the rounding of four.
+template <ycbcr::FromRgb k>
+using EighthChroma = MatrixChroma<k.cb, ycbcr::eighthBias(2), k.cr, ycbcr::eighthBias(2), 17>;
 
 template <ycbcr::FromRgb k, int lumaBias>
 using RgbToYCbCr420 = RgbToSubsampled<2, WeightedLuma<k.y, lumaBias>, YCbCrChroma<k, 4>>;

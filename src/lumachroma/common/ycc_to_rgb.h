@@ -6,6 +6,7 @@
 #include "lumachroma/common/weighted_sums.h"
 #include "pixels/alpha.h"
 #include "pixels/layouts.h"
+#include "pixels/ordered_dither.h"
 
 namespace zorcc::ZORCC_TIER {
 namespace {

@@ -67,6 +67,14 @@ template <int rows> ZORCC_INLINE UnsaturatedWithAlpha<rows> withAlpha(const Unsa
     return {rgb, fill8(alpha)};
 }
 
+template <int rows> ZORCC_INLINE Pixels<3, rows> inBytes(const Unsaturated<rows>& rgb)
+{
+    Pixels<3, rows> bytes;
+    for (int row = 0; row < rows; ++row)
+        for (int c = 0; c < 3; ++c) bytes.c[row][c] = saturated(rgb.c[row][c]);
+    return bytes;
+}
+
 // ---- layouts --------------------------------------------------------------------------------------------------------
 
 template <class Layout> struct InLanes : Layout {
@@ -86,7 +94,10 @@ template <PackedOrder order> struct InLanes<Packed422<order>> : Packed422<order>
     }
 };
 
-template <class Layout> struct OfWide;
+template <class Layout> struct OfWide : Layout {
+    using Layout::store;
+    [[gnu::always_inline]] void store(int x, const Unsaturated<1>& p) const { store(x, inBytes(p)); }
+};
 
 template <Order order> struct OfWide<C3<uint8_t, order>> : C3<uint8_t, order> {
     using C3<uint8_t, order>::store;
@@ -102,14 +113,6 @@ template <Order order> struct OfWide<C4<uint8_t, order>> : C4<uint8_t, order> {
     StoreFours<order == Order::reversed> storeFours;
 };
 
-template <Order order> struct OfWide<P3<uint8_t, order>> : P3<uint8_t, order> {
-    using P3<uint8_t, order>::store;
-    [[gnu::always_inline]] void store(int x, const Unsaturated<1>& p) const
-    {
-        store(x, Pixels<3>{{{saturated(p.c[0][0]), saturated(p.c[0][1]), saturated(p.c[0][2])}}});
-    }
-};
-
 // ---- where they are used ---
 
 // Sources that share chroma.
@@ -123,6 +126,11 @@ requires(DotProductsToRgb<k>::possible&& From::group* From::rowsAtOnce > 1) stru
 template <class From, ToRgb k, class To>
 struct OnThisTier<From, WithAlpha<YccToRgb<k>>, To> : OnThisTier<From, YccToRgb<k>, To> {
     using Formula = WithAlpha<typename OnThisTier<From, YccToRgb<k>, To>::Formula>;
+};
+
+template <class From, FieldBits bits, ToRgb k, class To>
+struct OnThisTier<From, Dithered<bits, YccToRgb<k>>, To> : OnThisTier<From, YccToRgb<k>, To> {
+    using Formula = Dithered<bits, typename OnThisTier<From, YccToRgb<k>, To>::Formula>;
 };
 
 } // namespace
