@@ -5,80 +5,140 @@
 
 #include "pixels/packed_bits.h"
 
-namespace zorcc::ZORCC_TIER {
-namespace {
+namespace zorcc::dither {
 
-// Thresholds of neighbouring rows and columns, in 1/256 of an 8-bit unit. Rows are continued as far as a block of eight
-// that begins at any of the columns.
-constexpr int ditherSide = 4;
-struct DitherMatrix {
-    uint16_t row[ditherSide][3 * ditherSide];
+constexpr int side = 4; // of the matrix
 
-    constexpr DitherMatrix(const uint16_t (&matrix)[ditherSide][ditherSide]) : row{}
+// ---- the definition: a sample becomes the level below it or, where what is left is above a threshold, the next ------
+
+// Thresholds for levels of 4 bits, and of 5 and 6 bits, in 1/256 of an 8-bit unit.
+using Matrix = int[side][side];
+inline constexpr Matrix thresholds4 = {
+    {0, 2312, 578, 2890}, {3468, 1156, 4046, 1734}, {867, 3179, 289, 2601}, {4335, 2023, 3757, 1445}};
+inline constexpr Matrix thresholds56 = {
+    {0, 1118, 279, 1398}, {1678, 559, 1957, 839}, {419, 1538, 139, 1258}, {2097, 978, 1817, 699}};
+
+constexpr int definition(int bits, int sample, int x, int y)
+{
+    const int distance = bits == 4 ? 4352 : bits == 5 ? 2105 : 1036; // of two levels
+    const int threshold = bits == 4 ? thresholds4[y][x] : bits == 5 ? thresholds56[y][x] : thresholds56[y][x] >> 1;
+    const int level = sample * ((1 << bits) - 1) >> 8, left = 256 * sample - level * distance;
+    return left > threshold ? level + 1 : level;
+}
+
+// ---- the same in fewer steps: the top bits of (256 sample + bias) factor / 65536 ------------------------------------
+
+// For most thresholds the factor is 2^(32 - bits) / distance and the bias distance - 1 - threshold, or nearly so.
+// Levels are a little more than 256 / (2^bits - 1) units apart, so that small thresholds need a smaller factor, one of
+// them a curve: what is below 256 in its bias is added to the sample once more, in place of being a constant.
+struct Place {
+    int bias, factor;
+    bool isCurved = false;
+
+    constexpr int operator()(int sample) const
     {
-        for (int y = 0; y < ditherSide; ++y)
-            for (int x = 0; x < 3 * ditherSide; ++x) row[y][x] = matrix[y][x % ditherSide];
+        const int upper = sample + bias / 256, lower = bias % 256 + (isCurved ? sample : 0);
+        return static_cast<int>(int64_t{256 * (upper < 255 ? upper : 255) + (lower < 255 ? lower : 255)} * factor >>
+                                16);
     }
 };
 
-// How a field is dithered: a sample is `levels` times itself / 256 levels, rounded down, of `distance` / 256 units
-// each, and one more where what is left is greater than the threshold, shifted down.
-struct DitheredField {
-    int levels, distance, thresholdShift;
-};
-constexpr DitheredField ditheredField[] = {{15, 4352, 0}, {31, 2105, 0}, {63, 1036, 1}}; // 4, 5, 6 bits
-constexpr DitherMatrix thresholds4 = {
-    {{0, 2312, 578, 2890}, {3468, 1156, 4046, 1734}, {867, 3179, 289, 2601}, {4335, 2023, 3757, 1445}}};
-constexpr DitherMatrix thresholds56 = {
-    {{0, 1118, 279, 1398}, {1678, 559, 1957, 839}, {419, 1538, 139, 1258}, {2097, 978, 1817, 699}}};
+using Places = Place[side][side];
+inline constexpr Places places4 = {{{4351, 61680}, {2039, 61680}, {3773, 61680}, {1461, 61680}},
+                                   {{883, 61680}, {3195, 61680}, {305, 61680}, {2617, 61680}},
+                                   {{3484, 61680}, {1172, 61680}, {4062, 61680}, {1750, 61680}},
+                                   {{16, 61680}, {2328, 61680}, {594, 61680}, {2906, 61680}}};
+inline constexpr Places places5 = {{{2038, 63626}, {986, 63761}, {1825, 63761}, {706, 63761}},
+                                   {{426, 63761}, {1545, 63761}, {147, 63761}, {1265, 63761}},
+                                   {{1685, 63761}, {566, 63761}, {2018, 63626}, {846, 63761}},
+                                   {{7, 63761}, {1126, 63761}, {288, 63761}, {1405, 63761}}};
+inline constexpr Places places6 = {{{1023, 64549}, {477, 64776}, {896, 64549, true}, {337, 64776}},
+                                   {{197, 64776}, {757, 64776}, {57, 64776}, {617, 64776}},
+                                   {{826, 64776}, {266, 64776}, {1019, 64549}, {406, 64776}},
+                                   {{0, 64764}, {546, 64776}, {127, 64776}, {686, 64776}}};
 
-template <int rows, Columns columns> ZORCC_INLINE const auto& inBytes(const Pixels<3, rows, columns>& rgb) { return rgb; }
+template <int bits> inline constexpr const Places& places = bits == 4 ? places4 : bits == 5 ? places5 : places6;
+
+template <int bits> constexpr bool isExact()
+{
+    for (int y = 0; y < side; ++y)
+        for (int x = 0; x < side; ++x)
+            for (int sample = 0; sample < 256; ++sample)
+                if (places<bits>[y][x](sample) >> (16 - bits) != definition(bits, sample, x, y)) return false;
+    return true;
+}
+static_assert(isExact<4>() && isExact<5>() && isExact<6>());
+
+// A row of places, as vectors load it: a block that begins at any of its columns.
+struct Row {
+    uint8_t upper[16 + side], lower[16 + side], curved[16 + side];
+    uint16_t factor[8 + side];
+
+    constexpr explicit Row(const Place (&row)[side]) : upper{}, lower{}, curved{}, factor{}
+    {
+        for (int x = 0; x < 16 + side; ++x) {
+            upper[x] = static_cast<uint8_t>(row[x % side].bias / 256);
+            lower[x] = static_cast<uint8_t>(row[x % side].bias % 256);
+            curved[x] = row[x % side].isCurved ? 0xff : 0;
+        }
+        for (int x = 0; x < 8 + side; ++x) factor[x] = static_cast<uint16_t>(row[x % side].factor);
+    }
+};
+
+template <int bits>
+inline constexpr Row rows[side] = {Row(places<bits>[0]), Row(places<bits>[1]), Row(places<bits>[2]),
+                                   Row(places<bits>[3])};
+
+} // namespace zorcc::dither
+
+namespace zorcc::ZORCC_TIER {
+namespace {
+
+template <int rows, Columns columns> ZORCC_INLINE const auto& inBytes(const Pixels<3, rows, columns>& rgb)
+{
+    return rgb;
+}
 
 // A formula of one row, or of two, whose colours are dithered.
 template <FieldBits bits, class Formula> struct Dithered {
     Formula formula{};
-    const uint16_t* threshold = matrix.row[0]; // of the first column in the first row
+    int x = 0, y = 0; // place in the matrix
 
-    [[gnu::always_inline]] Dithered onRow(int y) const { return {formula, matrix.row[y % ditherSide]}; }
-    [[gnu::always_inline]] Dithered at(int x) const { return {formula, threshold + x % ditherSide}; }
-    auto single() const { return Dithered<bits, decltype(singleOf(formula))>{singleOf(formula), threshold}; }
+    [[gnu::always_inline]] Dithered onRow(int row) const { return {formula, x, row % dither::side}; }
+    [[gnu::always_inline]] Dithered at(int column) const { return {formula, column % dither::side, y}; }
+    auto single() const { return Dithered<bits, decltype(singleOf(formula))>{singleOf(formula), x, y}; }
 
     template <class Source> [[gnu::always_inline]] auto operator()(const Source& source) const
     {
-        return dither(inBytes(formula(source)));
+        return fieldsOf(inBytes(formula(source)));
     }
 
 private:
-    static constexpr const DitherMatrix& matrix = bits.outer == 4 ? thresholds4 : thresholds56;
-
     template <int rows, Columns columns>
-    [[gnu::always_inline]] Fields<rows, columns> dither(const Pixels<3, rows, columns>& rgb) const
+    [[gnu::always_inline]] Fields<rows, columns> fieldsOf(const Pixels<3, rows, columns>& rgb) const
     {
         Fields<rows, columns> fields;
-        for (int row = 0; row < rows; ++row) {
-            u16v limit[2];
-            limit[0] = limit[1] = (u16v)fillBlock(loadBlock(threshold + row * 3 * ditherSide));
-            if constexpr (columns == Columns::evenThenOdd) {
-                const u64v both = (u64v)unzipHalves(limit[0]);
-                limit[0] = (u16v)zipLow(both, both);
-                limit[1] = (u16v)zipHigh(both, both);
-            }
+        for (int row = 0; row < rows; ++row)
             for (int c = 0; c < 3; ++c) {
-                constexpr DitheredField outer = ditheredField[bits.outer - 4], green = ditheredField[bits.green - 4];
-                const DitheredField& f = c == 1 ? green : outer;
-                const u8v v = rgb.c[row][c];
-                fields.c[row][c][0] = quantise(f, (u16v)zipLow(u8v{}, v), limit[0]);
-                fields.c[row][c][1] = quantise(f, (u16v)zipHigh(u8v{}, v), limit[1]);
+                const dither::Row& places =
+                    c == 1 ? dither::rows<bits.green>[y + row] : dither::rows<bits.outer>[y + row];
+                quantise<columns>(c == 1 && bits.green == 6, places, rgb.c[row][c], fields.c[row][c]);
             }
-        }
         return fields;
     }
 
-    // Of samples times 256. What is left of them is at most 4352.
-    ZORCC_INLINE u16v quantise(const DitheredField& f, u16v v, u16v limit)
+    template <Columns columns>
+    [[gnu::always_inline]] void quantise(bool mayBeCurved, const dither::Row& row, u8v v, u16v (&fields)[2]) const
     {
-        const u16v lower = mulHigh(v, (u16v)fill16(f.levels)), rest = v - lower * (u16v)fill16(f.distance);
-        return addOneWhere(lower, (s16v)rest, (s16v)(limit >> f.thresholdShift));
+        const auto inPlace = [](auto pattern) {
+            return columns == Columns::inOrder ? pattern : decltype(pattern)(unzipHalves(pattern));
+        };
+        u8v lower = inPlace(fillBlock(loadBlock(row.lower + x)));
+        if (mayBeCurved) lower = addSaturate(lower, v & inPlace(fillBlock(loadBlock(row.curved + x))));
+        const u8v upper = addSaturate(v, inPlace(fillBlock(loadBlock(row.upper + x))));
+        const u64v factors = (u64v)inPlace((u16v)fillBlock(loadBlock(row.factor + x)));
+        fields[0] = mulHigh((u16v)zipLow(lower, upper), (u16v)zipLow(factors, factors));
+        fields[1] = mulHigh((u16v)zipHigh(lower, upper), (u16v)zipHigh(factors, factors));
     }
 };
 

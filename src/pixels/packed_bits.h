@@ -19,7 +19,7 @@ inline constexpr FieldBits bits565 = {5, 6}, bits555 = {5, 5}, bits444 = {4, 4};
 namespace zorcc::ZORCC_TIER {
 namespace {
 
-// Numbers in the fields of the next pixels, as their bytes have them when they are zipped with zeros.
+// Numbers of 16 bits whose top bits are the fields of the next pixels, in the order of zipped bytes.
 template <int rows, Columns columns> struct Fields {
     u16v c[rows][3][2];
 };
@@ -62,7 +62,8 @@ template <FieldBits bits, Order order> struct PackedBits : Lines<Line{{2}}> {
         for (int k = 0; k < 2; ++k) {
             u16v c[3] = {fields.c[0][0][k], fields.c[0][1][k], fields.c[0][2][k]};
             arrange<order>(c);
-            word[k] = c[0] | c[1] << end[0] | c[2] << end[1];
+            word[k] = c[0] >> (16 - bits.outer) | (c[1] & topOf<bits.green>) >> (16 - end[1]) |
+                      (c[2] & topOf<bits.outer>) >> (16 - end[2]);
         }
         storeWords<columns>(x, word[0], word[1]);
     }
@@ -84,6 +85,7 @@ private:
         return packUnsigned(top(words[0]), top(words[1]));
     }
 
+    template <int count> static constexpr uint16_t topOf = 0x10000 - (0x10000 >> count);
     template <int count> ZORCC_INLINE u8v keepTop(u8v v) { return v & static_cast<uint8_t>(0x100 - (0x100 >> count)); }
 
     // Of columns in order or, from zipped bytes, of even and odd ones.
