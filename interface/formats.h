@@ -200,6 +200,7 @@ inline constexpr const Format& grey8 = interleaved<Model::grey, 1>;
 inline constexpr const Format& grey16 = interleaved<Model::grey, 1, Sample::u16>;
 inline constexpr const Format& greyf32 = interleaved<Model::grey, 1, Sample::f32>;
 inline constexpr const Format& rgb24 = interleaved<Model::rgb, 3>;
+inline constexpr const Format& bgr24 = interleaved<Model::rgb, 3, Sample::u8, true>;
 inline constexpr const Format& rgb48 = interleaved<Model::rgb, 3, Sample::u16>;
 inline constexpr const Format& rgbf32 = interleaved<Model::rgb, 3, Sample::f32>;
 inline constexpr const Format& rgba = interleaved<Model::rgb, 4>;

@@ -23,9 +23,10 @@ const Format& usualFormat(const std::string& out, const Format& from)
     case FileKind::yuv:
         return isRgb(from) ? interface::formats::yuv420p : from;
     default:
-        return isRgb(from)   ? from
-               : isYuv(from) ? interface::formats::rgb24
-                             : pictureFormat(false, hasAlpha(from), from.sample);
+        return from.fieldBits != 0 ? interface::formats::rgb24
+               : isRgb(from)       ? from
+               : isYuv(from)       ? interface::formats::rgb24
+                                   : pictureFormat(false, hasAlpha(from), from.sample);
     }
 }
 
@@ -36,6 +37,9 @@ Matrix ownMatrix(const Format& format)
     return format.model;
 }
 
+// What RGB becomes first where it is to be dithered, which the library does from luma and chroma.
+const Format& ditheredSource() { return withModel(interface::formats::yuv444p, interface::Model::bt601); }
+
 } // namespace
 
 void convert(const ConvertOptions& options)
@@ -44,23 +48,24 @@ void convert(const ConvertOptions& options)
     const Format* const asked = options.to.empty() ? nullptr : &formatNamed(options.to);
     const auto reader = openInput(options.in, nullptr, OddSizes::roundUp);
     const auto writer = openWriter(options.out, reader->tags());
-    Stats stats{options.timing.repeat}, deinterlacingStats{options.timing.repeat};
-    std::optional<Conversion> conversion, deinterlacing;
+    Stats stats{options.timing.repeat}, preparationStats{options.timing.repeat};
+    std::optional<Conversion> conversion, preparation;
     const Format* from = nullptr;
     writeAll(*reader, *writer, [&](Picture picture) {
         if (!conversion || from != &picture.format()) {
             from = &picture.format();
             const Format& to = asked ? *asked : usualFormat(options.out, *from);
-            if (options.deinterlace) deinterlacing = findDeinterlacing(*from, to);
+            if (options.deinterlace) preparation = findDeinterlacing(*from, to);
+            if (options.dither && isRgb(*from)) preparation = findConversion(*from, ditheredSource());
             const Matrix own = options.in.matrix ? options.in.matrix : ownMatrix(*from);
-            conversion = findConversion(deinterlacing ? *deinterlacing->target : *from,
-                                        byMatrix(to, own.value_or(interface::Model::yuv)), own);
+            conversion = findConversion(preparation ? *preparation->target : *from,
+                                        byMatrix(to, own.value_or(interface::Model::yuv)), own, options.dither);
         }
-        if (deinterlacing) picture = (*deinterlacing)(std::move(picture), deinterlacingStats);
+        if (preparation) picture = (*preparation)(std::move(picture), preparationStats);
         return (*conversion)(std::move(picture), stats);
     });
     if (!options.timing.stats) return;
-    if (deinterlacing) std::cout << deinterlacingStats.line();
+    if (preparation) std::cout << preparationStats.line();
     std::cout << (stats.function ? stats.line() : "rearranged without a function of the library\n");
 }
 

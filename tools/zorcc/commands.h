@@ -32,7 +32,7 @@ struct CallOptions {
 struct ConvertOptions {
     Input in;
     std::string out, to;
-    bool deinterlace = false;
+    bool deinterlace = false, dither = false;
     Timing timing;
 };
 

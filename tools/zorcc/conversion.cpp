@@ -92,14 +92,16 @@ Picture Conversion::operator()(Picture picture, Stats& stats) const
     return rearranged(std::move(picture), *target, size);
 }
 
-Conversion findConversion(const Format& from, const Format& to, std::optional<interface::Model> matrix)
+Conversion findConversion(const Format& from, const Format& to, std::optional<interface::Model> matrix, bool dither)
 {
-    const auto plain = rearrangementCost(from, to);
+    const auto plain = dither ? std::nullopt : rearrangementCost(from, to);
+    const bool packsBits = from.layout != to.layout && (from.fieldBits != 0 || to.fieldBits != 0);
     const Function* found = nullptr;
     int lowest = plain ? 16 * *plain : INT_MAX;
     for (const Function& function : interface::functions()) {
-        if (movesSamples(function) ? !isSameModel(from.model, to.model) || isVariant(function) : plain.has_value())
+        if (movesSamples(function) ? !isSameModel(from.model, to.model) || isVariant(function) : plain && !packsBits)
             continue;
+        if (function.dithers != dither) continue;
         const auto before = rearrangementCost(from, *function.source);
         const auto after = rearrangementCost(*function.destination, to);
         if (!before || !after || !isOf(function, matrix)) continue;
@@ -110,7 +112,7 @@ Conversion findConversion(const Format& from, const Format& to, std::optional<in
     }
     if (!found && !plain)
         throw Cause("no function converts " + std::string(from.name) + " to " + std::string(to.name) +
-                    " (zorcc list shows what there is)");
+                    (dither ? " with dithering" : "") + " (zorcc list shows what there is)");
     return {found, &to};
 }
 

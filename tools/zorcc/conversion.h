@@ -45,8 +45,10 @@ struct Conversion {
 };
 
 // The cheapest conversion, preferring functions with steps; throws Cause if there is none. Formats that go with any
-// matrix are taken for the given one, or for any there is a function for.
-Conversion findConversion(const Format& from, const Format& to, std::optional<interface::Model> matrix = {});
+// matrix are taken for the given one, or for any there is a function for. With `dither` it ends in 16-bit pixels,
+// dithered.
+Conversion findConversion(const Format& from, const Format& to, std::optional<interface::Model> matrix = {},
+                          bool dither = false);
 
 // From 4:2:0 to 4:2:2 or 4:2:0, whichever leads to the format better; throws Cause for other pictures.
 Conversion findDeinterlacing(const Format& from, const Format& to);

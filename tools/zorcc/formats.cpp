@@ -90,25 +90,69 @@ void setOpaque(const Picture& picture, const Channel& channel)
     withType(picture.format().sample, [&]<class T>(T) { fill(channel, converted<T>(std::uint8_t{255})); });
 }
 
-// 5-6-5: the top bits of every channel, the first channel lowest.
-void packBits(const Picture& rgb, const Picture& to)
-{
-    const ZorSize size = to.size();
-    for (int y = 0; y < size.height; ++y) {
-        const std::uint8_t* const source = rgb.row(0, y);
-        std::uint8_t* const destination = to.row(0, y);
-        for (int x = 0; x < size.width; ++x) {
-            const std::uint8_t* const p = source + 3 * static_cast<std::ptrdiff_t>(x);
-            const auto bits = static_cast<std::uint16_t>(p[0] >> 3 | p[1] >> 2 << 5 | p[2] >> 3 << 11);
-            std::memcpy(destination + 2 * static_cast<std::ptrdiff_t>(x), &bits, sizeof bits);
-        }
+// Fields of a word of 16 bits, the first channel lowest, and the top bits of bytes.
+struct Fields {
+    int bits[3];
+
+    explicit Fields(const Format& format)
+        : bits{format.fieldBits / 100, format.fieldBits / 10 % 10, format.fieldBits % 10}
+    {
     }
+
+    std::uint16_t pack(const std::uint8_t* bytes) const
+    {
+        unsigned word = 0;
+        for (int c = 2; c >= 0; --c) word = word << bits[c] | bytes[c] >> (8 - bits[c]);
+        return static_cast<std::uint16_t>(word);
+    }
+
+    void unpack(unsigned word, std::uint8_t* bytes) const
+    {
+        for (int c = 0; c < 3; word >>= bits[c++]) bytes[c] = static_cast<std::uint8_t>(word << (8 - bits[c]));
+    }
+};
+
+// Visits the words of a picture with packed bits and the three bytes of each pixel of another.
+template <class Visit> void eachWord(const Picture& packed, const Picture& bytes, Visit visit)
+{
+    for (int y = 0; y < packed.size().height; ++y)
+        for (std::ptrdiff_t x = 0; x < packed.size().width; ++x)
+            visit(packed.row(0, y) + 2 * x, bytes.row(0, y) + 3 * x);
+}
+
+// The three channels in the order of the fields.
+const Format& bytesOf(const Format& packed)
+{
+    return packed.channels == "RGB" ? interface::formats::rgb24 : interface::formats::bgr24;
+}
+
+Picture unpacked(const Picture& picture)
+{
+    Picture bytes(bytesOf(picture.format()), picture.size(), picture.visible());
+    const Fields fields(picture.format());
+    eachWord(picture, bytes,
+             [&](const std::uint8_t* word, std::uint8_t* pixel) { fields.unpack(load<std::uint16_t>(word), pixel); });
+    return bytes;
+}
+
+void pack(const Picture& bytes, const Picture& to)
+{
+    const Fields fields(to.format());
+    eachWord(to, bytes, [&](std::uint8_t* word, const std::uint8_t* pixel) {
+        const std::uint16_t packed = fields.pack(pixel);
+        std::memcpy(word, &packed, sizeof packed);
+    });
 }
 
 } // namespace
 
 const Format& formatNamed(const std::string& name)
 {
+    // Elsewhere the channel in the highest bits is named first.
+    for (const char* const digits : {"565", "555", "444"})
+        for (const bool rgb : {true, false})
+            if (name == (rgb ? "rgb" : "bgr") + std::string(digits) + "le")
+                return formatNamed((rgb ? "bgr" : "rgb") + std::string(digits));
     std::string known;
     for (const interface::Function& function : interface::functions())
         for (const Format* format : {function.source, function.destination}) {
@@ -171,7 +215,6 @@ std::optional<int> rearrangementCost(const Format& from, const Format& to)
     if (&from == &to) return 0;
     if (isGrey(from) && to.model == interface::Model::mosaic && from.sample == to.sample) return 1;
     if (!isSameModel(from.model, to.model) || from.log2X() != to.log2X() || from.log2Y() != to.log2Y()) return {};
-    if (from.layout == Layout::packedBits || (to.layout == Layout::packedBits && to.channels != "RGB")) return {};
     int cost = 1;
     for (char letter : to.channels)
         if (from.channels.find(letter) == std::string_view::npos) {
@@ -194,16 +237,17 @@ Picture rearranged(Picture picture, const Format& to, ZorSize size)
     const ZorSize visible = {std::min(picture.visible().width, size.width),
                              std::min(picture.visible().height, size.height)};
     Picture result(to, size, visible);
-    if (to.layout == Layout::packedBits && picture.format().layout != Layout::packedBits) {
-        packBits(rearranged(std::move(picture), interface::formats::rgb24, size), result);
-        return result;
-    }
-    if (to.layout == Layout::packedBits) { // one sample a pixel, whatever it means
+    if (&picture.format() == &to && to.layout == Layout::packedBits) { // one sample a pixel, whatever it means
         copy<std::uint16_t, std::uint16_t>(
             {picture.row(0, 0), picture.image().step[0], 2, picture.visible().width, picture.visible().height},
             {result.row(0, 0), result.image().step[0], 2, size.width, size.height});
         return result;
     }
+    if (to.layout == Layout::packedBits) {
+        pack(rearranged(std::move(picture), bytesOf(to), size), result);
+        return result;
+    }
+    if (picture.format().layout == Layout::packedBits) return rearranged(unpacked(picture), to, size);
     const std::string_view letters = picture.format().channels;
     for (char letter : to.channels) {
         const Channel destination = channelOf(result, letter, size);

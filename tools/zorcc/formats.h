@@ -9,7 +9,8 @@
 
 namespace zorcc::tool {
 
-// A format that some function takes or gives; throws UsageError for other names.
+// A format that some function takes or gives. Also what others call rgb565le, which is bgr565, and so on: here the
+// channel named first is in the low bits. Throws UsageError for other names.
 const Format& formatNamed(const std::string& name);
 
 inline bool isGrey(const Format& format) { return format.channels == "L"; }
@@ -46,8 +47,8 @@ const Format& planarYuv(const Format& format);
 
 // What it costs to rearrange pictures of one format into another: 0 for the same, more the more is moved, added or
 // lost; no value where rearrangement is not enough. It may change the order and layout of channels, repeat grey,
-// add opaque alpha or drop alpha, scale between 8 bits, 16 bits (signed ones from -32768) and 0..1 floats, and cut
-// channels down to packed bits.
+// add opaque alpha or drop alpha, scale between 8 bits, 16 bits (signed ones from -32768) and 0..1 floats, cut
+// channels down to packed bits, and expand those with zeros below.
 std::optional<int> rearrangementCost(const Format& from, const Format& to);
 
 // The picture in another format and size, which rearrangementCost must allow: pixels beyond the visible ones repeat the

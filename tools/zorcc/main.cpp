@@ -116,6 +116,8 @@ Examples:
         ->transform(CLI::Transformer(namedMatrices()));
     command->add_flag("--deinterlace", o.convert.deinterlace,
                       "smooth each 4:2:0 picture vertically, so that its two fields no longer show as combs");
+    command->add_flag("--dither", o.convert.dither,
+                      "into 16-bit pixels by ordered dithering, in place of cutting down");
     addTiming(command, o.convert.timing);
     command->footer(
         R"(Without --to, RGB into .y4m or .yuv becomes yuv420p and YUV into a picture file rgb24. All pictures of IN are
@@ -130,7 +132,11 @@ Examples:
   zorcc convert --size 640x480 --format yuyv frame.yuv frame.png
 Layouts of video, of any matrix, by their usual names: i420 yv12 nv12, i422 yv16 yuy2 uyvy yvyu, i411 nv11, i410:
   zorcc convert clip.y4m clip.yuv --to nv12
-  zorcc convert --size 720x576 --format nv12 clip.yuv clip.y4m --deinterlace)");
+  zorcc convert --size 720x576 --format nv12 clip.yuv clip.y4m --deinterlace
+Pixels of 16 bits: rgb565 bgr565 rgb555 bgr555 rgb444 bgr444. The channel named first is in the LOW bits, so that what
+others call rgb565le is bgr565 here; their names with le are understood, too:
+  zorcc convert clip.y4m clip.raw --to rgb565le --dither
+  zorcc convert --size 320x240 --format bgr565 frame.raw frame.png)");
     command->callback([&o] { convert(o.convert); });
 
     command =

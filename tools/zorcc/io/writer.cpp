@@ -56,8 +56,10 @@ public:
         naming(path, [&] {
             if (!place && number > 1)
                 throw Cause("there is more than one picture: give a name with a number, such as frame_%03d.png");
+            if (picture.format().fieldBits != 0)
+                picture = rearranged(std::move(picture), interface::formats::rgb24, picture.visible());
             const Format& format = picture.format();
-            if (!isRgb(format) || format.layout == interface::Layout::packedBits)
+            if (!isRgb(format))
                 throw Cause("this kind of file holds RGB or grey, and the picture is " + std::string(format.name) +
                             (isYuv(format) ? ": use .y4m or .yuv" : ": use .raw"));
             files.push_back({path, std::make_unique<AtomicFile>(path)});
