@@ -92,6 +92,12 @@ int swapBytes(const uint8_t* from, int fromStep, uint8_t* to, int toStep, int wi
     return 0;
 }
 
+int dither565(const uint8_t* y, int yStep, const uint8_t* u, int uStep, const uint8_t* v, int vStep, uint8_t* to,
+              int toStep, int width, int height)
+{
+    return ::libyuv::I420ToRGB565Dither(y, yStep, u, uStep, v, vStep, to, toStep, nullptr, width, height);
+}
+
 // Where it has no direct conversion: the way over its four-byte pixels.
 template <class Second> struct ViaARGB {
     Repack first;
@@ -163,6 +169,17 @@ const Row rows[] = {
      ViaARGB<Repack>{::libyuv::YUY2ToARGB, ::libyuv::ARGBToRAW}},
     {"zoriYCbCr420ToBGR_709CSC_8u_P3C3R", "H420ToRGB24", ::libyuv::H420ToRGB24},
     {"zoriCbYCr422ToBGR_709HDTV_8u_C2C4R", "UYVYToARGB", ::libyuv::UYVYToARGB},
+
+    // Its 16-bit pixels have B lowest.
+    {"zoriYCbCr420ToRGB565_8u16u_P3C3R", "I420ToRGB565", ::libyuv::I420ToRGB565},
+    {"zoriYCbCr420ToBGR565_8u16u_P3C3R", "I420ToRGB565", ::libyuv::I420ToRGB565},
+    {"zoriYCbCr420ToRGB565Dither_8u16u_P3C3R", "I420ToRGB565Dither", dither565},
+    {"zoriYCbCr420ToBGR565Dither_8u16u_P3C3R", "I420ToRGB565Dither", dither565},
+    {"zoriYCbCr420ToBGR555_8u16u_P3C3R", "I420ToARGB1555", ::libyuv::I420ToARGB1555},
+    {"zoriYCbCr420ToBGR444_8u16u_P3C3R", "I420ToARGB4444", ::libyuv::I420ToARGB4444},
+    {"zoriYCbCr422ToBGR565_8u16u_P3C3R", "I422ToRGB565", ::libyuv::I422ToRGB565},
+    {"zoriBGR565ToYCbCr420_16u8u_C3P3R", "RGB565ToI420", ::libyuv::RGB565ToI420},
+    {"zoriBGR555ToYCbCr420_16u8u_C3P3R", "ARGB1555ToI420", ::libyuv::ARGB1555ToI420},
 
     // Where these drop every second row of chroma it takes the mean of two.
     {"zoriYCbCr420_8u_P2P3R", "NV12ToI420", ::libyuv::NV12ToI420},

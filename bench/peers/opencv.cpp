@@ -27,6 +27,8 @@ const Row rows[] = {
     {"zoriYUV420ToBGR_8u_P3C3R", "YUV2BGR_I420", cv::COLOR_YUV2BGR_I420},
     {"zoriYUV420ToRGB_8u_P3AC4R", "YUV2RGBA_I420", cv::COLOR_YUV2RGBA_I420},
     {"zoriYUV422ToRGB_8u_C2C3R", "YUV2RGB_YUYV", cv::COLOR_YUV2RGB_YUYV},
+    {"zoriRGB565ToRGB_16u8u_C3R", "BGR5652BGR", cv::COLOR_BGR5652BGR},
+    {"zoriRGBToRGB565_8u16u_C3R", "BGR2BGR565", cv::COLOR_BGR2BGR565},
     {"zoriRGBToHLS_8u_C3R", "RGB2HLS_FULL", cv::COLOR_RGB2HLS_FULL},
     {"zoriHLSToRGB_8u_C3R", "HLS2RGB_FULL", cv::COLOR_HLS2RGB_FULL},
     {"zoriRGBToHSV_8u_C3R", "RGB2HSV_FULL", cv::COLOR_RGB2HSV_FULL},
@@ -42,6 +44,8 @@ cv::Mat matrix(const Format& format, const Image& image, ZorSize size)
 {
     if (format.layout == Layout::planar)
         return {size.height * 3 / 2, size.width, CV_8UC1, image.plane[0], static_cast<size_t>(image.step[0])};
+    if (format.layout == Layout::packedBits)
+        return {size.height, size.width, CV_8UC2, image.plane[0], static_cast<size_t>(image.step[0])};
     const int depth = format.sample == interface::Sample::f32   ? CV_32F
                       : format.sample == interface::Sample::u16 ? CV_16U
                                                                 : CV_8U;

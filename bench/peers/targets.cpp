@@ -44,6 +44,18 @@ const Target targets[] = {
     {"zoriYCbCrToRGB_8u_P3R", frameSize, Tier::avx512, 1.3, "zimg 601"},
     {"zoriYCbCr422ToRGB_8u_C2C3R", cachedSize, Tier::avx512, 1.5, "libyuv YUY2ToARGB + ARGBToRAW"},
     {"zoriYCbCr422ToRGB_8u_C2C3R", frameSize, Tier::avx512, 1.3, "libyuv YUY2ToARGB + ARGBToRAW"},
+    {"zoriRGB565ToRGB_16u8u_C3R", cachedSize, Tier::avx512, 2.7, "OpenCV BGR5652BGR"},
+    {"zoriRGB565ToRGB_16u8u_C3R", cachedSize, Tier::avx2, 1.5, "OpenCV BGR5652BGR"},
+    {"zoriRGB565ToRGB_16u8u_C3R", frameSize, Tier::avx512, 2, "OpenCV BGR5652BGR"},
+    {"zoriRGB565ToRGB_16u8u_C3R", frameSize, Tier::avx2, 1.3, "OpenCV BGR5652BGR"},
+    {"zoriRGBToRGB565_8u16u_C3R", cachedSize, Tier::avx512, 2.2, "OpenCV BGR2BGR565"},
+    {"zoriRGBToRGB565_8u16u_C3R", cachedSize, Tier::avx2, 1.5, "OpenCV BGR2BGR565"},
+    {"zoriRGBToRGB565_8u16u_C3R", frameSize, Tier::avx512, 2, "OpenCV BGR2BGR565"},
+    {"zoriRGBToRGB565_8u16u_C3R", frameSize, Tier::avx2, 1.3, "OpenCV BGR2BGR565"},
+    {"zoriYCbCr420ToRGB565_8u16u_P3C3R", cachedSize, Tier::avx512, 1.3, "libyuv I420ToRGB565"},
+    {"zoriYCbCr420ToRGB565_8u16u_P3C3R", cachedSize, Tier::avx2, 1.3, "libyuv I420ToRGB565"},
+    {"zoriYCbCr420ToRGB565Dither_8u16u_P3C3R", cachedSize, Tier::avx512, 1.5, "libyuv I420ToRGB565Dither"},
+    {"zoriYCbCr420ToRGB565Dither_8u16u_P3C3R", cachedSize, Tier::avx2, 1.5, "libyuv I420ToRGB565Dither"},
     {"zoriReduceBits_8u_C1R none", frameSize, Tier::avx512, 1, "zorcc ordered"},
     {"zoriReduceBits_8u_C1R ordered", frameSize, Tier::avx512, 1, "zimg ordered"},
     {"zoriReduceBits_8u_C1R ordered", frameSize, Tier::ssse3, 0.4, "zimg ordered"},
@@ -98,6 +110,9 @@ const Target targets[] = {
 bool movesSamples(const interface::Function& function) { return function.source->model == interface::Model::anyYcc; }
 constexpr double moveRatio = 0.9;
 
+// Dithered 16-bit pixels on the best tier: multiples of those that are cut down.
+constexpr double ditheredRatio = 0.6;
+
 // On the lowest tier: multiples of any peer that is held to the same instructions, and Mpx/s of any function that
 // computes with integers and neither has variants nor does a hundred times the work of a conversion.
 constexpr double ssse3Ratio = 0.5;
@@ -142,6 +157,9 @@ bool checkTargets(const std::vector<Result>& results)
                     result.ours.contains(target.tier))
                     judge.judge(result, target.tier, result.ours.at(target.tier) / peer.speed, target.ratio,
                                 "x " + peer.name);
+            if (peer.name == "zorcc undithered" && same(result.size, cachedSize))
+                judge.judge(result, bestTier(), result.ours.at(bestTier()) / peer.speed, ditheredRatio,
+                            "x " + peer.name);
             if (peer.ssse3Only)
                 judge.judge(result, Tier::ssse3, result.ours.at(Tier::ssse3) / peer.speed,
                             movesSamples(*result.function) ? moveRatio : ssse3Ratio, "x " + peer.name);
