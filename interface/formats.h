@@ -62,27 +62,36 @@ struct PlaneShape {
 inline constexpr int maxPlanes = 4;
 
 struct Format {
-    std::string_view name;     // unique, as the tool's users write it
+    std::string_view name;     // as the tool's users write it; unique among formats that round alike
     std::string_view channels; // in memory order, one letter each: "BGRA", "YUV", packed 4:2:2 by bytes: "YUYV"
     Model model;
     Sample sample;
     Layout layout;
     int planes;
     PlaneShape plane[maxPlanes];
-    int fieldBits = 0; // packed bits: those of each channel, as three digits
+    int fieldBits = 0;     // packed bits: those of each channel, as three digits
+    bool roundsUp = false; // an odd last column or row has subsampled chroma of its own
 
     constexpr bool subsampled() const { return layout == Layout::packed422 || plane[1].log2X > 0; }
     constexpr int log2X() const { return layout == Layout::packed422 ? 1 : plane[1].log2X; } // chroma subsampling
     constexpr int log2Y() const { return plane[1].log2Y; }
 };
 
-// Bytes of one row of plane p, and its rows, that an image of the given size occupies. An odd last pixel counts for
-// nothing in a subsampled plane; a packed 4:2:2 row ends after the last pixel's own two bytes.
+// Samples of a plane for that many columns or rows of pixels, 1 << log2 of which share one. An odd last one counts for
+// nothing unless the format rounds up.
+constexpr int sharedSamples(const Format& f, int pixels, int log2)
+{
+    return (pixels + (f.roundsUp ? (1 << log2) - 1 : 0)) >> log2;
+}
+
+// Bytes of one row of plane p, and its rows, that an image of the given size occupies. A packed 4:2:2 row ends after
+// the last pixel's own two bytes.
 constexpr std::size_t rowBytes(const Format& f, int p, int width)
 {
-    return static_cast<std::size_t>(width >> f.plane[p].log2X) * f.plane[p].samples * sampleBytes(f.sample);
+    return static_cast<std::size_t>(sharedSamples(f, width, f.plane[p].log2X)) * f.plane[p].samples *
+           sampleBytes(f.sample);
 }
-constexpr int rows(const Format& f, int p, int height) { return height >> f.plane[p].log2Y; }
+constexpr int rows(const Format& f, int p, int height) { return sharedSamples(f, height, f.plane[p].log2Y); }
 
 // ---- all formats ----------------------------------------------------------------------------------------------------
 
@@ -97,6 +106,7 @@ struct Shape {
     bool reversed = false;    // blue before red, Cr before Cb
     bool chromaFirst = false; // packed 4:2:2: chroma before luma
     int fieldBits = 0;        // packed bits: those of each channel, as three digits
+    bool roundsUp = false;    // an odd last column or row has subsampled chroma of its own
 };
 
 struct Text {
@@ -170,10 +180,9 @@ template <Shape s> struct FormatOf {
         Format f{name, channels, s.model, s.sample, s.layout, 1, {{s.channels}}};
         const PlaneShape chroma{s.layout == Layout::semiPlanar ? 2 : 1, s.log2X, s.log2Y};
         if (s.layout == Layout::packed422) f.plane[0] = {2};
-        if (s.layout == Layout::packedBits) {
-            f.plane[0] = {1};
-            f.fieldBits = s.fieldBits;
-        }
+        if (s.layout == Layout::packedBits) f.plane[0] = {1};
+        f.fieldBits = s.fieldBits;
+        f.roundsUp = s.roundsUp;
         if (s.layout == Layout::semiPlanar || s.layout == Layout::planar) {
             f.planes = s.layout == Layout::semiPlanar ? 2 : s.channels;
             f.plane[0] = {1};

@@ -25,7 +25,6 @@ template <class Bound, class NameOf> constexpr Function describe(std::string_vie
             {},
             name.variant,
             name.dither,
-            name.source.packing == "420" && !name.destination.packing.empty() && isRgb(name.destination),
             &format<shapeOf(name, name.source)>,
             &format<shapeOf(name, name.destination)>,
             alphaOf(name, Bound::takes(arguments::alpha)),

@@ -18,7 +18,6 @@ struct Function {
     std::string_view family;  // title
     std::string_view variant; // as the name has it: "Filter"; often empty
     bool dithers;             // by a fixed matrix of thresholds
-    bool sharesOddChroma;     // of 4:2:0 with an odd size: the last column and row have chroma, which is read
     const Format* source;
     const Format* destination;
     Alpha alpha;

@@ -142,6 +142,7 @@ constexpr Shape shapeOf(const Name& name, const Name::Side& side)
     if (s.layout == Layout::planar || s.layout == Layout::semiPlanar) {
         s.log2X = side.packing == "411" || side.packing == "1620" ? 2 : side.packing == "420" || side.packing == "422";
         s.log2Y = side.packing == "1620" ? 2 : side.packing == "420";
+        s.roundsUp = side.packing == "420" && isRgb(name.destination) && !name.destination.packing.empty();
     }
     return s;
 }

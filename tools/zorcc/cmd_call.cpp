@@ -63,8 +63,7 @@ void call(const CallOptions& options)
         throw UsageError(options.function + " gives " + std::string(destination.name) + ": name one file, or " +
                          std::to_string(destination.planes) + " for its planes");
 
-    const auto reader =
-        openInput(options.in, &source, function->sharesOddChroma ? OddSizes::roundUp : OddSizes::cutOff);
+    const auto reader = openInput(options.in, &source, OddSizes::cutOff);
     Output output(options.out, reader->tags());
     Stats stats{options.timing.repeat};
     bool warned = false;
@@ -76,9 +75,7 @@ void call(const CallOptions& options)
                          : isYuv(source) ? ": give a Y4M file, or a headerless one with --size WxH"
                                          : ": give a headerless file with --size WxH"));
         const ZorSize size = picture.visible();
-        // Chroma of an odd last column or row is in a picture of whole blocks.
-        const ZorSize given = function->sharesOddChroma ? wholeBlocks(size, source) : size;
-        Picture result = run(*function, rearranged(std::move(picture), source, given), stats);
+        Picture result = run(*function, rearranged(std::move(picture), source, size), stats);
         if (stats.status != zorStatusOk && !warned)
             std::cerr << "zorcc: warning: " << reader->path() << ": "
                       << (stats.status == zorStatusOddSize

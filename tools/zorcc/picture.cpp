@@ -94,10 +94,13 @@ Channel channelOf(const Picture& picture, char letter, ZorSize extent)
             width = sharedSamples(extent.width, 1, static_cast<int>(stored));
         }
     } else if (shape.log2X > 0) {
-        width = sharedSamples(extent.width, shape.log2X, picture.size().width >> shape.log2X);
+        width = sharedSamples(extent.width, shape.log2X,
+                              interface::sharedSamples(format, picture.size().width, shape.log2X));
     }
-    const int height = shape.log2Y > 0 ? sharedSamples(extent.height, shape.log2Y, picture.size().height >> shape.log2Y)
-                                       : extent.height;
+    const int height = shape.log2Y > 0
+                           ? sharedSamples(extent.height, shape.log2Y,
+                                           interface::sharedSamples(format, picture.size().height, shape.log2Y))
+                           : extent.height;
     return {picture.row(plane, 0) + position * bytes, picture.image().step[plane], stride, width, height};
 }
 
