@@ -46,7 +46,8 @@ std::string Checker::heading(const Trial& trial, Tier tier) const
     return text.str();
 }
 
-// As the functions that need it ask for it; beside its rows as the destination, but for rows that no page holds.
+// Its size is what the functions that need it ask for. Its rows lie as those of the destination do, unless they are
+// too long to be isolated.
 void Checker::arrangeScratch(Arrangement arrangement, int width)
 {
     if (!tested.takesScratch) return;
@@ -126,7 +127,7 @@ AssertionResult Checker::check(const Trial& trial, const std::function<void(Test
                         destinationSteps(tested.signature));
     arrangeScratch(trial.destination, whole.width);
     const auto fillAgain = [&](TestImage& image) {
-        image.fillPattern(&image == &source ? trial.seed : trial.seed + 1); // no byte of one for that of the other
+        image.fillPattern(&image == &source ? trial.seed : trial.seed + 1); // so that no copied gap goes unseen
         if (&image == &source) fillSource(source);
     };
     for (TestImage* const image : {&source, &destination}) {

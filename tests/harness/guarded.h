@@ -33,7 +33,7 @@ public:
     {
         if (mapped == MAP_FAILED) throw std::bad_alloc();
         for (std::size_t i = 0; i < pieces; ++i)
-            if (mprotect(data(i), bytes, PROT_READ | PROT_WRITE) != 0) throw std::bad_alloc();
+            if (bytes > 0 && mprotect(data(i), bytes, PROT_READ | PROT_WRITE) != 0) throw std::bad_alloc();
     }
     ~GuardedPages() { munmap(mapped, mappedBytes()); }
     GuardedPages(const GuardedPages&) = delete;

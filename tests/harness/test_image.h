@@ -37,7 +37,7 @@ StepArguments destinationSteps(const interface::Signature& signature);
 
 class TestImage {
 public:
-    // `used` is the part of the image that the function may touch; no memory stands behind the rest.
+    // `used` are the pixels that the function may touch; the rest of the image has no memory.
     void arrange(const interface::Format& imageFormat, ZorSize imageSize, ZorSize used, const Arrangement& arrangement,
                  StepArguments stepArguments);
 

@@ -9,7 +9,7 @@ namespace {
 
 int clamp(int value) { return std::clamp(value, 0, 255); }
 
-// Of one pixel, or of the 2 or 4 that share chroma.
+// The sums of channels over one pixel, or over the 2 or 4 that share chroma.
 struct Sums {
     int count = 0, r = 0, g = 0, b = 0;
 
@@ -68,7 +68,7 @@ constexpr Matrix bt709 = {{11993, 40239, 4063}, {-6619, -22151, 28770}, {28770, 
 constexpr Matrix bt709Full = {{13959, 46858, 4719}, {-7668, -25821, 33489}, {33489, -30409, -3080}};
 constexpr int half = 32768;
 
-// Of four pixels it is not rounded, but for what a single pixel would get.
+// One pixel and two are rounded to nearest; four get what one gets, an eighth.
 int chroma(const Row& row, const Sums& s, int roundingOfTwo = 2 * half)
 {
     return ((row(s) + (s.count == 2 ? roundingOfTwo : half)) >> (16 + s.log2())) + 128;
