@@ -29,6 +29,7 @@ constexpr Case toInterleaved{"zoriYUV420ToRGB_8u_P3C3R", toRgb<yuvWeights>, OddS
 constexpr Case semiPlanar{"zoriYCbCr420_8u_P2P3R", resample<moved>, OddSize::cutOff,
                           Checks::pointersFirst,   {2, 2},          {2, 2}};
 constexpr Case mosaic{.name = "zoriCFAToRGB_8u_C1C3R", .minimum = {2, 2}, .demosaic = alongGradients};
+constexpr Case mosaicInScratch{.name = "zoriDemosaicAHD_8u_C1C3R", .minimum = {5, 5}, .demosaic = adaptive};
 
 using Body = ZorStatus (*)(const Call&);
 using Byte = std::uint8_t;
@@ -132,6 +133,10 @@ const Fault faults[] = {
     {"forgets the region", mosaic, changed([](Call& call) { call.extra.region.reset(); })},
     {"takes the region's first pixel for the image's", mosaic, changed([](Call& call) {
          if (const auto& region = call.extra.region) call.extra.grid ^= region->x & 1 ? 2 : 0;
+     })},
+    {"writes between the rows of the scratch memory", mosaicInScratch, changed([](Call& call) {
+         const int step = call.extra.scratchStep, rowBytes = 32 * (call.size.width + 32);
+         if (step == rowBytes + 1) static_cast<Byte*>(call.extra.scratch)[rowBytes] ^= 1;
      })},
 };
 
