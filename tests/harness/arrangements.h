@@ -7,7 +7,8 @@
 
 namespace zorcc::test {
 
-// The seed of every random choice in the tests; it changes from run to run unless ZORCC_TEST_SEED is set. Failures print it.
+// The seed of every random choice in the tests; it changes from run to run unless ZORCC_TEST_SEED is set. Failures
+// print it.
 std::uint32_t baseSeed();
 
 // Those that any function with steps takes.

@@ -112,11 +112,11 @@ const Fault faults[] = {
     {"writes before rows", interleaved, damaged([](Row r) { r.to[-1] ^= 1; })},
     {"writes far after rows", interleaved, damaged([](Row r) { r.to[r.bytes + 60] ^= 1; })},
     {"writes padding", interleaved, damaged([](Row r) {
-         if (r.toStep > r.bytes && !r.isLast) r.to[r.toStep - 1] ^= 1;
+         if (r.toStep == r.bytes + 1 && !r.isLast) r.to[r.bytes] ^= 1;
      })},
     {"writes the source", interleaved, damaged([](Row r) { r.from[0] ^= 1; })},
     {"writes the source's padding", interleaved, damaged([](Row r) {
-         if (r.fromStep > r.bytes && !r.isLast) r.from[r.bytes] ^= 1;
+         if (r.fromStep == r.bytes + 1 && !r.isLast) r.from[r.bytes] ^= 1;
      })},
     {"reads before rows", interleaved, damaged([](Row r) { sink = r.from[-1]; })},
     {"reads after the last row", interleaved, damaged([](Row r) { sink = r.from[r.isLast ? r.bytes : 0]; })},
