@@ -24,8 +24,7 @@ constexpr auto sumOfProducts = [](int i, const auto& a, const auto& b) {
     return static_cast<uint32_t>(a[2 * i] * b[2 * i]) + static_cast<uint32_t>(a[2 * i + 1] * b[2 * i + 1]);
 };
 
-constexpr uint8_t places[16] = {3, 1, 4, 0x80, 5, 9, 2, 6, 0xff, 15, 0, 8, 7, 9, 3, 2};
-constexpr Block placesBlock = {{3, 1, 4, 0x80, 5, 9, 2, 6, 0xff, 15, 0, 8, 7, 9, 3, 2}};
+constexpr Block places = {{3, 1, 4, 0x80, 5, 9, 2, 6, 0xff, 15, 0, 8, 7, 9, 3, 2}};
 // The byte of the block that an index stands for.
 constexpr auto shuffled = [](int i, const auto& v, int index) {
     return index & 0x80 ? 0 : v[i / 16 * 16 + index % 16];
@@ -71,10 +70,10 @@ constexpr Operation operations[] = {
     ZORCC_OPERATION(shuffle, ([](int i, const auto& v, const auto& index) { return shuffled(i, v, index[i]); }), u8v,
                     u8v),
     operation<u8v>(
-        "shuffle by a block", [](u8v v) { return shuffle(v, placesBlock); },
-        [](int i, const auto& v) { return shuffled(i, v, places[i % 16]); }),
+        "shuffle by a block", [](u8v v) { return shuffle(v, places); },
+        [](int i, const auto& v) { return shuffled(i, v, places.byte[i % 16]); }),
     operation<>(
-        "fillBlock", [] { return fillBlock(placesBlock); }, [](int i) { return places[i % 16]; }),
+        "fillBlock", [] { return fillBlock(places); }, [](int i) { return places.byte[i % 16]; }),
     ZORCC_OPERATION(addOneWhere, oneMore, s16v, u16v, u16v),
     ZORCC_OPERATION(addOneWhere, oneMore, u8v, s8v, s8v),
 };
