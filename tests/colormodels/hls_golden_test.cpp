@@ -48,10 +48,7 @@ const GoldenColours goldens[] = {
     {{"zoriHLSToRGB_32f_C3R"}, {0.5f, 0.25f, 0.5f}, {0.125f, 0.375f, 0.375f}},
 };
 
-TEST(HlsGolden, Colours)
-{
-    for (const GoldenColours& golden : goldens) expectGolden(golden);
-}
+TEST(HlsGolden, Colours) { expectGolden(goldens); }
 
 // At 60, 180 and 300 degrees.
 TEST(HlsGolden, HighWhereAChannelBeginsToFall)

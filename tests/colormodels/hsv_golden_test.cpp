@@ -22,10 +22,7 @@ const GoldenColours goldens[] = {
     {{"zoriHSVToRGB_16u_C3R"}, {0, 65535, 40000}, {40000, 0, 0}},
 };
 
-TEST(HsvGolden, Colours)
-{
-    for (const GoldenColours& golden : goldens) expectGolden(golden);
-}
+TEST(HsvGolden, Colours) { expectGolden(goldens); }
 
 TEST(HsvGolden, BlocksOfFourAndTheRestOfARow)
 {

@@ -9,8 +9,6 @@
 namespace zorcc::test {
 namespace {
 
-using Names = std::vector<std::string_view>;
-
 const Names toBt601 = {"zoriRGBToYCbCr_8u_C3R", "zoriRGBToYCbCr_8u_AC4R", "zoriRGBToYCbCr_8u_C3P3R",
                        "zoriRGBToYCbCr_8u_AC4P3R", "zoriRGBToYCbCr_8u_P3R"};
 const Names toPairs = {"zoriRGBToYCbCr422_8u_C3C2R", "zoriRGBToYCbCr422_8u_P3C2R"};
@@ -66,10 +64,7 @@ const GoldenColours goldens[] = {
     {from411, {14, 201, 246}, {185, 0, 144}},
 };
 
-TEST(Bt601Golden, Colours)
-{
-    for (const GoldenColours& golden : goldens) expectGolden(golden);
-}
+TEST(Bt601Golden, Colours) { expectGolden(goldens); }
 
 // An odd last pixel has luma, rounded, and its own Cb: 0.439 of pure blue above 128.
 TEST(Bt601Golden, OddLastPixel)

@@ -9,8 +9,6 @@
 namespace zorcc::test {
 namespace {
 
-using Names = std::vector<std::string_view>;
-
 const Names toStudioBlocks = {"zoriBGRToYCbCr420_709CSC_8u_C3P3R", "zoriBGRToYCbCr420_709CSC_8u_AC4P3R",
                               "zoriBGRToYCrCb420_709CSC_8u_C3P3R", "zoriBGRToYCrCb420_709CSC_8u_AC4P3R"};
 const Names fromStudio = {"zoriYCbCr420ToBGR_709CSC_8u_P3C3R", "zoriYCbCrToBGR_709CSC_8u_P3C3R",
@@ -46,10 +44,7 @@ const GoldenColours goldens[] = {
     {fromFull, {217, 22, 40}, {81, 255, 25}},
 };
 
-TEST(Bt709Golden, Colours)
-{
-    for (const GoldenColours& golden : goldens) expectGolden(golden);
-}
+TEST(Bt709Golden, Colours) { expectGolden(goldens); }
 
 // 255 blue have Cb 0.511 * 255 above 128, and luma 0, which both are limited; so is that of an odd last pixel.
 TEST(Bt709Golden, PairsStayWithinOneAnd254)

@@ -41,6 +41,7 @@ constexpr Table<float> floats = {{0, 120, -120, 240, -360, 0.5f, 1.5f, -3}};
 template <auto& table, class V> ZORCC_INLINE auto lookUpIn(V index) { return lookUp(table, (V)(index & 7)); }
 constexpr auto floatOf = [](int i, const auto& v) { return floats.of[widened(i, v) & 7]; };
 
+#define WIDENED(V) ZORCC_OPERATION(widen, widened, V)
 #define SAMPLES(T)                                                                                                     \
     memory<T, int32_t, vectorBytes, lanes* int{sizeof(T)}>(                                                            \
         "storeIntegers " #T, [](auto* in, auto* out) { storeIntegers(reinterpret_cast<T*>(out), load<s32v>(in)); },    \
@@ -72,25 +73,17 @@ constexpr Operation operations[] = {
     ZORCC_OPERATION(min, each([](float a, float b) { return a < b ? a : b; }), f32v, f32v),
     ZORCC_OPERATION(max, each([](float a, float b) { return a > b ? a : b; }), f32v, f32v),
     ZORCC_OPERATION(abs, each([](float v) { return __builtin_fabsf(v); }), f32v),
-    SELECTED(f32v),
-    SELECTED(s32v),
-    COUNTS(1),
-    COUNTS(-1),
-    QUOTIENTS(60),
-    QUOTIENTS(360),
+    ZORCC_OF_TWO(SELECTED, f32v, s32v),
+    ZORCC_OF_TWO(COUNTS, 1, -1),
+    ZORCC_OF_TWO(QUOTIENTS, 60, 360),
     ZORCC_OPERATION(leftOf, left, f32v, f32v),
     ZORCC_OPERATION(rightOf, right, f32v, f32v),
-    ZORCC_OPERATION(widen, widened, u8v),
-    ZORCC_OPERATION(widen, widened, u16v),
-    ZORCC_OPERATION(widen, widened, s16v),
+    ZORCC_OF_THREE(WIDENED, u8v, u16v, s16v),
     ZORCC_OPERATION(narrowTo<uint8_t>, narrowed<uint8_t>, s32v, s32v, s32v, s32v),
     ZORCC_OPERATION(narrowTo<int16_t>, narrowed<int16_t>, s32v, s32v),
     ZORCC_OPERATION(narrowTo<uint16_t>, narrowed<uint16_t>, s32v, s32v),
-    INTEGERS(uint8_t),
-    INTEGERS(uint16_t),
-    SAMPLES(uint8_t),
-    SAMPLES(uint16_t),
-    SAMPLES(int16_t),
+    ZORCC_OF_TWO(INTEGERS, uint8_t, uint16_t),
+    ZORCC_OF_THREE(SAMPLES, uint8_t, uint16_t, int16_t),
     ZORCC_OPERATION(lookUpIn<bytes>, each([](int i) { return bytes.of[i & 7]; }), u8v),
     ZORCC_OPERATION(lookUpIn<bytes>, each([](int i) { return 257 * bytes.of[i & 7]; }), u16v),
     ZORCC_OPERATION(lookUpIn<floats>, each([](int i) { return floats.of[i & 7]; }), s32v),

@@ -98,3 +98,8 @@ template <int count> constexpr test::Operations table(const Operation (&operatio
 
 } // namespace
 } // namespace zorcc::ZORCC_TIER
+
+// A macro of lines for each of some types, or numbers.
+#define ZORCC_OF_TWO(lines, a, b) lines(a), lines(b)
+#define ZORCC_OF_THREE(lines, a, b, c) ZORCC_OF_TWO(lines, a, b), lines(c)
+#define ZORCC_OF_FOUR(lines, a, b, c, d) ZORCC_OF_THREE(lines, a, b, c), lines(d)

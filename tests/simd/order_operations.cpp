@@ -99,14 +99,17 @@ constexpr auto besideFourth = [](int i) { return i % 4 == 3 ? 3 * lanesOf<V> + i
     CHANNELS(V, lanesOf<V>, (interleaved<V, lanesOf<V>>), store(out, transposed<V>(load<Vectors<V, lanesOf<V>>>(in))))
 #define FROM_PIXELS(V, n)                                                                                              \
     CHANNELS(V, n, (deinterleaved<V, n>), store(out, Vectors<V, n>([=](auto& v) { deinterleave(in, v); })))
-#define THREE(V, columns, place) CHANNELS(V, 3, place, interleave<Columns::columns>(out, load<Vectors<V, 3>>(in).of))
+#define TO_PIXELS(V, columns, place)                                                                                   \
+    CHANNELS(V, 3, place, interleave<Columns::columns>(out, load<Vectors<V, 3>>(in).of))
+#define THREE(V) FROM_PIXELS(V, 3), TO_PIXELS(V, inOrder, (interleaved<V, 3>))
 #define FOUR(V)                                                                                                        \
-    CHANNELS(V, 4, (interleaved<V, 4>), interleave(out, load<Vectors<V, 4>>(in).of)),                                  \
+    FROM_PIXELS(V, 4), CHANNELS(V, 4, (interleaved<V, 4>), interleave(out, load<Vectors<V, 4>>(in).of)),               \
         MOVES(V, 7 * bytes, 4 * bytes, besideFourth<V>, store(out, load<Vectors<V, 4>>(in + 3 * bytes));               \
               interleaveBesideFourth(out, load<Vectors<V, 3>>(in).of))
-#define COLUMNS(V)                                                                                                     \
-    CHANNELS(V, 6, fromColumns<V>,                                                                                     \
-             interleaveColumns3(out, load<Vectors<V, 3>>(in).of, load<Vectors<V, 3>>(in + 3 * bytes).of))
+#define EVEN_AND_ODD_COLUMNS(V)                                                                                        \
+    TO_PIXELS(V, evenThenOdd, fromEvenThenOdd<V>),                                                                     \
+        CHANNELS(V, 6, fromColumns<V>,                                                                                 \
+                 interleaveColumns3(out, load<Vectors<V, 3>>(in).of, load<Vectors<V, 3>>(in + 3 * bytes).of))
 
 constexpr Operation operations[] = {
     MOVES(u8v, bytes, bytes, same, store(out, load(in))),
@@ -117,37 +120,15 @@ constexpr Operation operations[] = {
     MOVES(f32v, 4, bytes, first, store(out, fillFloat(load<float>(in)))),
     MOVES(u8v, 2, bytes, ofPair, store(out, fillPair8(load<int8_t>(in), load<int8_t>(in + 1)))),
     MOVES(u16v, 4, bytes, ofPair, store(out, fillPair16(load<int16_t>(in), load<int16_t>(in + 2)))),
-    ZIPS(u8v),
-    ZIPS(s16v),
-    ZIPS(u32v),
-    ZIPS(u64v),
-    ZIPPED_HALVES(u8v),
-    ZIPPED_HALVES(u16v),
-    ZIPPED_HALVES(u32v),
-    ZIPPED_HALVES(u64v),
-    HALVES_AND_SECONDS(u8v),
-    HALVES_AND_SECONDS(u16v),
+    ZORCC_OF_FOUR(ZIPS, u8v, s16v, u32v, u64v),
+    ZORCC_OF_FOUR(ZIPPED_HALVES, u8v, u16v, u32v, u64v),
+    ZORCC_OF_TWO(HALVES_AND_SECONDS, u8v, u16v),
     OF_ONE(u8v, halvesZipped<u8v>, zipHalves),
     OF_ONE(u8v, (inPieces<u8v, 4>), orderQuarters),
-    TRANSPOSED(u32v),
-    TRANSPOSED(u16v),
-    TRANSPOSED(u8v),
-    FROM_PIXELS(u8v, 3),
-    FROM_PIXELS(u16v, 3),
-    FROM_PIXELS(f32v, 3),
-    FROM_PIXELS(u8v, 4),
-    FROM_PIXELS(u16v, 4),
-    FROM_PIXELS(f32v, 4),
-    THREE(u8v, inOrder, (interleaved<u8v, 3>)),
-    THREE(u16v, inOrder, (interleaved<u16v, 3>)),
-    THREE(f32v, inOrder, (interleaved<f32v, 3>)),
-    THREE(u8v, evenThenOdd, fromEvenThenOdd<u8v>),
-    THREE(u16v, evenThenOdd, fromEvenThenOdd<u16v>),
-    FOUR(u8v),
-    FOUR(u16v),
-    FOUR(f32v),
-    COLUMNS(u8v),
-    COLUMNS(u16v),
+    ZORCC_OF_THREE(TRANSPOSED, u32v, u16v, u8v),
+    ZORCC_OF_THREE(THREE, u8v, u16v, f32v),
+    ZORCC_OF_THREE(FOUR, u8v, u16v, f32v),
+    ZORCC_OF_TWO(EVEN_AND_ODD_COLUMNS, u8v, u16v),
     CHANNELS(u8v, 2, inMemory, store(out, Vectors<u8v, 2>([=](auto& v) {
                                          toBlocks({load(in), load(in + bytes)}, v);
                                      }))),

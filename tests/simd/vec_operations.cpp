@@ -46,8 +46,7 @@ constexpr auto shuffled = [](int i, const auto& v, int index) {
             "odd mask " #V, [] { return alternatingMask<V>(true); }, [](int i) { return -(i % 2); })
 
 constexpr Operation operations[] = {
-    ARITHMETIC(u8v),
-    ARITHMETIC(u16v),
+    ZORCC_OF_TWO(ARITHMETIC, u8v, u16v),
     ZORCC_OPERATION(mulAddPairs, sumOfPair, u8v, s8v),
     ZORCC_OPERATION(mulAddPairs, sumOfProducts, s16v, s16v),
     operation<u32v, s16v, s16v>(
