@@ -14,7 +14,7 @@ namespace {
 
 using test::Operation;
 
-// Of a vector, or of the parts of what it was widened to.
+// An element of a vector, or of the vectors that it was widened to.
 template <class V> constexpr auto elementOf(const V& v)
 {
     if constexpr (requires { v.part; })

@@ -131,7 +131,7 @@ class Demosaic(unittest.TestCase):
     GRIDS = {"rggb": (0, 1, 1, 2), "bggr": (2, 1, 1, 0), "gbrg": (1, 2, 0, 1), "grbg": (1, 0, 2, 1)}
 
     def write_mosaic(self, grid, depth):
-        """Of a smooth picture."""
+        """A smooth picture through the grid of colours."""
         write_pnm("smooth.ppm", 61, 43, smooth(61, 43))
         colours, maximum = samples("smooth.ppm"), 2 ** depth - 1
         write_pnm("m.pgm", 61, 43, [colours[3 * (61 * y + x) + self.GRIDS[grid][y % 2 * 2 + x % 2]] * maximum // 255
