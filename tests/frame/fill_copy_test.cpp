@@ -39,11 +39,11 @@ TEST(Rows, EveryLengthAndAlignment)
                         Bytes wanted(memoryBytes, untouched);
                         std::fill_n(target.data(), memoryBytes, untouched);
                         std::copy_n(src, length, wanted.data() + offset(to));
-                        ownccCopy_8u_C1_M7(src, dst, length, stores);
+                        copyBytes(src, dst, length, stores);
                         ASSERT_TRUE(std::equal(wanted.begin(), wanted.end(), target.data()))
                             << length << " bytes copied from " << from << " to " << to;
                         std::fill_n(wanted.data() + offset(to), length, uint8_t{0x42});
-                        owniSet_8u_C1_M7(0x42, dst, length, stores);
+                        fillBytes(0x42, dst, length, stores);
                         ASSERT_TRUE(std::equal(wanted.begin(), wanted.end(), target.data()))
                             << length << " bytes filled at " << to;
                     }
