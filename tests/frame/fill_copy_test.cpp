@@ -65,7 +65,7 @@ uint8_t* row(const interface::Image& image, int y)
 void expectLikeShadow(const TestImage& image)
 {
     const auto difference = image.difference();
-    ASSERT_FALSE(difference) << describe(*difference) << ", " << image.size().width << " x " << image.size().height;
+    ASSERT_FALSE(difference) << *difference << ", " << image.size().width << " x " << image.size().height;
 }
 
 void expectFilled(ZorSize size, const Arrangement& arrangement)
