@@ -23,7 +23,7 @@ Stores storesForFill(size_t bytes)
 
 } // namespace
 
-void ownccCopy_8u_C1_M7(const uint8_t* src, uint8_t* dst, size_t length, Stores stores)
+void copyBytes(const uint8_t* src, uint8_t* dst, size_t length, Stores stores)
 {
     if (stores == Stores::ordinary || length < streamedBytes)
         memcpy(dst, src, length);
@@ -36,11 +36,11 @@ void copyRows(const uint8_t* src, ptrdiff_t srcStep, uint8_t* dst, ptrdiff_t dst
 {
     const ptrdiff_t rowBytes = static_cast<ptrdiff_t>(width);
     if (srcStep == rowBytes && dstStep == rowBytes)
-        return ownccCopy_8u_C1_M7(src, dst, width * static_cast<size_t>(height), stores);
-    for (ptrdiff_t y = 0; y < height; ++y) ownccCopy_8u_C1_M7(src + y * srcStep, dst + y * dstStep, width, stores);
+        return copyBytes(src, dst, width * static_cast<size_t>(height), stores);
+    for (ptrdiff_t y = 0; y < height; ++y) copyBytes(src + y * srcStep, dst + y * dstStep, width, stores);
 }
 
-void owniSet_8u_C1_M7(uint8_t value, uint8_t* dst, size_t length, Stores stores)
+void fillBytes(uint8_t value, uint8_t* dst, size_t length, Stores stores)
 {
     if (stores == Stores::ordinary || length < streamedBytes)
         memset(dst, value, length);
@@ -63,11 +63,10 @@ ZorStatus zoriSet_8u_C1R(uint8_t value, uint8_t* dst, int dstStep, ZorSize roiSi
 
     const size_t width = static_cast<size_t>(roiSize.width), bytes = width * static_cast<size_t>(roiSize.height);
     const Stores stores = storesForFill(bytes);
-    if (dstStep == roiSize.width) {
-        owniSet_8u_C1_M7(value, dst, bytes, stores);
-    } else {
-        for (int y = 0; y < roiSize.height; ++y) owniSet_8u_C1_M7(value, image.row(0, y), width, stores);
-    }
+    if (dstStep == roiSize.width)
+        fillBytes(value, dst, bytes, stores);
+    else
+        for (int y = 0; y < roiSize.height; ++y) fillBytes(value, image.row(0, y), width, stores);
     return zorStatusOk;
 }
 

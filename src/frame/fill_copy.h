@@ -14,11 +14,11 @@ namespace zorcc {
 enum class Stores { ordinary, nonTemporal };
 
 // One row of `length` bytes.
-void ownccCopy_8u_C1_M7(const uint8_t* src, uint8_t* dst, size_t length, Stores stores);
+void copyBytes(const uint8_t* src, uint8_t* dst, size_t length, Stores stores);
 // `height` rows of `width` bytes, rows without gaps as one.
 void copyRows(const uint8_t* src, ptrdiff_t srcStep, uint8_t* dst, ptrdiff_t dstStep, size_t width, int height,
               Stores stores);
-void owniSet_8u_C1_M7(uint8_t value, uint8_t* dst, size_t length, Stores stores);
+void fillBytes(uint8_t value, uint8_t* dst, size_t length, Stores stores);
 
 // zorStatusNullPointer, zorStatusBadSize.
 ZorStatus zoriCopy_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ZorSize roiSize);

@@ -6,7 +6,6 @@
 
 #include <array>
 #include <string_view>
-#include <utility>
 
 #include "tests/harness/cases.h"
 #include "tests/harness/test_image.h"
@@ -23,9 +22,10 @@ inline constexpr ZorBayerGrid grids[] = {zorBayerBGGR, zorBayerRGGB, zorBayerGBR
 
 inline Rgb at(const Picture& picture, int x, int y) { return {picture(x, y, 0), picture(x, y, 1), picture(x, y, 2)}; }
 
-// What the function makes of a whole mosaic, on the active tier.
-inline Picture run(const interface::Function& function, const Mosaic& mosaic)
+// What the function makes of a whole mosaic, the same on every tier.
+inline Picture run(std::string_view name, const Mosaic& mosaic)
 {
+    const interface::Function& function = *interface::findFunction(name);
     const auto [width, height] = mosaic.size;
     TestImage source, destination;
     source.arrange(*function.source, mosaic.size, mosaic.size, {}, StepArguments::one);
@@ -33,7 +33,12 @@ inline Picture run(const interface::Function& function, const Mosaic& mosaic)
     reference::Pixels from(*function.source, source.image(), mosaic.size);
     for (int y = 0; y < height; ++y)
         for (int x = 0; x < width; ++x) from.put(0, x, y, mosaic(x, y));
-    EXPECT_EQ(function(source.image(), destination.image(), mosaic.size, {.grid = mosaic.grid}), zorStatusOk);
+    for (const Tier tier : tiersHere()) {
+        const OnTier chosen(tier);
+        EXPECT_EQ(function(source.image(), destination.image(), mosaic.size, {.grid = mosaic.grid}), zorStatusOk);
+        if (tier == tiersHere().front()) destination.copyToShadow();
+        EXPECT_FALSE(destination.difference()) << nameOf(tier);
+    }
     Picture picture{mosaic.size};
     const reference::Pixels to(*function.destination, destination.image(), mosaic.size);
     for (int y = 0; y < height; ++y)
@@ -50,9 +55,5 @@ template <class Sample> Mosaic mosaicOf(ZorSize size, ZorBayerGrid grid, int max
         for (int x = 0; x < size.width; ++x) mosaic(x, y) = sample(x, y);
     return mosaic;
 }
-
-class OnEveryTier : public testing::TestWithParam<Tier> {
-    OnTier chosen{GetParam()};
-};
 
 } // namespace zorcc::test

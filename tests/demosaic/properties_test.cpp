@@ -8,69 +8,62 @@
 namespace zorcc::test {
 namespace {
 
-class DemosaicProperties : public testing::TestWithParam<reference::Case> {
-protected:
-    const interface::Function& function = functionOf(GetParam());
-    const int maximum = function.source->sample == interface::Sample::u8 ? 255 : 65535;
-    std::mt19937 random{1};
+int maximumOf(const reference::Case& c) { return functionOf(c).source->sample == interface::Sample::u8 ? 255 : 65535; }
 
-    Mosaic anyMosaic(ZorSize size, ZorBayerGrid grid)
-    {
-        return mosaicOf(size, grid, maximum,
-                        [&](int, int) { return static_cast<int>(random() & static_cast<unsigned>(maximum)); });
-    }
-};
-
-TEST_P(DemosaicProperties, FlatStaysFlat)
+Mosaic anyMosaic(ZorSize size, ZorBayerGrid grid, int maximum)
 {
-    for (const ZorBayerGrid grid : grids)
-        for (const int level : {0, 1, 2, 77, maximum / 2, maximum - 1, maximum}) {
-            const Picture picture = run(function, mosaicOf({37, 23}, grid, maximum, [&](int, int) { return level; }));
-            for (const int sample : picture.samples) ASSERT_EQ(sample, level) << "grid " << grid;
-        }
+    static std::mt19937 random(1);
+    return mosaicOf(size, grid, maximum, [&](int, int) { return static_cast<int>(random()) & maximum; });
+}
+
+TEST(DemosaicProperties, FlatStaysFlat)
+{
+    for (const reference::Case& c : familyCases())
+        for (const ZorBayerGrid grid : grids)
+            for (const int level : {0, 1, 2, 77, maximumOf(c) / 2, maximumOf(c) - 1, maximumOf(c)})
+                EXPECT_EQ(run(c.name, mosaicOf({37, 23}, grid, maximumOf(c), [&](int, int) { return level; })).samples,
+                          std::vector<int>(37 * 23 * 3, level))
+                    << c.name << ", grid " << grid;
 }
 
 // Without its first column a BGGR mosaic is a GBRG one, without its first row a GRBG one; far from the edges no pixel
 // knows.
-TEST_P(DemosaicProperties, GridMovesWithTheImage)
+TEST(DemosaicProperties, GridMovesWithTheImage)
 {
-    const Mosaic whole = anyMosaic({70, 60}, zorBayerBGGR);
-    const Picture expected = run(function, whole);
-    struct {
+    const struct {
         int x, y;
         ZorBayerGrid grid;
-    } const cuts[] = {{1, 0, zorBayerGBRG}, {0, 1, zorBayerGRBG}, {1, 1, zorBayerRGGB}};
-    for (const auto& cut : cuts) {
-        const Picture picture = run(function, mosaicOf({70 - cut.x, 60 - cut.y}, cut.grid, maximum,
-                                                       [&](int x, int y) { return whole(x + cut.x, y + cut.y); }));
-        for (int y = 10; y < 50; ++y)
-            for (int x = 10; x < 59; ++x) ASSERT_EQ(at(picture, x, y), at(expected, x + cut.x, y + cut.y));
+    } cuts[] = {{1, 0, zorBayerGBRG}, {0, 1, zorBayerGRBG}, {1, 1, zorBayerRGGB}};
+    for (const reference::Case& c : familyCases()) {
+        const Mosaic whole = anyMosaic({70, 60}, zorBayerBGGR, maximumOf(c));
+        const Picture expected = run(c.name, whole);
+        for (const auto& cut : cuts) {
+            const Picture picture = run(c.name, mosaicOf({70 - cut.x, 60 - cut.y}, cut.grid, whole.maximum,
+                                                         [&](int x, int y) { return whole(x + cut.x, y + cut.y); }));
+            for (int y = 10; y < 50; ++y)
+                for (int x = 10; x < 59; ++x) ASSERT_EQ(at(picture, x, y), at(expected, x + cut.x, y + cut.y));
+        }
     }
 }
 
-TEST_P(DemosaicProperties, SitesKeepTheirSamples)
+TEST(DemosaicProperties, SitesKeepTheirSamples)
 {
-    for (const ZorBayerGrid grid : grids) {
-        const Mosaic mosaic = anyMosaic({45, 31}, grid);
-        const Picture picture = run(function, mosaic);
-        for (int y = 0; y < 31; ++y)
-            for (int x = 0; x < 45; ++x) ASSERT_EQ(picture(x, y, mosaic.colour(x, y)), mosaic(x, y));
-    }
+    for (const reference::Case& c : familyCases())
+        for (const ZorBayerGrid grid : grids) {
+            const Mosaic mosaic = anyMosaic({45, 31}, grid, maximumOf(c));
+            const Picture picture = run(c.name, mosaic);
+            for (int y = 0; y < 31; ++y)
+                for (int x = 0; x < 45; ++x) ASSERT_EQ(picture(x, y, mosaic.colour(x, y)), mosaic(x, y)) << c.name;
+        }
 }
 
-INSTANTIATE_TEST_SUITE_P(Functions, DemosaicProperties, testing::ValuesIn(familyCases().begin(), familyCases().end()),
-                         caseName<testing::TestParamInfo<reference::Case>>);
-
-TEST(DemosaicDepths, SameOf8And16Bits)
+TEST(DemosaicProperties, SameOf8And16Bits)
 {
-    std::mt19937 random(2);
-    const interface::Function &bytes = functionOf(familyCases()[0]), &words = functionOf(familyCases()[1]);
     for (const ZorBayerGrid grid : grids) {
-        const Mosaic mosaic =
-            mosaicOf({301, 97}, grid, 255, [&](int, int) { return static_cast<int>(random() & 255); });
-        const Picture a = run(bytes, mosaic),
-                      b = run(words,
-                              mosaicOf(mosaic.size, grid, 65535, [&](int x, int y) { return 257 * mosaic(x, y); }));
+        const Mosaic bytes = anyMosaic({301, 97}, grid, 255);
+        const auto asWord = [&](int x, int y) { return 257 * bytes(x, y); };
+        const Picture a = run(familyCases()[0].name, bytes),
+                      b = run(familyCases()[1].name, mosaicOf(bytes.size, grid, 65535, asWord));
         for (std::size_t i = 0; i < a.samples.size(); ++i)
             ASSERT_LE(std::abs(b.samples[i] - 257 * a.samples[i]), 2 * 257) << "sample " << i;
     }

@@ -11,18 +11,19 @@ int liveBlocks();     // blocks that were allocated and not freed
 int lastAllocation(); // bytes that zorMalloc was asked for last
 
 // While this lives, allocation number `index` from now on, and no other, fails; 0 is the next one.
-class AllocationFailure {
-public:
+struct AllocationFailure {
     explicit AllocationFailure(int index);
     ~AllocationFailure();
 };
 
 // While this lives, the processor's largest cache has the given size, or the question for it fails.
-class CacheOf {
-public:
-    explicit CacheOf(int bytes, ZorStatus status = zorStatusOk);
+struct CacheOf {
+    explicit CacheOf(int size, ZorStatus result = zorStatusOk);
     ~CacheOf();
-    int timesAsked() const;
+
+    const int bytes;
+    const ZorStatus status;
+    int timesAsked = 0;
 };
 
 } // namespace zorcc::test

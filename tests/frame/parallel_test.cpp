@@ -10,6 +10,7 @@
 #include <mutex>
 #include <set>
 #include <thread>
+#include <utility>
 #include <vector>
 
 #include "zorcore.h"
@@ -25,29 +26,23 @@ struct Pattern {
     const char* name;
     void (*run)(int width, int height, const Take& take);
 };
-
-void runRows(int width, int height, const Take& take)
-{
-    rowsAboveThreshold(width, height, [&](int y) { take(y, 1, {y}); });
-}
-void runAlways(int, int height, const Take& take)
-{
-    rowsAlways(height, [&](int y) { take(y, 1, {y}); });
-}
-void runBands(int width, int height, const Take& take)
-{
-    bandsAboveThreshold(width, height, [&](int first, int count) { take(first, count, {first, count}); });
-}
-void runGroups(int width, int height, const Take& take)
-{
-    groupsAboveThreshold(width, height, [&](GroupBand band) {
-        const int first = 4 * band.firstGroup, count = band.isLast ? height - first : 4 * band.groupCount;
-        take(first, count, {band.firstGroup, band.groupCount, band.isFirst, band.isLast});
-    });
-}
-
-constexpr Pattern rows{"rows", runRows}, always{"always", runAlways}, bands{"bands", runBands},
-    groups{"groups", runGroups}, patterns[] = {rows, always, bands, groups};
+const Pattern rows{"rows", [](int width, int height, auto& take) {
+                       rowsAboveThreshold(width, height, [&](int y) { take(y, 1, {y}); });
+                   }};
+const Pattern always{"always",
+                     [](int, int height, auto& take) { rowsAlways(height, [&](int y) { take(y, 1, {y}); }); }};
+const Pattern bands{
+    "bands", [](int width, int height, auto& take) {
+        bandsAboveThreshold(width, height, [&](int first, int count) { take(first, count, {first, count}); });
+    }};
+const Pattern groups{"groups", [](int width, int height, auto& take) {
+                         groupsAboveThreshold(width, height, [&](GroupBand band) {
+                             const int first = 4 * band.firstGroup;
+                             take(first, band.isLast ? height - first : 4 * band.groupCount,
+                                  {band.firstGroup, band.groupCount, band.isFirst, band.isLast});
+                         });
+                     }};
+const Pattern patterns[] = {rows, always, bands, groups};
 
 struct Observation {
     std::vector<int> times, member; // of each row
@@ -56,8 +51,9 @@ struct Observation {
     bool forked = false;
 };
 
-Observation observe(const Pattern& pattern, int width, int height)
+Observation observe(const Pattern& pattern, int threads, int width, int height)
 {
+    EXPECT_EQ(zorSetNumThreads(threads), zorStatusOk);
     Observation seen{std::vector<int>(height), std::vector<int>(height), {}, {}};
     std::mutex mutex;
     pattern.run(width, height, [&](int first, int count, const Share& share) {
@@ -73,88 +69,83 @@ Observation observe(const Pattern& pattern, int width, int height)
     return seen;
 }
 
-void expectEveryRowOnce(int width, int height)
+void expectEveryRowOnce(int threads, int width, int height)
 {
     for (const Pattern& pattern : patterns)
-        EXPECT_EQ(observe(pattern, width, height).times, std::vector<int>(height, 1))
-            << pattern.name << ", width " << width << ", " << ownGetNumThreads() << " threads";
+        EXPECT_EQ(observe(pattern, threads, width, height).times, std::vector<int>(height, 1))
+            << pattern.name << ", width " << width << ", " << threads << " threads";
 }
+
+struct Parallel : testing::Test {
+    const int levels = omp_get_max_active_levels();
+    ~Parallel() override
+    {
+        omp_set_dynamic(0);
+        omp_set_max_active_levels(levels);
+    }
+};
 
 // The runtime makes teams as large as asked for, as large as it sees fit up to that, or none.
-TEST(Parallel, EveryRowOnceWhateverTheTeam)
+TEST_F(Parallel, EveryRowOnceWhateverTheTeam)
 {
-    const int levels = omp_get_max_active_levels();
-    const struct {
-        bool dynamic;
-        int levels;
-    } teams[] = {{false, levels}, {true, levels}, {false, 0}};
-    for (const auto& team : teams) {
-        omp_set_dynamic(team.dynamic);
-        omp_set_max_active_levels(team.levels);
-        for (int threads = 1; threads <= 8; ++threads) {
-            ASSERT_EQ(zorSetNumThreads(threads), zorStatusOk);
-            for (const int width : {1, 64, 128, 192, 5000})
-                for (const int height :
-                     {1, 2, 3, 4, 5, 7, 8, 9, 15, 16, 17, 20, 64, 65, 128, 129, 130, 131, 132, 133, 191, 192, 193})
-                    expectEveryRowOnce(width, height);
+    for (const bool dynamic : {false, true})
+        for (const int nested : {levels, 0}) {
+            omp_set_dynamic(dynamic);
+            omp_set_max_active_levels(nested);
+            for (int threads = 1; threads <= 8; ++threads)
+                for (const int width : {1, 64, 128, 192, 5000})
+                    for (const int height :
+                         {1, 2, 3, 4, 5, 7, 8, 9, 15, 16, 17, 20, 64, 65, 128, 129, 130, 131, 132, 133, 191, 192, 193})
+                        expectEveryRowOnce(threads, width, height);
         }
-    }
-    omp_set_dynamic(0);
-    omp_set_max_active_levels(levels);
 }
 
-TEST(Parallel, EveryRowOnceFromSeveralThreadsAtOnce)
+TEST_F(Parallel, EveryRowOnceFromSeveralThreadsAtOnce)
 {
-    ASSERT_EQ(zorSetNumThreads(4), zorStatusOk);
     std::vector<std::thread> callers;
     for (int i = 0; i < 4; ++i)
         callers.emplace_back([] {
-            for (int height = 192; height < 200; ++height) expectEveryRowOnce(192, height);
+            for (int height = 192; height < 200; ++height) expectEveryRowOnce(4, 192, height);
         });
     for (std::thread& caller : callers) caller.join();
 }
 
-TEST(ParallelSections, EachOnceAndOnAThreadOfItsOwn)
+TEST_F(Parallel, SectionsEachOnceAndOnAThreadOfItsOwn)
 {
     ASSERT_EQ(zorSetNumThreads(1), zorStatusOk); // of no consequence: the caller says how many
     for (int count = 1; count <= 4; ++count) {
-        std::vector<int> times(count);
-        std::set<std::thread::id> threads;
-        std::mutex mutex;
+        std::vector<std::thread::id> threadOf(count);
         sections(count, [&](int index) {
-            const std::lock_guard lock(mutex);
-            ++times.at(index);
-            threads.insert(std::this_thread::get_id());
+            EXPECT_EQ(std::exchange(threadOf.at(index), std::this_thread::get_id()), std::thread::id{});
         });
-        EXPECT_EQ(times, std::vector<int>(count, 1));
+        const std::set<std::thread::id> threads(threadOf.begin(), threadOf.end());
         EXPECT_EQ(static_cast<int>(threads.size()), count);
+        EXPECT_FALSE(threads.contains({}));
     }
 }
 
-TEST(Parallel, StaysOnTheCallingThreadInsideAParallelRegion)
+TEST_F(Parallel, StaysOnTheCallingThreadInsideAParallelRegion)
 {
     ASSERT_EQ(zorSetNumThreads(4), zorStatusOk);
     EXPECT_EQ(threadsHere(), 4);
     omp_set_max_active_levels(2); // so that the runtime would fork again
-    std::atomic<int> inside = 0, done = 0, strangers = 0;
+    std::atomic<int> inside = 0, calls = 0, strangers = 0;
 #pragma omp parallel num_threads(2)
     {
         inside += threadsHere();
-        const std::thread::id self = std::this_thread::get_id();
-        const auto look = [&] { strangers += std::this_thread::get_id() != self; };
-        sections(3, [&](int) {
-            ++done;
-            look();
-        });
-        for (const Pattern& pattern : patterns) pattern.run(1000, 1000, [&](int, int, const Share&) { look(); });
+        const auto look = [&, self = std::this_thread::get_id()](auto...) {
+            ++calls;
+            strangers += std::this_thread::get_id() != self;
+        };
+        sections(3, look);
+        for (const Pattern& pattern : patterns) pattern.run(1000, 1000, look);
     }
-    omp_set_max_active_levels(1);
     EXPECT_EQ(inside, 2);
-    EXPECT_EQ(done, 6);
+    EXPECT_EQ(calls, 2 * (3 + 1000 + 1000 + 1 + 1)); // sections, rows twice, one band, one band of groups
     EXPECT_EQ(strangers, 0);
 }
 
-TEST(ParallelThreshold, ForksFromItsSizeOn)
+TEST_F(Parallel, ForksFromItsSizeOn)
 {
     const struct {
         const Pattern& pattern;
@@ -172,8 +163,7 @@ TEST(ParallelThreshold, ForksFromItsSizeOn)
         {groups, 1, 999, 999, false},
     };
     for (const auto& c : cases) {
-        ASSERT_EQ(zorSetNumThreads(c.threads), zorStatusOk);
-        const Observation seen = observe(c.pattern, c.width, c.height);
+        const Observation seen = observe(c.pattern, c.threads, c.width, c.height);
         EXPECT_EQ(seen.forked, c.forks) << c.pattern.name << " " << c.width << " x " << c.height;
         if (!c.forks) {
             EXPECT_EQ(seen.threads, std::set{std::this_thread::get_id()});
@@ -183,12 +173,11 @@ TEST(ParallelThreshold, ForksFromItsSizeOn)
     }
 }
 
-TEST(ParallelRows, MembersTakeContiguousBandsInTheirOrder)
+TEST_F(Parallel, MembersTakeContiguousBandsInTheirOrder)
 {
     for (const Pattern& pattern : {rows, always})
         for (int threads = 2; threads <= 5; ++threads) {
-            ASSERT_EQ(zorSetNumThreads(threads), zorStatusOk);
-            const std::vector<int> member = observe(pattern, 100, 203).member;
+            const std::vector<int> member = observe(pattern, threads, 100, 203).member;
             EXPECT_TRUE(std::is_sorted(member.begin(), member.end())) << pattern.name;
             for (int m = 0; m < threads; ++m) {
                 const auto count = std::count(member.begin(), member.end(), m);
@@ -197,7 +186,7 @@ TEST(ParallelRows, MembersTakeContiguousBandsInTheirOrder)
         }
 }
 
-TEST(ParallelBands, SharesByHand)
+TEST_F(Parallel, SharesByHand)
 {
     const struct {
         const Pattern& pattern;
@@ -222,15 +211,11 @@ TEST(ParallelBands, SharesByHand)
         {groups, 4, 999, 256, {{0, 15, 1, 0}, {15, 15, 0, 0}, {30, 15, 0, 0}, {45, 19, 0, 1}}},
         {groups, 40, 128, 131, {{0, 32, 1, 1}}}, // quotient 0
     };
-    for (const auto& c : cases) {
-        ASSERT_EQ(zorSetNumThreads(c.threads), zorStatusOk);
-        EXPECT_EQ(observe(c.pattern, c.width, c.height).shares, c.shares)
+    for (const auto& c : cases)
+        EXPECT_EQ(observe(c.pattern, c.threads, c.width, c.height).shares, c.shares)
             << c.width << " x " << c.height << ", " << c.threads << " threads";
-    }
-    const int levels = omp_get_max_active_levels();
     omp_set_max_active_levels(0);
-    EXPECT_EQ(observe(groups, 128, 129).shares, (std::multiset<Share>{{0, 32, 1, 1}}));
-    omp_set_max_active_levels(levels);
+    EXPECT_EQ(observe(groups, 3, 128, 129).shares, (std::multiset<Share>{{0, 32, 1, 1}}));
 }
 
 } // namespace

@@ -2,105 +2,88 @@
 #include "tests/harness/argument_checks.h"
 
 #include <algorithm>
+#include <bit>
 #include <climits>
+#include <functional>
 #include <vector>
 
 #include "tests/harness/contents.h"
 
 namespace zorcc::test {
 
+using interface::Call;
 using interface::Function;
+using reference::Checks;
+using testing::AssertionFailure;
+using testing::AssertionResult;
 
 namespace {
 
 constexpr ZorSize goodSize{40, 16}; // whole blocks of every function
 
-// One faulty argument. The faults of a function stand in the order of its checks.
 struct Fault {
-    enum Kind { nullImage, badSize, badStep, nullPlane, badGrid } kind;
-    bool ofDestination = false;
-    int plane = 0;
-
-    ZorStatus status() const
-    {
-        return kind == badSize   ? zorStatusBadSize
-               : kind == badStep ? zorStatusBadStep
-               : kind == badGrid ? zorStatusBadArgument
-                                 : zorStatusNullPointer;
-    }
+    ZorStatus status;
+    std::function<void(Call& call, ZorSize badSize)> spoil;
 };
 
+// The faults of a function in the order of its checks.
 std::vector<Fault> faultsOf(const reference::Case& c, const Function& function)
 {
     std::vector<Fault> faults;
-    // The first plane of separate pointers stands for the image.
-    const auto addPlanes = [&](bool ofDestination) {
-        const bool array = ofDestination ? function.signature.destinationArray : function.signature.sourceArray;
-        for (int p = !array; p < (ofDestination ? function.destination : function.source)->planes; ++p)
-            faults.push_back({Fault::nullPlane, ofDestination, p});
+    const auto addImage = [&](interface::Image Call::*image, bool array) {
+        faults.push_back({zorStatusNullPointer, [=](Call& call, ZorSize) {
+                              if (array)
+                                  call.nullArrays[image == &Call::destination] = true;
+                              else
+                                  (call.*image).plane[0] = nullptr;
+                          }});
     };
-    faults.push_back({Fault::nullImage, false});
-    if (c.checks == reference::Checks::stepsFirst) {
-        addPlanes(false);
-        faults.push_back({Fault::nullImage, true});
-        addPlanes(true);
-        faults.insert(faults.end(), {{Fault::badStep, false}, {Fault::badStep, true}, {Fault::badSize}});
-    } else {
-        faults.push_back({Fault::nullImage, true});
-        if (c.checks == reference::Checks::sizeFirst) faults.push_back({Fault::badSize});
-        addPlanes(false);
-        addPlanes(true);
-        if (c.checks == reference::Checks::pointersFirst) faults.push_back({Fault::badSize});
-        if (c.demosaic) faults.push_back({Fault::badGrid});
+    // The first of separate pointers stands for the image.
+    const auto addPlanes = [&](interface::Image Call::*image, bool array, int planes) {
+        for (int p = !array; p < planes; ++p)
+            faults.push_back({zorStatusNullPointer, [=](Call& call, ZorSize) { (call.*image).plane[p] = nullptr; }});
+    };
+    const auto addStep = [&](interface::Image Call::*image) {
+        faults.push_back({zorStatusBadStep,
+                          [=](Call& call, ZorSize bad) { (call.*image).step[0] = std::min(bad.width, bad.height); }});
+    };
+    const auto addSize = [&] {
+        faults.push_back({zorStatusBadSize, [](Call& call, ZorSize bad) { call.size = bad; }});
+    };
+
+    const auto& signature = function.signature;
+    addImage(&Call::source, signature.sourceArray);
+    if (c.checks == Checks::stepsFirst) addPlanes(&Call::source, signature.sourceArray, function.source->planes);
+    addImage(&Call::destination, signature.destinationArray);
+    if (c.checks == Checks::sizeFirst) addSize();
+    if (c.checks != Checks::stepsFirst) addPlanes(&Call::source, signature.sourceArray, function.source->planes);
+    addPlanes(&Call::destination, signature.destinationArray, function.destination->planes);
+    if (c.checks == Checks::stepsFirst) {
+        addStep(&Call::source);
+        addStep(&Call::destination);
     }
+    if (c.checks != Checks::sizeFirst) addSize();
+    if (c.demosaic)
+        faults.push_back(
+            {zorStatusBadArgument, [](Call& call, ZorSize bad) { call.extra.grid = bad.width < 0 ? -1 : 4; }});
     return faults;
 }
 
-struct Images {
-    TestImage source, destination;
-
-    explicit Images(const Function& function)
-    {
-        source.arrange(*function.source, goodSize, goodSize, {}, sourceSteps(function.signature));
-        fill(source, Contents::random, 1);
-        source.copyToShadow();
-        destination.arrange(*function.destination, goodSize, goodSize, {}, destinationSteps(function.signature));
-        destination.fillPattern(2);
-        destination.copyToShadow();
-    }
-};
-
-// Calls with the faults whose bits are set.
-ZorStatus call(const Function& function, const Images& images, const std::vector<Fault>& faults, unsigned chosen,
-               ZorSize badSize)
+Images filled(const Function& function)
 {
-    interface::Call arguments {
-        images.source.image(), images.destination.image(), goodSize, function.withScratch({}, goodSize)
-    };
-    for (std::size_t i = 0; i < faults.size(); ++i) {
-        if ((chosen >> i & 1) == 0) continue;
-        const Fault& fault = faults[i];
-        interface::Image& image = fault.ofDestination ? arguments.destination : arguments.source;
-        const bool array = fault.ofDestination ? function.signature.destinationArray : function.signature.sourceArray;
-        if (fault.kind == Fault::badSize)
-            arguments.size = badSize;
-        else if (fault.kind == Fault::badStep)
-            image.step[0] = std::min(badSize.width, badSize.height);
-        else if (fault.kind == Fault::badGrid)
-            arguments.extra.grid = badSize.width < 0 ? -1 : 4;
-        else if (fault.kind == Fault::nullImage && array)
-            arguments.nullArrays[fault.ofDestination] = true;
-        else
-            image.plane[fault.plane] = nullptr;
-    }
-    return function.bound(arguments);
+    Images images(function, goodSize);
+    fill(images.source, Contents::random, 1);
+    images.source.copyToShadow();
+    images.destination.fillPattern(2);
+    images.destination.copyToShadow();
+    return images;
 }
 
 } // namespace
 
-testing::AssertionResult checkFaultyArguments(const reference::Case& c, const Function& function)
+AssertionResult checkFaultyArguments(const reference::Case& c, const Function& function)
 {
-    const Images images(function);
+    const Images images = filled(function);
     const std::vector<Fault> faults = faultsOf(c, function);
     const ZorSize badSizes[] = {{0, 4},
                                 {40, 0},
@@ -113,28 +96,29 @@ testing::AssertionResult checkFaultyArguments(const reference::Case& c, const Fu
                                 {40, c.minimum.height - 1}};
     for (unsigned chosen = 1; chosen < 1u << faults.size(); ++chosen)
         for (const ZorSize badSize : badSizes) {
-            const Fault& first = faults[static_cast<std::size_t>(__builtin_ctz(chosen))];
-            const ZorStatus status = call(function, images, faults, chosen, badSize);
-            auto failure = testing::AssertionFailure()
-                           << function.name << ", faults (bits, in the order of checks) " << chosen << ", bad size "
-                           << badSize.width << "x" << badSize.height << ": ";
-            if (status != first.status()) return failure << "status " << status << ", not " << first.status();
+            Call call{images.source.image(), images.destination.image(), goodSize, function.withScratch({}, goodSize)};
+            for (std::size_t i = 0; i < faults.size(); ++i)
+                if (chosen >> i & 1) faults[i].spoil(call, badSize);
+            const ZorStatus status = function.bound(call);
+            const ZorStatus expected = faults[static_cast<std::size_t>(std::countr_zero(chosen))].status;
+            auto failure = AssertionFailure() << function.name << ", faults (bits, in the order of checks) " << chosen
+                                              << ", bad size " << badSize.width << "x" << badSize.height << ": ";
+            if (status != expected) return failure << "status " << status << ", not " << expected;
             if (const auto d = images.destination.difference())
-                return failure << "written in spite of the error: " << describe(*d);
-            if (const auto d = images.source.difference()) return failure << "source changed: " << describe(*d);
+                return failure << "written in spite of the error: " << *d;
+            if (const auto d = images.source.difference()) return failure << "source changed: " << *d;
         }
     return testing::AssertionSuccess();
 }
 
-testing::AssertionResult checkOddSizes(const reference::Case& c, const Function& function)
+AssertionResult checkOddSizes(const reference::Case& c, const Function& function)
 {
-    const Images images(function);
+    const Images images = filled(function);
     for (int width : {40, 39, 38, 36, 4, 3, 2, 1})
         for (int height : {16, 15, 12, 9, 8, 7, 6, 4, 3, 2, 1}) {
             const ZorStatus status = function(images.source.image(), images.destination.image(), {width, height});
             if (status != reference::statusOf(c, {width, height}))
-                return testing::AssertionFailure()
-                       << function.name << ", " << width << "x" << height << ": status " << status;
+                return AssertionFailure() << function.name << ", " << width << "x" << height << ": status " << status;
         }
     return testing::AssertionSuccess();
 }

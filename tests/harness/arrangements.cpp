@@ -2,7 +2,6 @@
 #include "tests/harness/arrangements.h"
 
 #include <cstdlib>
-#include <iterator>
 
 namespace zorcc::test {
 
@@ -17,32 +16,28 @@ std::uint32_t baseSeed()
 
 Arrangement Arrangements::any(Steps steps, Edge edge)
 {
-    Arrangement a{steps, heads(), edge};
-    if (heads()) {
-        a.moved = static_cast<int>(random() % 64);
-        a.movedPlane = static_cast<int>(random() % (interface::maxPlanes + 1)) - 1;
-    }
-    return a;
+    const bool upwards = random.below(2), moves = random.below(2);
+    if (!moves) return {steps, upwards, edge};
+    return {steps, upwards, edge, random.below(64), random.below(interface::maxPlanes + 1) - 1};
 }
 
 ZorRect Arrangements::anyRegion(ZorSize size)
 {
-    if (size.width < 1 || size.height < 1 || heads()) return {0, 0, size.width, size.height};
-    const int x = below(size.width), y = below(size.height);
-    return {x, y, 1 + below(size.width - x + 3), 1 + below(size.height - y + 3)};
+    if (size.width < 1 || size.height < 1 || random.below(2)) return {0, 0, size.width, size.height};
+    const int x = random.below(size.width), y = random.below(size.height);
+    return {x, y, 1 + random.below(size.width - x + 3), 1 + random.below(size.height - y + 3)};
 }
 
 testing::AssertionResult Arrangements::check(Checker& checker, ZorSize size)
 {
-    const bool regions = checker.expected().demosaic;
-    const Contents contentsOfSize = anyContents();
+    const Contents contentsOfSize = random.anyOf(allContents);
     const std::uint32_t seedOfSize = anySeed();
     for (const Steps steps : ordinarySteps)
         for (const Edge edge : edges) {
-            const Arrangement one = any(steps, edge), other = any(ordinarySteps[below(4)], edges[heads()]);
-            for (Trial trial : {Trial{size, one, other, anyContents(), anySeed()},
+            const Arrangement one = any(steps, edge), other = any(random.anyOf(ordinarySteps), random.anyOf(edges));
+            for (Trial trial : {Trial{size, one, other, random.anyOf(allContents), anySeed()},
                                 Trial{size, other, one, Contents::random, anySeed()}}) {
-                if (regions) {
+                if (checker.expected().demosaic) {
                     trial.contents = contentsOfSize;
                     trial.seed = seedOfSize;
                     trial.region = anyRegion(size);

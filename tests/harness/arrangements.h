@@ -2,13 +2,13 @@
 // Ways to lay out images, drawn at random: every step mode and both edges for every size.
 #pragma once
 
-#include <random>
-
 #include "tests/harness/checker.h"
+#include "tests/harness/random.h"
 
 namespace zorcc::test {
 
-// Of every random choice in the tests: changes from run to run unless ZORCC_TEST_SEED is set. Failures print it.
+// The seed of every random choice in the tests; it changes from run to run unless ZORCC_TEST_SEED is set. Failures
+// print it.
 std::uint32_t baseSeed();
 
 // Those that any function with steps takes.
@@ -17,7 +17,7 @@ inline constexpr Steps ordinarySteps[] = {Steps::tight, Steps::sample, Steps::wi
 class Arrangements {
 public:
     Arrangement any(Steps steps, Edge edge);
-    std::uint32_t anySeed() { return static_cast<std::uint32_t>(random()); }
+    std::uint32_t anySeed() { return random(); }
 
     // A rectangle with pixels inside the image, which may reach over its right and lower edges; sometimes all of it.
     ZorRect anyRegion(ZorSize size);
@@ -27,11 +27,7 @@ public:
     [[nodiscard]] testing::AssertionResult check(Checker& checker, ZorSize size);
 
 private:
-    std::mt19937 random{baseSeed()};
-
-    int below(int count) { return static_cast<int>(random() % static_cast<unsigned>(count)); }
-    Contents anyContents() { return allContents[below(std::size(allContents))]; }
-    bool heads() { return random() % 2 != 0; }
+    Random random{baseSeed()};
 };
 
 } // namespace zorcc::test

@@ -3,16 +3,11 @@
 
 #include <fnmatch.h>
 
-#include <iterator>
-#include <map>
-#include <random>
-#include <vector>
-
+#include "tests/harness/random.h"
 #include "tests/reference/chromasampling.h"
 #include "tests/reference/hexcone.h"
+#include "tests/reference/lumachroma.h"
 #include "tests/reference/reduce.h"
-#include "tests/reference/ycbcr.h"
-#include "tests/reference/yuv.h"
 
 namespace zorcc::test {
 
@@ -27,14 +22,13 @@ namespace {
 // Every method; levels that divide white and that do not, few and many.
 Extra anyReduction(const Function& function, std::uint32_t seed)
 {
-    std::minstd_rand random(seed + 1);
-    const auto below = [&](int count) { return static_cast<int>(random() / 7 % static_cast<unsigned>(count)); };
+    Random random(~seed); // not the numbers of the contents
     constexpr int usual[] = {2, 3, 4, 5, 6, 8, 15, 16, 17, 18, 52, 86, 103, 255, 256};
     constexpr int noises[] = {1, 37, 50, 99, 100};
     Extra extra;
-    extra.method = static_cast<ZorDitherMethod>(below(zorDitherMethodOrdered + 1));
-    extra.noise = below(2) ? 0 : noises[below(static_cast<int>(std::size(noises)))];
-    extra.levels = below(2) ? usual[below(static_cast<int>(std::size(usual)))] : 2 + below(mostLevels(function) - 1);
+    extra.method = static_cast<ZorDitherMethod>(random.below(zorDitherMethodOrdered + 1));
+    extra.noise = random.below(2) ? 0 : random.anyOf(noises);
+    extra.levels = random.below(2) ? random.anyOf(usual) : 2 + random.below(mostLevels(function) - 1);
     return extra;
 }
 
@@ -48,39 +42,37 @@ Extra anyGrid(const Function&, std::uint32_t seed)
 
 constexpr Case yuv[] = {
     {"zoriRGBToYUV_8u_P3R", rgbToYuvMatrix},
-    {"zoriRGBToYUV_*", rgbToYuv},
-    {"zoriYUVToRGB_8u_P3*", yuvToRgbPlanarWeights},
-    {"zoriYUVToRGB_*", yuvToRgb},
-    {"zori*ToYUV422_*", rgbToYuvPairs},
-    {"zoriRGBToYUV420_8u_C3*", rgbToYuvBlocksQ14, OddSize::warning},
-    {"zori*ToYUV420_*", rgbToYuvBlocksQ16, OddSize::warning},
-    {"zoriYUV422To*_P3AC4R", subsampledYuvToRgbRounded},
-    {"zoriYUV422To*", subsampledYuvToRgb},
-    {"zoriYUV420To*_P3AC4R", subsampledYuvToRgbRounded, OddSize::warning},
-    {"zoriYUV420To*", subsampledYuvToRgb, OddSize::warning},
+    {"zoriRGBToYUV420_8u_C3*", rgbToYuvQ14, OddSize::warning},
+    {"zori*ToYUV420_*", rgbToYuv, OddSize::warning},
+    {"zori*ToYUV*", rgbToYuv},
+    {"zoriYUVToRGB_8u_P3*", toRgb<yuvPlanarWeights>},
+    {"zoriYUVToRGB_*", toRgb<yuvWeights>},
+    {"zoriYUV422To*_P3AC4R", toRgb<yuvRoundedWeights>},
+    {"zoriYUV422To*", toRgb<yuvWeights>},
+    {"zoriYUV420To*_P3AC4R", toRgb<yuvRoundedWeights>, OddSize::warning},
+    {"zoriYUV420To*", toRgb<yuvWeights>, OddSize::warning},
 };
 
 constexpr Case bt601[] = {
-    {"zoriRGBToYCbCr_*", rgbToBt601},
-    {"zoriRGBToYCbCr422_*", rgbToBt601Pairs},
-    {"zoriRGBToYCbCr420_*", rgbToBt601Blocks, OddSize::warning},
-    {"zoriYCbCrToRGB_8u_P3C*", bt601ToRgbPlanarWeights},
-    {"zoriYCbCrToRGB_*", bt601ToRgb},
-    {"zoriYCbCr422To*_C2*", bt601ToRgbPackedConstants},
-    {"zoriYCbCr422To*_P3*", bt601ToRgbPlanarWeights},
+    {"zoriRGBToYCbCr420_*", rgbToBt601, OddSize::warning},
+    {"zoriRGBToYCbCr*", rgbToBt601},
+    {"zoriYCbCrToRGB_8u_P3C*", toRgb<bt601PlanarWeights>},
+    {"zoriYCbCrToRGB_*", toRgb<bt601Weights>},
+    {"zoriYCbCr422To*_C2*", toRgb<bt601PackedWeights>},
+    {"zoriYCbCr422To*_P3*", toRgb<bt601PlanarWeights>},
     {"zori*420ToBGR_Filter_*", bt601ToRgbFiltered, OddSize::warning},
-    {"zori*420To*", bt601ToRgb, OddSize::warning},
-    {"zoriYCbCr411To*", bt601ToRgb411},
+    {"zori*420To*", toRgb<bt601Weights>, OddSize::warning},
+    {"zoriYCbCr411To*", toRgb<bt601Weights411>},
 };
 
 constexpr Case bt709[] = {
-    {"zoriBGRTo*420_709CSC_*", rgbToBt709Blocks, OddSize::warning},
-    {"zoriYCbCr420To*_709CSC_*", bt709ToRgb, OddSize::warning},
-    {"zoriYCbCrTo*_709CSC_*", bt709ToRgb},
-    {"zoriBGRTo*420_709HDTV_*", rgbToBt709FullBlocks, OddSize::warning},
-    {"zoriYCbCr420To*_709HDTV_*", bt709FullToRgb, OddSize::warning},
-    {"zoriBGRTo*422_709HDTV_*", rgbToBt709FullPairs},
-    {"zoriCbYCr422To*_709HDTV_*", bt709FullToRgb},
+    {"zoriBGRTo*420_709CSC_*", rgbToBt709, OddSize::warning},
+    {"zoriYCbCr420To*_709CSC_*", toRgb<bt709Weights>, OddSize::warning},
+    {"zoriYCbCrTo*_709CSC_*", toRgb<bt709Weights>},
+    {"zoriBGRTo*420_709HDTV_*", rgbToBt709Full, OddSize::warning},
+    {"zoriYCbCr420To*_709HDTV_*", toRgb<bt709FullWeights>, OddSize::warning},
+    {"zoriBGRTo*422_709HDTV_*", rgbToBt709Full},
+    {"zoriCbYCr422To*_709HDTV_*", toRgb<bt709FullWeights>},
 };
 
 // At least one block; what does not fill one is cut off.
@@ -90,24 +82,24 @@ constexpr Case inBlocks(std::string_view name, Reference reference, ZorSize bloc
 }
 
 constexpr Case chromasampling[] = {
-    inBlocks("zori*_Filter_*", filterOddRows, {2, 8}),
-    inBlocks("zori*422To*_Interlace_*", mixFieldsTo420, {2, 4}, OddSize::warning),
-    inBlocks("zori*420To*_Interlace_*", mixFieldsTo422, {2, 4}, OddSize::warning),
-    inBlocks("zori*420To1620_*", moveChroma, {4, 4}, OddSize::refused),
-    inBlocks("zori*1620To420_*", doubleColumnsAndRows, {4, 4}, OddSize::refused),
-    inBlocks("zori*411To420_*", doubleColumns, {4, 4}, OddSize::refused),
-    inBlocks("zori*420To411_*", doubleRows, {4, 2}, OddSize::refused),
-    inBlocks("zori*411ToY*420_*", rearrange411As420, {4, 2}),
-    inBlocks("zori*420ToY*411_*", rearrange420As411, {4, 2}),
-    inBlocks("zori*411*", moveChroma, {4, 1}),
-    inBlocks("zori*420*", moveChroma, {2, 2}),
-    inBlocks("zori*422*", moveChroma, {2, 1}),
+    inBlocks("zori*_Filter_*", resample<filteredOddRows>, {2, 8}),
+    inBlocks("zori*422To*_Interlace_*", resample<mixedFields420>, {2, 4}, OddSize::warning),
+    inBlocks("zori*420To*_Interlace_*", resample<mixedFields422>, {2, 4}, OddSize::warning),
+    inBlocks("zori*420To1620_*", resample<moved>, {4, 4}, OddSize::refused),
+    inBlocks("zori*1620To420_*", resample<doubledColumnsAndRows>, {4, 4}, OddSize::refused),
+    inBlocks("zori*411To420_*", resample<doubledColumns>, {4, 4}, OddSize::refused),
+    inBlocks("zori*420To411_*", resample<doubledRows>, {4, 2}, OddSize::refused),
+    inBlocks("zori*411ToY*420_*", resample<rearranged411As420>, {4, 2}),
+    inBlocks("zori*420ToY*411_*", resample<rearranged420As411>, {4, 2}),
+    inBlocks("zori*411*", resample<moved>, {4, 1}),
+    inBlocks("zori*420*", resample<moved>, {2, 2}),
+    inBlocks("zori*422*", resample<moved>, {2, 1}),
 };
 
 constexpr Case videolayouts[] = {
-    inBlocks("zori*_Filter_*", deinterlace, {2, 2}),
-    inBlocks("zori*420*", moveChroma, {2, 2}),
-    inBlocks("zori*422*", moveChroma, {2, 1}),
+    inBlocks("zori*_Filter_*", resample<deinterlacedChroma, deinterlacedLuma>, {2, 2}),
+    inBlocks("zori*420*", resample<moved>, {2, 2}),
+    inBlocks("zori*422*", resample<moved>, {2, 1}),
 };
 
 constexpr Case hlspl[] = {
@@ -161,18 +153,15 @@ Rule ruleOf(const Function& function)
     return {};
 }
 
-std::span<const Case> casesOf(std::string_view family)
+std::vector<Case> casesOf(std::string_view family)
 {
-    static const auto all = [] {
-        std::map<std::string_view, std::vector<Case>> cases;
-        for (const Function& function : interface::functions())
-            if (const Rule rule = ruleOf(function); rule.expected) {
-                cases[rule.family->name].push_back(*rule.expected);
-                cases[rule.family->name].back().name = function.name;
-            }
-        return cases;
-    }();
-    return all.at(family);
+    std::vector<Case> cases;
+    for (const Function& function : interface::functions())
+        if (const Rule rule = ruleOf(function); rule.expected && rule.family->name == family) {
+            cases.push_back(*rule.expected);
+            cases.back().name = function.name;
+        }
+    return cases;
 }
 
 const Function& functionOf(const Case& c) { return *interface::findFunction(c.name); }

@@ -4,6 +4,7 @@
 
 #include <span>
 #include <string>
+#include <vector>
 
 #include "tests/reference/case.h"
 
@@ -25,11 +26,14 @@ struct Rule {
 };
 Rule ruleOf(const interface::Function& function);
 
-// Throws where there is no such family.
-std::span<const reference::Case> casesOf(std::string_view family);
+std::vector<reference::Case> casesOf(std::string_view family);
 
 #ifdef ZORCC_FAMILY // in the test programs of families
-inline std::span<const reference::Case> familyCases() { return casesOf(ZORCC_FAMILY); }
+inline const std::vector<reference::Case>& familyCases()
+{
+    static const std::vector<reference::Case> cases = casesOf(ZORCC_FAMILY);
+    return cases;
+}
 #endif
 
 // The interface's row of a case.

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "tests/harness/checker.h"
 
-#include <algorithm>
 #include <cmath>
+#include <cstring>
 #include <sstream>
 
 #include "tests/harness/fault_trap.h"
@@ -22,23 +22,6 @@ std::string steps(const TestImage& image)
     return text.str();
 }
 
-// Scratch memory as the functions that need it ask for it, and what it holds before a call.
-constexpr int scratchRows = 64;
-constexpr int scratchRowBytes(int width) { return 32 * (width + 32); }
-constexpr std::uint8_t untouched = 0xa5;
-
-// Whether nothing was written beside the rows of the scratch memory.
-bool onlyRows(const PlaneMemory& memory, int rowBytes, std::ptrdiff_t step)
-{
-    for (const auto piece : memory.pieces())
-        for (std::size_t i = 0; i < piece.size(); ++i) {
-            if (piece[i] == untouched) continue;
-            const std::ptrdiff_t offset = piece.data() + i - memory.firstRow(), row = offset / step;
-            if (offset < 0 || row >= scratchRows || offset - row * step >= rowBytes) return false;
-        }
-    return true;
-}
-
 } // namespace
 
 // Where steps are checked they must not be negative.
@@ -54,7 +37,7 @@ std::string Checker::heading(const Trial& trial, Tier tier) const
     text << tested.name << " on " << nameOf(tier) << ", " << trial.size.width << "x" << trial.size.height << ", "
          << describe(trial.contents) << " (seed " << trial.seed << "), source: " << describe(allowed(trial.source))
          << " (" << steps(source) << "), destination: " << describe(allowed(trial.destination)) << " ("
-         << steps(destination.planes() > 0 ? destination : source) << "): ";
+         << steps(trial.inPlace ? source : destination) << "): ";
     if (expectation.demosaic) text << "grid " << extra.grid << ": ";
     if (const auto& r = trial.region)
         text << "region " << r->width << "x" << r->height << " at (" << r->x << ", " << r->y << "): ";
@@ -63,53 +46,49 @@ std::string Checker::heading(const Trial& trial, Tier tier) const
     return text.str();
 }
 
-void Checker::arrangeSource(const Trial& trial)
-{
-    extra = expectation.arguments ? expectation.arguments(tested, trial.seed) : interface::Extra {
-        .alpha = 0x5a
-    };
-    extra.region = trial.region;
-    source.arrange(*tested.source, trial.size, reference::usedSize(expectation, trial.size), allowed(trial.source),
-                   sourceSteps(tested.signature));
-}
-
-// As the destination lies.
-void Checker::arrangeScratch(const Arrangement& arrangement, int width)
+// Its size is what the functions that need it ask for. Its rows lie as those of the destination do, unless they are
+// too long to be isolated.
+void Checker::arrangeScratch(Arrangement arrangement, int width)
 {
     if (!tested.takesScratch) return;
-    const std::size_t rowBytes = static_cast<std::size_t>(scratchRowBytes(width));
-    const bool isolated = arrangement.steps == Steps::isolated && rowBytes <= RowPages::pageBytes();
-    extra.scratchStep = static_cast<int>(isolated ? 2 * RowPages::pageBytes()
-                                                  : rowBytes + (arrangement.steps == Steps::tight ? 0 : 67));
-    const int moved = isolated ? 0 : arrangement.moved;
-    scratch.arrange(
-        {scratchRows, rowBytes, extra.scratchStep, arrangement.edge, static_cast<std::size_t>(moved), isolated});
-    extra.scratch = scratch.firstRow();
+    const ZorSize bytes{32 * (width + 32), 64};
+    const bool fits = static_cast<std::size_t>(bytes.width + arrangement.moved) <= PlaneMemory::isolatedBytes();
+    if (arrangement.steps == Steps::huge || !fits) arrangement.steps = Steps::wide;
+    arrangement.upwards = false;
+    scratch.arrange(interface::formats::grey8, bytes, bytes, arrangement, StepArguments::one);
+    scratch.fillPattern(1);
+    scratch.copyToShadow();
+    extra.scratch = scratch.image().plane[0];
+    extra.scratchStep = scratch.image().step[0];
 }
 
-// `to` holds what it held before, its shadow what is expected.
-AssertionResult Checker::runOn(Tier tier, const Trial& trial, TestImage& to)
+// The destination holds what it held before, its shadow what is expected.
+AssertionResult Checker::runOn(Tier tier, const Trial& trial)
 {
     const OnTier chosen(tier);
+    TestImage& to = trial.inPlace ? source : destination;
     const interface::Call call {
         source.image(), to.image(), trial.size, extra
     };
-    if (extra.scratch)
-        for (const auto piece : scratch.pieces()) std::fill(piece.begin(), piece.end(), untouched);
+    const auto failure = [&] { return AssertionFailure() << heading(trial, tier); };
     ZorStatus status = 0;
-    const auto fault = faultOf([&] { status = tested.bound(call); });
-    if (fault) {
-        const auto [distance, place] = std::min(source.nearest(*fault), to.nearest(*fault));
-        return AssertionFailure() << heading(trial, tier) << "touches memory outside its images, " << place
-                                  << " of the "
-                                  << (source.nearest(*fault).first == distance ? "source" : "destination");
+    if (const auto fault = faultOf([&] { status = tested.bound(call); })) {
+        const auto inSource = source.placeOf(*fault), inDestination = to.placeOf(*fault);
+        const bool isSource = inSource.distance < inDestination.distance;
+        const auto& place = isSource ? inSource : inDestination;
+        return failure() << "touches memory outside its images, byte " << place.x << " of row " << place.y << ", plane "
+                         << place.plane << " of the " << (isSource ? "source" : "destination");
     }
     if (const ZorStatus expected = reference::statusOf(expectation, trial.size); status != expected)
-        return AssertionFailure() << heading(trial, tier) << "status " << status << ", not " << expected;
-    if (expectation.defined && &to == &destination) expectAsOnFirstTier(tier);
-    if (const auto d = to.difference()) return AssertionFailure() << heading(trial, tier) << describe(*d);
-    if (extra.scratch && !onlyRows(scratch, scratchRowBytes(to.size().width), extra.scratchStep))
-        return AssertionFailure() << heading(trial, tier) << "writes beside the rows of the scratch memory";
+        return failure() << "status " << status << ", not " << expected;
+    if (expectation.defined && !trial.inPlace) expectAsOnFirstTier(tier);
+    if (const auto d = to.difference()) return failure() << *d;
+    if (extra.scratch) {
+        scratch.acceptRows();
+        if (const auto d = scratch.difference()) return failure() << "the scratch memory: " << *d;
+    }
+    if (trial.inPlace) return AssertionSuccess();
+    if (const auto d = source.difference()) return failure() << "the source has changed: " << *d;
     return AssertionSuccess();
 }
 
@@ -118,19 +97,16 @@ AssertionResult Checker::runOn(Tier tier, const Trial& trial, TestImage& to)
 void Checker::expectAsOnFirstTier(Tier tier)
 {
     if (tested.source->sample != interface::Sample::f32) return;
-    const reference::Pixels from(*tested.source, source.shadow(), source.usedSize()),
-        result(*tested.destination, destination.image(), source.usedSize());
-    reference::Pixels wanted(*tested.destination, destination.shadow(), source.usedSize());
-    for (int y = 0; y < from.height(); ++y)
-        for (int x = 0; x < from.width(); ++x) {
-            const float pixel[] = {from.getFloat(0, x, y), from.getFloat(1, x, y), from.getFloat(2, x, y)};
-            if (expectation.defined(pixel)) continue;
-            for (int c = 0; c < 3; ++c) {
-                const float value = result.getFloat(c, x, y);
-                if (tier == tiersHere()[0] || (std::isnan(value) && std::isnan(wanted.getFloat(c, x, y))))
-                    wanted.putFloat(c, x, y, value);
-            }
-        }
+    const ZorSize used = source.usedSize();
+    const reference::Pixels from(*tested.source, source.shadow(), used),
+        result(*tested.destination, destination.image(), used), wanted(*tested.destination, destination.shadow(), used);
+    reference::eachPixel(used, [&](int x, int y) {
+        const float pixel[] = {from.level(0, x, y), from.level(1, x, y), from.level(2, x, y)};
+        for (int c = 0; c < 3 && !expectation.defined(pixel); ++c)
+            if (tier == tiersHere()[0] ||
+                (std::isnan(result.get<double>(c, x, y)) && std::isnan(wanted.get<double>(c, x, y))))
+                std::memcpy(wanted.at(c, x, y), result.at(c, x, y), sizeof(float));
+    });
 }
 
 AssertionResult Checker::check(const Trial& trial)
@@ -140,41 +116,29 @@ AssertionResult Checker::check(const Trial& trial)
 
 AssertionResult Checker::check(const Trial& trial, const std::function<void(TestImage& source)>& fillSource)
 {
-    arrangeSource(trial);
-    source.fillPattern(trial.seed);
-    fillSource(source);
-    source.copyToShadow();
-
+    extra = expectation.arguments ? expectation.arguments(tested, trial.seed) : interface::Extra {
+        .alpha = 0x5a
+    };
+    extra.region = trial.region;
+    source.arrange(*tested.source, trial.size, reference::usedSize(expectation, trial.size), allowed(trial.source),
+                   sourceSteps(tested.signature));
     const auto [whole, used] = reference::destinationSize(expectation, trial.size, extra);
     destination.arrange(*tested.destination, whole, used, allowed(trial.destination),
                         destinationSteps(tested.signature));
-    destination.fillPattern(trial.seed + 1);
-    destination.copyToShadow();
-    reference::convert(expectation, tested, source.image(), destination.shadow(), trial.size, extra);
     arrangeScratch(trial.destination, whole.width);
-
-    for (const Tier tier : tiersHere()) {
-        destination.fillPattern(trial.seed + 1);
-        if (auto result = runOn(tier, trial, destination); !result) return result;
-        if (const auto d = source.difference())
-            return AssertionFailure() << heading(trial, tier) << "the source has changed: " << describe(*d);
-    }
-    return AssertionSuccess();
-}
-
-AssertionResult Checker::checkInPlace(const Trial& trial)
-{
-    arrangeSource(trial);
-    const auto fillSource = [&] {
-        source.fillPattern(trial.seed);
-        fill(source, trial.contents, trial.seed);
+    const auto fillAgain = [&](TestImage& image) {
+        image.fillPattern(&image == &source ? trial.seed : trial.seed + 1); // so that no copied gap goes unseen
+        if (&image == &source) fillSource(source);
     };
-    fillSource();
-    source.copyToShadow();
-    reference::convert(expectation, tested, source.image(), source.shadow(), trial.size, extra);
+    for (TestImage* const image : {&source, &destination}) {
+        fillAgain(*image);
+        image->copyToShadow();
+    }
+    const TestImage& to = trial.inPlace ? source : destination;
+    reference::convert(expectation, tested, source.image(), to.shadow(), trial.size, extra);
     for (const Tier tier : tiersHere()) {
-        fillSource();
-        if (auto result = runOn(tier, trial, source); !result) return result;
+        fillAgain(trial.inPlace ? source : destination);
+        if (auto result = runOn(tier, trial); !result) return result;
     }
     return AssertionSuccess();
 }

@@ -21,6 +21,7 @@ struct Trial {
     Contents contents = Contents::random;
     std::uint32_t seed = 1;
     std::optional<ZorRect> region = std::nullopt; // of the source, where the function takes one
+    bool inPlace = false; // the source is the destination, too; their formats must have the same shape
 };
 
 // Keeps its memory from one check to the next.
@@ -38,21 +39,16 @@ public:
     [[nodiscard]] testing::AssertionResult check(const Trial& trial,
                                                  const std::function<void(TestImage& source)>& fillSource);
 
-    // The same with one image as source and destination, whose formats must have the same shape.
-    [[nodiscard]] testing::AssertionResult checkInPlace(const Trial& trial);
-
 private:
     const reference::Case expectation;
     const interface::Function tested;
-    TestImage source, destination;
-    PlaneMemory scratch;
+    TestImage source, destination, scratch;
     interface::Extra extra; // of the trial
 
-    void arrangeSource(const Trial& trial);
-    void arrangeScratch(const Arrangement& arrangement, int width);
     Arrangement allowed(Arrangement arrangement) const;
+    void arrangeScratch(Arrangement arrangement, int width);
     std::string heading(const Trial& trial, Tier tier) const;
-    testing::AssertionResult runOn(Tier tier, const Trial& trial, TestImage& to);
+    testing::AssertionResult runOn(Tier tier, const Trial& trial);
     void expectAsOnFirstTier(Tier tier);
 };
 

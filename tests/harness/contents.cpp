@@ -4,79 +4,14 @@
 #include <bit>
 #include <cstring>
 #include <limits>
-#include <stdexcept>
 #include <type_traits>
+
+#include "tests/harness/random.h"
+#include "tests/reference/pixels.h"
 
 namespace zorcc::test {
 
 namespace {
-
-// A generator that is quick to seed: the images are small and many.
-class Random {
-public:
-    explicit Random(std::uint32_t seed) : state(seed * 0x9e3779b97f4a7c15u + 1) {}
-    std::uint32_t next()
-    {
-        state ^= state << 13;
-        state ^= state >> 7;
-        state ^= state << 17;
-        return static_cast<std::uint32_t>((state * 0x2545f4914f6cdd1du) >> 32);
-    }
-    int below(int count) { return static_cast<int>(next() % static_cast<std::uint32_t>(count)); }
-
-private:
-    std::uint64_t state;
-};
-
-template <class T> class Source {
-public:
-    Source(Contents contents, std::uint32_t seed) : kind(contents), random(seed), level(random.below(greatest + 1)) {}
-
-    void startRow() { position = 0; }
-
-    T next()
-    {
-        const int x = position++;
-        switch (kind) {
-        case Contents::random:
-        case Contents::anyFloats:
-            return static_cast<T>(random.next());
-        case Contents::zeros:
-            return 0;
-        case Contents::maximum:
-            return greatest;
-        case Contents::extremes:
-            return random.next() & 0x8000 ? greatest : 0;
-        case Contents::alternating:
-            return x & 1 ? 0 : greatest;
-        case Contents::ramp:
-            return static_cast<T>(level + x);
-        case Contents::runs:
-            if (run-- == 0) {
-                run = random.below(40);
-                level = random.below(greatest + 1);
-            }
-            return static_cast<T>(level);
-        case Contents::nearGrey:
-            return static_cast<T>(level + random.below(3) - 1);
-        }
-        throw std::logic_error("unknown contents");
-    }
-
-private:
-    static constexpr T greatest = std::numeric_limits<T>::max();
-    Contents kind;
-    Random random;
-    int level;
-    int run = 0;
-    int position = 0;
-};
-
-// Samples made of unsigned integers, which span the same range: least to greatest, or 0 to 1.
-std::uint8_t sampleOf(std::uint8_t value, std::uint8_t) { return value; }
-std::uint16_t sampleOf(std::uint16_t value, std::uint16_t) { return value; }
-std::int16_t sampleOf(std::uint16_t value, std::int16_t) { return static_cast<std::int16_t>(value - 32768); }
-float sampleOf(std::uint16_t value, float) { return static_cast<float>(value) / 65535.0f; }
 
 float anyFloat(Random& random)
 {
@@ -89,13 +24,13 @@ float anyFloat(Random& random)
                                  Limits::epsilon(),
                                  0,
                                  1};
-    const std::uint32_t bits = random.next();
+    const std::uint32_t bits = random();
     const float sign = random.below(2) ? 1.0f : -1.0f;
     switch (random.below(16)) {
     case 0:
         return std::bit_cast<float>(bits); // of any magnitude
     case 1:
-        return sign * special[bits % 8];
+        return sign * random.anyOf(special);
     case 2:
         return sign * Limits::denorm_min() * static_cast<float>(bits % 100);
     case 3:
@@ -104,21 +39,6 @@ float anyFloat(Random& random)
     default:
         return static_cast<float>(bits % 65536) / 65535;
     }
-}
-
-template <class T> void fillAs(TestImage& image, Contents contents, std::uint32_t seed)
-{
-    Random random(seed);
-    Source<std::conditional_t<sizeof(T) == 1, std::uint8_t, std::uint16_t>> source(contents, seed);
-    image.eachRow([&](std::uint8_t* row, int samples, int, int) {
-        source.startRow();
-        for (int i = 0; i < samples; ++i) {
-            T value = sampleOf(source.next(), T{});
-            if constexpr (std::is_same_v<T, float>)
-                if (contents == Contents::anyFloats) value = anyFloat(random);
-            std::memcpy(row + i * sizeof(T), &value, sizeof(T));
-        }
-    });
 }
 
 } // namespace
@@ -132,18 +52,46 @@ const char* describe(Contents contents)
 
 void fill(TestImage& image, Contents contents, std::uint32_t seed)
 {
-    switch (image.format().sample) {
-    case interface::Sample::u8:
-        return fillAs<std::uint8_t>(image, contents, seed);
-    case interface::Sample::u16:
-        return fillAs<std::uint16_t>(image, contents, seed);
-    case interface::Sample::s16:
-        return fillAs<std::int16_t>(image, contents, seed);
-    case interface::Sample::f32:
-        return fillAs<float>(image, contents, seed);
-    case interface::Sample::s32:
-        throw std::logic_error("no contents for this sample type");
-    }
+    Random random(seed);
+    const int greatest = interface::sampleBytes(image.format().sample) == 1 ? 255 : 65535;
+    int level = random.below(greatest + 1), run = 0;
+    const auto valueAt = [&](int x) {
+        switch (contents) {
+        case Contents::zeros:
+            return 0;
+        case Contents::maximum:
+            return greatest;
+        case Contents::extremes:
+            return random.below(2) * greatest;
+        case Contents::alternating:
+            return x % 2 == 0 ? greatest : 0;
+        case Contents::ramp:
+            return level + x;
+        case Contents::runs:
+            if (run-- == 0) {
+                run = random.below(40);
+                level = random.below(greatest + 1);
+            }
+            return level;
+        case Contents::nearGrey:
+            return level + random.below(3) - 1;
+        default:
+            return random.below(greatest + 1);
+        }
+    };
+    // Samples of every type span the same range: least to greatest, or 0 to 1.
+    image.eachRow([&](std::uint8_t* row, int samples, int, int) {
+        for (int i = 0; i < samples; ++i)
+            reference::withType(image.format().sample, [&](auto sample) {
+                using T = decltype(sample);
+                const int value = valueAt(i) & greatest;
+                if constexpr (std::is_integral_v<T>)
+                    sample = static_cast<T>(value + std::numeric_limits<T>::min());
+                else
+                    sample = contents == Contents::anyFloats ? anyFloat(random) : static_cast<float>(value) / 65535;
+                std::memcpy(row + i * sizeof sample, &sample, sizeof sample);
+            });
+    });
 }
 
 } // namespace zorcc::test

@@ -5,6 +5,7 @@
 #include <setjmp.h>
 #include <signal.h>
 
+#include <cstdint>
 #include <optional>
 
 namespace zorcc::test {
@@ -12,7 +13,7 @@ namespace zorcc::test {
 namespace trap {
 
 inline thread_local sigjmp_buf* armed = nullptr;
-inline thread_local const void* address = nullptr;
+inline thread_local const std::uint8_t* address = nullptr;
 
 inline void handle(int signal, siginfo_t* info, void*)
 {
@@ -21,7 +22,7 @@ inline void handle(int signal, siginfo_t* info, void*)
         raise(signal);
         return;
     }
-    address = info->si_addr;
+    address = static_cast<const std::uint8_t*>(info->si_addr);
     siglongjmp(*armed, 1);
 }
 
@@ -29,7 +30,7 @@ inline void handle(int signal, siginfo_t* info, void*)
 
 // The address of the access that stopped `run`, or nothing. `run` may own nothing that a destructor frees. Faults of
 // other threads that it starts still end the test.
-template <class Run> std::optional<const void*> faultOf(Run run)
+template <class Run> std::optional<const std::uint8_t*> faultOf(Run run)
 {
     struct sigaction action = {}, segv, bus;
     action.sa_sigaction = trap::handle;
@@ -37,7 +38,7 @@ template <class Run> std::optional<const void*> faultOf(Run run)
     sigaction(SIGSEGV, &action, &segv);
     sigaction(SIGBUS, &action, &bus);
     sigjmp_buf back;
-    std::optional<const void*> fault;
+    std::optional<const std::uint8_t*> fault;
     if (sigsetjmp(back, 1) == 0) {
         trap::armed = &back;
         run();

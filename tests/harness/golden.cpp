@@ -26,14 +26,13 @@ interface::Image imageOf(const interface::Format& format, int width, std::vector
 template <class Visit> void eachSample(const Pixels& pixels, const Colours& colours, std::size_t count, Visit visit)
 {
     const bool shared = colours.size() != 3 * count;
-    for (int y = 0; y < pixels.height(); ++y)
-        for (int x = 0; x < pixels.width(); ++x)
-            for (int c = 0; c < 3; ++c) {
-                if (!pixels.has(c, x, y) || testing::Test::HasFatalFailure()) continue;
-                const std::size_t pixel =
-                    static_cast<std::size_t>(count == 1 ? 0 : x % 2 + (count == 4 ? y % 2 * 2 : 0));
-                visit(c, x, y, colours[!shared ? 3 * pixel + c : c == 0 ? pixel : count + c - 1]);
-            }
+    reference::eachPixel(pixels.size(), [&](int x, int y) {
+        for (int c = 0; c < 3; ++c) {
+            if (!pixels.has(c, x, y) || testing::Test::HasFatalFailure()) continue;
+            const std::size_t pixel = static_cast<std::size_t>(count == 1 ? 0 : x % 2 + (count == 4 ? y % 2 * 2 : 0));
+            visit(c, x, y, colours[!shared ? 3 * pixel + c : c == 0 ? pixel : count + c - 1]);
+        }
+    });
 }
 
 } // namespace
@@ -60,22 +59,17 @@ void expectGolden(const GoldenColours& golden)
     for (const std::string_view name : golden.functions) {
         const interface::Function* const function = interface::findFunction(name);
         ASSERT_TRUE(function) << name;
-        const bool floats = function->source->sample == interface::Sample::f32;
         const ZorSize size{golden.width, 2}, used{golden.width & (function->destination->log2Y() > 0 ? ~1 : ~0), 2};
-        TestImage source, destination;
-        source.arrange(*function->source, size, used, {}, sourceSteps(function->signature));
-        Pixels from(*function->source, source.image(), used);
-        eachSample(from, golden.source, count, [&](int c, int x, int y, double value) {
-            floats ? from.putFloat(c, x, y, static_cast<float>(value)) : from.put(c, x, y, static_cast<int>(value));
-        });
+        Images images(*function, size, used);
+        Pixels from(*function->source, images.source.image(), used);
+        eachSample(from, golden.source, count, [&](int c, int x, int y, double value) { from.put(c, x, y, value); });
         for (const Tier tier : tiersHere()) {
             const OnTier chosen(tier);
-            destination.arrange(*function->destination, size, used, {}, destinationSteps(function->signature));
-            destination.fillPattern(1);
-            ASSERT_EQ((*function)(source.image(), destination.image(), size), zorStatusOk) << name;
-            const Pixels to(*function->destination, destination.image(), used);
+            images.destination.fillPattern(1);
+            ASSERT_EQ((*function)(images.source.image(), images.destination.image(), size), zorStatusOk) << name;
+            const Pixels to(*function->destination, images.destination.image(), used);
             eachSample(to, golden.destination, count, [&](int c, int x, int y, double value) {
-                ASSERT_EQ(floats ? double{to.getFloat(c, x, y)} : to.get(c, x, y), value)
+                ASSERT_EQ(to.get<double>(c, x, y), value)
                     << name << " on " << nameOf(tier) << ", channel " << c << ", (" << x << ", " << y << "), of "
                     << testing::PrintToString(golden.source);
             });

@@ -2,6 +2,7 @@
 // Calls with results that are worked out outside the program.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string_view>
 #include <vector>
@@ -28,16 +29,22 @@ struct GoldenCall {
 void expectGolden(const GoldenCall& golden);
 
 using Colours = std::vector<double>;
+using Names = std::vector<std::string_view>;
 
 // Functions of one formula, whatever their formats, on an image of one colour, or of one pair of pixels (of a row) or
 // block (of two rows) that is repeated. The channels of the pixels follow each other in the order of their meaning, R,
 // G, B or Y, Cb, Cr; of a destination whose pixels share chroma there is the luma of each, then Cb and Cr.
 struct GoldenColours {
-    std::vector<std::string_view> functions;
+    Names functions;
     Colours source, destination;
     int width = 48;
 };
 
 void expectGolden(const GoldenColours& golden);
+
+template <class Golden, std::size_t count> void expectGolden(const Golden (&goldens)[count])
+{
+    for (const Golden& golden : goldens) expectGolden(golden);
+}
 
 } // namespace zorcc::test

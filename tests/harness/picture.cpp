@@ -5,9 +5,8 @@
 
 #include <stdexcept>
 
+#include "tests/reference/lumachroma.h"
 #include "tests/reference/mosaic.h"
-#include "tests/reference/pixels.h"
-#include "tests/reference/yuv.h"
 
 namespace zorcc::test {
 
@@ -27,30 +26,11 @@ Picture readPng(const std::string& path)
     return picture;
 }
 
-namespace {
-
-// A byte, in the range of the image's samples; packed bits take bytes.
-void put(Pixels& to, int channel, int x, int y, const interface::Format& format, int byte)
-{
-    switch (format.sample) {
-    case interface::Sample::u16:
-        return to.put(channel, x, y, format.layout == interface::Layout::packedBits ? byte : 257 * byte);
-    case interface::Sample::s16:
-        return to.put(channel, x, y, 257 * byte - 32768);
-    case interface::Sample::f32:
-        return to.putFloat(channel, x, y, static_cast<float>(byte) / 255);
-    default:
-        return to.put(channel, x, y, byte);
-    }
-}
-
-} // namespace
-
 void fill(TestImage& image, const Picture& picture)
 {
-    Picture colours = picture;
+    std::vector<std::uint8_t> bytes = picture.rgba;
     Image pixels;
-    pixels.plane[0] = colours.rgba.data();
+    pixels.plane[0] = bytes.data();
     setContiguousSteps(formats::rgba, picture.size.width, pixels);
     const bool yuv = image.format().model == Model::yuv;
     if (yuv) {
@@ -59,14 +39,13 @@ void fill(TestImage& image, const Picture& picture)
     }
     const Pixels from(yuv ? formats::yuva : formats::rgba, pixels, picture.size);
     Pixels to(image.format(), image.image(), image.size());
+    const bool isMosaic = image.format().model == Model::mosaic;
     const reference::Mosaic mosaic{picture.size, zorBayerRGGB, 255};
-    for (int y = 0; y < image.usedSize().height; ++y)
-        for (int x = 0; x < image.usedSize().width; ++x)
-            if (image.format().model == Model::mosaic)
-                put(to, 0, x, y, image.format(), from.get(mosaic.colour(x, y), x, y));
-            else
-                for (int c = 0; c < reference::channels; ++c)
-                    if (to.has(c, x, y)) put(to, c, x, y, image.format(), from.get(c, x, y));
+    reference::eachPixel(image.usedSize(), [&](int x, int y) {
+        for (int c = 0; c < reference::channels; ++c)
+            if (to.has(c, x, y))
+                to.putLevel(c, x, y, from.get(isMosaic ? mosaic.colour(x, y) : c, x, y) * double{to.white()} / 255);
+    });
 }
 
 } // namespace zorcc::test

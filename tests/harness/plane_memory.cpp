@@ -7,57 +7,28 @@
 
 namespace zorcc::test {
 
-void PlaneMemory::arrange(const RowArrangement& arrangement)
+void PlaneMemory::arrange(const RowArrangement& a)
 {
-    accessible.clear();
-    if (arrangement.isolated)
-        arrangePages(arrangement);
-    else
-        arrangeBlock(arrangement);
-}
+    const bool empty = a.rows == 0 || a.rowBytes == 0;
+    const std::size_t step = static_cast<std::size_t>(std::abs(a.step)), last = empty ? 0 : (a.rows - 1) * step;
+    const std::size_t bytes = empty        ? 0
+                              : a.isolated ? a.rowBytes
+                                           : last + a.rowBytes; // of a piece, which end at an edge
+    const std::size_t pieces = a.isolated && !empty ? a.rows : 1;
+    const std::size_t pieceBytes = a.isolated ? isolatedBytes() : inWholePages(bytes + a.distance + 2 * margin);
+    const std::size_t stride = a.isolated ? step : pieceBytes + pageBytes();
+    if (bytes + a.distance > pieceBytes) throw std::length_error("a row does not fit its memory");
 
-// Puts `bytes` bytes at the edge of the memory; remembers them and their margins.
-std::uint8_t* PlaneMemory::place(std::uint8_t* memory, std::size_t memoryBytes, std::size_t bytes,
-                                 const RowArrangement& a)
-{
-    if (bytes + a.distance > memoryBytes) throw std::length_error("plane does not fit its memory");
-    const std::size_t offset = a.edge == Edge::start ? a.distance : memoryBytes - bytes - a.distance;
+    std::unique_ptr<GuardedPages>& memory = a.isolated ? isolatedRows : block;
+    const bool fits = memory && memory->pieces >= pieces && memory->bytes >= pieceBytes;
+    if (!fits || (a.isolated && memory->stride != stride))
+        memory = std::make_unique<GuardedPages>(pieces, pieceBytes, stride);
+    const std::size_t offset = a.edge == Edge::start ? a.distance : memory->bytes - bytes - a.distance;
     const std::size_t first = offset - std::min(offset, margin);
-    const std::size_t last = std::min(offset + bytes + margin, memoryBytes);
-    accessible.emplace_back(memory + first, last - first);
-    return memory + offset;
-}
-
-void PlaneMemory::arrangeBlock(const RowArrangement& a)
-{
-    const std::size_t step = static_cast<std::size_t>(std::abs(a.step));
-    const std::size_t bytes = a.rows > 0 && a.rowBytes > 0 ? (a.rows - 1) * step + a.rowBytes : 0;
-    const std::size_t page = RowPages::pageBytes();
-    if (!block || blockBytes < bytes + a.distance + 2 * margin) {
-        blockBytes = (bytes + a.distance + 2 * margin + page - 1) / page * page; // both ends lie on pages' edges
-        block = std::make_unique<GuardedBuffer>(blockBytes, Edge::start);
-    }
-    row0 = place(block->data(), blockBytes, bytes, a);
-    if (a.step < 0 && bytes > 0) row0 += (a.rows - 1) * step;
-}
-
-void PlaneMemory::arrangePages(const RowArrangement& a)
-{
-    const std::size_t stride = static_cast<std::size_t>(std::abs(a.step));
-    if (!pages || pageRows < a.rows || pageStride != stride) {
-        pageRows = std::max(a.rows, 1);
-        pageStride = stride;
-        pages = std::make_unique<RowPages>(pageRows, stride);
-    }
-    if (a.rows == 0 || a.rowBytes == 0) {
-        row0 = place(pages->data(), RowPages::pageBytes(), 0, a);
-        return;
-    }
-    for (int y = 0; y < a.rows; ++y) {
-        const int page = a.step < 0 ? a.rows - 1 - y : y;
-        std::uint8_t* const row = place(pages->data() + page * stride, RowPages::pageBytes(), a.rowBytes, a);
-        if (y == 0) row0 = row;
-    }
+    const std::size_t end = std::min(offset + bytes + margin, memory->bytes);
+    accessible.clear();
+    for (std::size_t i = 0; i < pieces; ++i) accessible.emplace_back(memory->data(i) + first, end - first);
+    row0 = memory->data(0) + offset + (a.step < 0 ? last : 0);
 }
 
 } // namespace zorcc::test

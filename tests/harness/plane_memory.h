@@ -9,7 +9,6 @@
 #include <vector>
 
 #include "tests/harness/guarded.h"
-#include "tests/harness/row_pages.h"
 
 namespace zorcc::test {
 
@@ -20,7 +19,7 @@ struct RowArrangement {
     std::ptrdiff_t step;  // bytes from a row to the next; negative walks upwards
     Edge edge;            // which end of the plane, or of each isolated row, touches inaccessible memory ...
     std::size_t distance; // ... but for so many bytes
-    bool isolated;        // every row on a page of its own; the step must suit RowPages, a row fit a page
+    bool isolated;        // every row in memory of its own; the step is a multiple of isolatedStep()
 };
 
 class PlaneMemory {
@@ -34,19 +33,14 @@ public:
 
     static constexpr std::size_t margin = 128;
 
-private:
-    std::unique_ptr<GuardedBuffer> block;
-    std::size_t blockBytes = 0;
-    std::unique_ptr<RowPages> pages;
-    int pageRows = 0;
-    std::size_t pageStride = 0;
+    // What an isolated row may take: a long one of floats.
+    static std::size_t isolatedBytes() { return 4 * pageBytes(); }
+    static std::size_t isolatedStep() { return 2 * isolatedBytes(); }
 
+private:
+    std::unique_ptr<GuardedPages> block, isolatedRows;
     std::uint8_t* row0 = nullptr;
     std::vector<std::span<std::uint8_t>> accessible;
-
-    void arrangeBlock(const RowArrangement& arrangement);
-    void arrangePages(const RowArrangement& arrangement);
-    std::uint8_t* place(std::uint8_t* memory, std::size_t memoryBytes, std::size_t bytes, const RowArrangement& a);
 };
 
 } // namespace zorcc::test

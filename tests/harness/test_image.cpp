@@ -2,11 +2,13 @@
 #include "tests/harness/test_image.h"
 
 #include <algorithm>
-#include <array>
 #include <cstring>
 #include <limits>
 #include <random>
 #include <sstream>
+#include <vector>
+
+#include "tests/reference/pixels.h"
 
 namespace zorcc::test {
 
@@ -14,34 +16,25 @@ using namespace interface;
 
 namespace {
 
-constexpr int wideGap = 67;          // samples
-constexpr int wideGapPerPlane = 5;   // samples more in every further plane
-constexpr int hugeStep = 0x60000000; // bytes; three rows are further from each other than an int can say
+constexpr int wideGap = 67;        // samples
+constexpr int wideGapPerPlane = 5; // samples more in every further plane
 constexpr std::size_t patternBytes = 1 << 16;
+constexpr int hugeStep = 0x60000000; // bytes; three rows are further from each other than an int can say
 
-// Random bytes twice over, so that any start in the first half is followed by half the bytes.
-const std::uint8_t* pattern()
+const std::vector<std::uint8_t>& pattern()
 {
     static const auto bytes = [] {
-        std::array<std::uint8_t, 2 * patternBytes> table;
         std::mt19937 random(1);
-        for (std::size_t i = 0; i < patternBytes; ++i)
-            table[i] = table[patternBytes + i] = static_cast<std::uint8_t>(random() >> 24);
+        std::vector<std::uint8_t> table(patternBytes);
+        for (std::uint8_t& byte : table) byte = static_cast<std::uint8_t>(random() >> 24);
         return table;
     }();
-    return bytes.data();
+    return bytes;
 }
 
 StepArguments stepArguments(bool any, bool perPlane)
 {
     return !any ? StepArguments::none : perPlane ? StepArguments::perPlane : StepArguments::one;
-}
-
-int valueAt(const std::uint8_t* at, int bytes)
-{
-    std::int32_t value = 0;
-    std::memcpy(&value, at, static_cast<std::size_t>(bytes)); // little endian
-    return value;
 }
 
 } // namespace
@@ -62,18 +55,6 @@ std::string describe(const Arrangement& a)
     return text.str();
 }
 
-std::string describe(const Difference& d)
-{
-    std::ostringstream text;
-    text << "plane " << d.plane;
-    if (d.inRow)
-        text << ", sample (" << d.x << ", " << d.y << ")";
-    else
-        text << ", outside the image, " << d.x << " bytes from the start of row " << d.y;
-    text << ": expected " << d.expected << ", actual " << d.actual;
-    return text.str();
-}
-
 void TestImage::arrange(const Format& imageFormat, ZorSize imageSize, ZorSize used, const Arrangement& arrangement,
                         StepArguments stepArguments)
 {
@@ -90,7 +71,8 @@ void TestImage::arrange(const Format& imageFormat, ZorSize imageSize, ZorSize us
         if (free && arrangement.steps == Steps::sample) step += bytes;
         if (free && arrangement.steps == Steps::wide)
             step += bytes * (wideGap + (stepArguments == StepArguments::perPlane ? p * wideGapPerPlane : 0));
-        if (isolated) step = arrangement.steps == Steps::huge ? hugeStep : 2 * static_cast<int>(RowPages::pageBytes());
+        if (isolated)
+            step = arrangement.steps == Steps::huge ? hugeStep : static_cast<int>(PlaneMemory::isolatedStep());
         if (free && arrangement.upwards) step = -step;
         const bool moves = arrangement.movedPlane < 0 || arrangement.movedPlane == p;
         const RowArrangement plane{rows[p],
@@ -109,15 +91,11 @@ void TestImage::arrange(const Format& imageFormat, ZorSize imageSize, ZorSize us
 
 void TestImage::fillPattern(std::uint32_t seed)
 {
-    std::size_t start = seed;
+    const std::vector<std::uint8_t>& bytes = pattern();
+    std::size_t i = std::size_t{40503} * seed;
     for (int p = 0; p < form->planes; ++p)
         for (const auto piece : actual[p].pieces())
-            for (std::size_t done = 0; done < piece.size();) {
-                const std::size_t bytes = std::min(piece.size() - done, patternBytes);
-                std::memcpy(piece.data() + done, pattern() + start % patternBytes, bytes);
-                start += bytes + 40503; // odd
-                done += bytes;
-            }
+            for (std::uint8_t& byte : piece) byte = bytes[i++ % patternBytes];
 }
 
 void TestImage::copyToShadow()
@@ -129,53 +107,56 @@ void TestImage::copyToShadow()
         }
 }
 
-std::optional<Difference> TestImage::difference() const
+void TestImage::acceptRows()
+{
+    eachRow([&](std::uint8_t* row, int, int p, int y) {
+        std::memcpy(static_cast<std::uint8_t*>(shadowImage.plane[p]) + std::ptrdiff_t{shadowImage.step[p]} * y, row,
+                    rowBytes[p]);
+    });
+}
+
+std::optional<std::string> TestImage::difference() const
 {
     for (int p = 0; p < form->planes; ++p)
         for (std::size_t i = 0; i < actual[p].pieces().size(); ++i) {
             const auto a = actual[p].pieces()[i], e = expected[p].pieces()[i];
             if (std::memcmp(a.data(), e.data(), a.size()) == 0) continue;
-            const auto at = std::mismatch(a.begin(), a.end(), e.begin()).first;
-            return locate(p, i, static_cast<std::size_t>(at - a.begin()));
+            const auto at = std::mismatch(a.begin(), a.end(), e.begin()).first - a.begin();
+            const Place place = placeOf(&a[at]);
+            const bool inRow = place.distance == 0;
+            const int bytes = inRow ? sampleBytes(form->sample) : 1;
+            // The whole sample of a row, the byte beside it.
+            const auto valueIn = [&](std::span<const std::uint8_t> piece) {
+                return reference::withType(inRow ? form->sample : Sample::u8, [&](auto sample) {
+                    std::memcpy(&sample, &piece[at - place.x % bytes], sizeof sample);
+                    return static_cast<double>(sample);
+                });
+            };
+            std::ostringstream text;
+            text.precision(9); // floats that differ are not written alike
+            text << "plane " << p;
+            if (inRow)
+                text << ", sample (" << place.x / bytes << ", " << place.y << ")";
+            else
+                text << ", outside the image, " << place.x << " bytes from the start of row " << place.y;
+            text << ": expected " << valueIn(e) << ", actual " << valueIn(a);
+            return text.str();
         }
     return std::nullopt;
 }
 
-// The byte at `address`, named by the nearest row of plane p.
-TestImage::Place TestImage::placeOf(int p, const std::uint8_t* address) const
+TestImage::Place TestImage::placeOf(const std::uint8_t* address) const
 {
-    Place best{std::numeric_limits<std::ptrdiff_t>::max(), p, 0, 0};
-    for (int y = 0; y < std::max(rows[p], 1); ++y) {
-        const std::ptrdiff_t x =
-            address - static_cast<const std::uint8_t*>(actualImage.plane[p]) - std::ptrdiff_t{actualImage.step[p]} * y;
-        const std::ptrdiff_t bytes = static_cast<std::ptrdiff_t>(rowBytes[p]);
-        const std::ptrdiff_t distance = x < 0 ? -x : x >= bytes ? x - bytes + 1 : 0;
-        if (distance < best.distance) best = {distance, p, y, x};
-    }
-    return best;
-}
-
-Difference TestImage::locate(int p, std::size_t piece, std::size_t offset) const
-{
-    const std::uint8_t* const a = actual[p].pieces()[piece].data() + offset;
-    const std::uint8_t* const e = expected[p].pieces()[piece].data() + offset;
-    const Place place = placeOf(p, a);
-    const int bytes = sampleBytes(form->sample);
-    if (place.distance > 0) return {p, place.y, place.x, false, *e, *a};
-    return {
-        p, place.y, place.x / bytes, true, valueAt(e - place.x % bytes, bytes), valueAt(a - place.x % bytes, bytes)};
-}
-
-std::pair<std::ptrdiff_t, std::string> TestImage::nearest(const void* address) const
-{
-    Place best{std::numeric_limits<std::ptrdiff_t>::max(), 0, 0, 0};
-    for (int p = 0; p < planes(); ++p) {
-        const Place place = placeOf(p, static_cast<const std::uint8_t*>(address));
-        if (place.distance < best.distance) best = place;
-    }
-    std::ostringstream text;
-    text << "byte " << best.x << " of row " << best.y << ", plane " << best.plane;
-    return {best.distance, text.str()};
+    Place nearest{std::numeric_limits<std::ptrdiff_t>::max(), 0, 0, 0};
+    for (int p = 0; p < planes(); ++p)
+        for (int y = 0; y < std::max(rows[p], 1); ++y) {
+            const std::ptrdiff_t x = address - static_cast<const std::uint8_t*>(actualImage.plane[p]) -
+                                     std::ptrdiff_t{actualImage.step[p]} * y;
+            const std::ptrdiff_t bytes = static_cast<std::ptrdiff_t>(rowBytes[p]);
+            const std::ptrdiff_t distance = x < 0 ? -x : x >= bytes ? x - bytes + 1 : 0;
+            if (distance < nearest.distance) nearest = {distance, p, y, x};
+        }
+    return nearest;
 }
 
 } // namespace zorcc::test

@@ -6,7 +6,6 @@
 #include <cstdint>
 #include <optional>
 #include <string>
-#include <utility>
 
 #include "interface/functions.h"
 #include "tests/harness/plane_memory.h"
@@ -36,20 +35,9 @@ enum class StepArguments { none, one, perPlane };
 StepArguments sourceSteps(const interface::Signature& signature);
 StepArguments destinationSteps(const interface::Signature& signature);
 
-// A byte that is not what it should be. In a gap or a margin `x` is the byte's distance from the start of row y.
-struct Difference {
-    int plane;
-    int y;
-    std::ptrdiff_t x; // in samples of the plane, or in bytes
-    bool inRow;
-    int expected, actual; // whole samples, or bytes
-};
-
-std::string describe(const Difference& difference);
-
 class TestImage {
 public:
-    // `used` is the part of the image that the function may touch; no memory stands behind the rest.
+    // `used` are the pixels that the function may touch; the rest of the image has no memory.
     void arrange(const interface::Format& imageFormat, ZorSize imageSize, ZorSize used, const Arrangement& arrangement,
                  StepArguments stepArguments);
 
@@ -65,11 +53,19 @@ public:
 
     void copyToShadow();
 
-    // The first byte in which image and shadow differ.
-    [[nodiscard]] std::optional<Difference> difference() const;
+    // Takes what the rows hold for what they must hold, so that only what lies around them is compared.
+    void acceptRows();
 
-    // How many bytes an address lies from the nearest row, and that place in words.
-    std::pair<std::ptrdiff_t, std::string> nearest(const void* address) const;
+    // The first byte in which image and shadow differ, in words.
+    [[nodiscard]] std::optional<std::string> difference() const;
+
+    // Where an address lies.
+    struct Place {
+        std::ptrdiff_t distance; // from the nearest row, in bytes; 0 inside it
+        int plane, y;
+        std::ptrdiff_t x; // bytes from the start of row y
+    };
+    Place placeOf(const std::uint8_t* address) const;
 
     // The used rows: calls visit(row, samples, plane, y) with the first byte of each row of the image.
     template <class Visit> void eachRow(Visit visit) const
@@ -87,14 +83,18 @@ private:
     interface::Image actualImage, shadowImage;
     int rows[interface::maxPlanes] = {};
     std::size_t rowBytes[interface::maxPlanes] = {};
+};
 
-    struct Place {
-        std::ptrdiff_t distance; // from the row; 0 inside it
-        int plane, y;
-        std::ptrdiff_t x; // bytes from the start of row y
-    };
-    Place placeOf(int plane, const std::uint8_t* address) const;
-    Difference locate(int plane, std::size_t piece, std::size_t offset) const;
+// The images of a function, without gaps between rows.
+struct Images {
+    TestImage source, destination;
+
+    Images(const interface::Function& function, ZorSize size) : Images(function, size, size) {}
+    Images(const interface::Function& function, ZorSize size, ZorSize used)
+    {
+        source.arrange(*function.source, size, used, {}, sourceSteps(function.signature));
+        destination.arrange(*function.destination, size, used, {}, destinationSteps(function.signature));
+    }
 };
 
 } // namespace zorcc::test

@@ -2,167 +2,126 @@
 // Frames that are deinterlaced slice by slice.
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <cstring>
-#include <memory>
 #include <random>
 #include <vector>
 
 #include "tests/harness/golden.h"
-#include "tests/harness/guarded.h"
+#include "tests/harness/test_image.h"
 #include "tests/harness/tiers.h"
-#include "zorcc.h"
 
 namespace zorcc::test {
 namespace {
 
+constexpr const char* functions[] = {"zoriYCbCr420ToYCbCr422_Filter_8u_P2C2R",
+                                     "zoriYCbCr420ToYCrCb420_Filter_8u_P2P3R"};
 constexpr int first = 1, middle = 4, last = 16, whole = 21;
 constexpr std::uint8_t untouched = 0xa5;
 
-// Rows of one plane, of which `perPair` belong to every two rows of luma.
-struct Plane {
-    int rowBytes, perPair;
-    Bytes bytes;
+using Planes = std::vector<Bytes>;
 
-    Plane(int width, int rowsPerPair, int height) : rowBytes(width), perPair(rowsPerPair)
-    {
-        bytes.assign(static_cast<std::size_t>(rowBytes * rowsOf(height)), untouched);
-    }
-
-    int rowsOf(int height) const { return perPair * height / 2; }
+struct Slice {
+    int start, end; // rows
+    int kind;
 };
 
-// The first rows of a plane at the end of accessible memory.
-class UpTo {
-public:
-    UpTo(Plane& plane, int height)
-        : origin(plane), size(static_cast<std::size_t>(plane.rowsOf(height) * plane.rowBytes)), memory(size, Edge::end)
-    {
-        std::memcpy(memory.data(), plane.bytes.data(), size);
-    }
-    ~UpTo() { std::memcpy(origin.bytes.data(), memory.data(), size); }
-
-    std::uint8_t* from(int height) const { return memory.data() + origin.rowsOf(height) * origin.rowBytes; }
-
-private:
-    Plane& origin;
-    std::size_t size;
-    GuardedBuffer memory;
-};
-
-// A semi-planar frame and its result, packed or in three planes.
-struct Frame {
-    ZorSize size;
-    Plane luma, pairs;
-    std::vector<Plane> result;
-
-    Frame(ZorSize frameSize, bool packed)
-        : size(frameSize), luma(size.width, 2, size.height), pairs(size.width, 1, size.height)
-    {
-        std::mt19937 random(static_cast<unsigned>(size.width * 100 + size.height));
-        for (Plane* plane : {&luma, &pairs})
-            for (std::uint8_t& byte : plane->bytes) byte = static_cast<std::uint8_t>(random() >> 24);
-        if (packed) result.emplace_back(2 * size.width, 2, size.height);
-        if (!packed) result.emplace_back(size.width, 2, size.height);
-        for (int p = 1; !packed && p < 3; ++p) result.emplace_back(size.width / 2, 1, size.height);
-    }
-
-    // Converts the rows from `start` to `end`; there is no memory below them.
-    ZorStatus convert(int start, int end, int slice)
-    {
-        const UpTo y(luma, end), c(pairs, end);
-        std::vector<std::unique_ptr<UpTo>> to;
-        for (Plane& plane : result) to.push_back(std::make_unique<UpTo>(plane, end));
-        const ZorSize part{size.width, end - start};
-        if (to.size() == 1)
-            return zoriYCbCr420ToYCbCr422_Filter_8u_P2C2R(y.from(start), size.width, c.from(start), size.width,
-                                                          to[0]->from(start), 2 * size.width, part, slice);
-        std::uint8_t* const planes[] = {to[0]->from(start), to[1]->from(start), to[2]->from(start)};
-        const int steps[] = {size.width, size.width / 2, size.width / 2};
-        return zoriYCbCr420ToYCrCb420_Filter_8u_P2P3R(y.from(start), size.width, c.from(start), size.width, planes,
-                                                      steps, part, slice);
-    }
-
-    Bytes bytes() const
-    {
-        Bytes all;
-        for (const Plane& plane : result) all.insert(all.end(), plane.bytes.begin(), plane.bytes.end());
-        return all;
-    }
-};
-
-class DeinterlaceSlices : public testing::TestWithParam<bool> {};
-
-TEST_P(DeinterlaceSlices, AnyThreeAreTheWholeFrame)
+// Between an image and the bytes of its planes.
+void copyRows(const TestImage& image, Planes& planes, bool intoImage)
 {
-    for (const Tier tier : tiersHere()) {
-        const OnTier chosen(tier);
-        for (const int width : {2, 6, 8, 14, 62, 64, 70, 130, 262})
-            for (int height = 6; height <= 14; height += 2) {
-                Frame expected({width, height}, GetParam());
-                ASSERT_EQ(expected.convert(0, height, whole), zorStatusOk);
-                for (int upper = 2; upper < height; upper += 2)
-                    for (int lower = upper + 2; lower < height; lower += 2) {
-                        Frame frame({width, height}, GetParam());
-                        ASSERT_EQ(frame.convert(0, upper, first), zorStatusOk);
-                        ASSERT_EQ(frame.convert(upper, lower, middle), zorStatusOk);
-                        ASSERT_EQ(frame.convert(lower, height, last), zorStatusOk);
-                        ASSERT_EQ(frame.bytes(), expected.bytes())
-                            << nameOf(tier) << " " << width << "x" << height << " at " << upper << ", " << lower;
-                    }
-            }
-    }
+    image.eachRow([&](std::uint8_t* row, int bytes, int p, int y) {
+        std::uint8_t* const kept = planes[p].data() + y * bytes;
+        std::memcpy(intoImage ? row : kept, intoImage ? kept : row, static_cast<std::size_t>(bytes));
+    });
 }
 
-TEST_P(DeinterlaceSlices, ManyMiddleOnes)
+interface::Image fromRow(int start, const TestImage& image)
 {
-    Frame expected({70, 20}, GetParam()), frame({70, 20}, GetParam());
-    ASSERT_EQ(expected.convert(0, 20, whole), zorStatusOk);
-    frame.convert(0, 2, first);
-    for (int y = 2; y < 18; y += 2) frame.convert(y, y + 2, middle);
-    frame.convert(18, 20, last);
-    EXPECT_EQ(frame.bytes(), expected.bytes());
+    interface::Image rest = image.image();
+    for (int p = 0; p < image.planes(); ++p)
+        rest.plane[p] =
+            static_cast<std::uint8_t*>(rest.plane[p]) + interface::rows(image.format(), p, start) * rest.step[p];
+    return rest;
 }
 
-TEST_P(DeinterlaceSlices, BitsBesideThoseOfTheWholeFrameDoNotMatter)
+Planes planesOf(const interface::Format& format, ZorSize size)
 {
-    Frame expected({20, 6}, GetParam());
-    expected.convert(0, 6, whole);
-    for (const int slice : {23, 21 | 8, 21 | 64, 255, -1}) {
-        Frame frame({20, 6}, GetParam());
-        EXPECT_EQ(frame.convert(0, 6, slice), zorStatusOk);
-        EXPECT_EQ(frame.bytes(), expected.bytes()) << slice;
+    Planes planes;
+    for (int p = 0; p < format.planes; ++p)
+        planes.emplace_back(interface::rowBytes(format, p, size.width) * interface::rows(format, p, size.height),
+                            untouched);
+    return planes;
+}
+
+// What slices, of which each has no memory below it, make of a random frame, the same for every size.
+Planes converted(const char* name, ZorSize size, const std::vector<Slice>& slices)
+{
+    const interface::Function& function = *interface::findFunction(name);
+    Planes source = planesOf(*function.source, size), result = planesOf(*function.destination, size);
+    std::mt19937 random(static_cast<unsigned>(size.width * 100 + size.height));
+    for (Bytes& plane : source)
+        for (std::uint8_t& byte : plane) byte = static_cast<std::uint8_t>(random() >> 24);
+    for (const auto& [start, end, kind] : slices) {
+        TestImage from, to; // up to the end of accessible memory
+        from.arrange(*function.source, {size.width, end}, {size.width, end}, {}, sourceSteps(function.signature));
+        to.arrange(*function.destination, {size.width, end}, {size.width, end}, {},
+                   destinationSteps(function.signature));
+        copyRows(from, source, true);
+        copyRows(to, result, true);
+        EXPECT_EQ(function(fromRow(start, from), fromRow(start, to), {size.width, end - start}, {.slice = kind}),
+                  zorStatusOk);
+        copyRows(to, result, false);
     }
+    return result;
 }
 
-TEST_P(DeinterlaceSlices, OtherValuesConvertNothing)
+TEST(DeinterlaceSlices, AnyThreeAreTheWholeFrame)
 {
-    for (const int slice : {0, 2, 3, 5, 6, 8, 12, 17, 18, 20, 32, -2, 64}) {
-        Frame frame({20, 6}, GetParam());
-        const Bytes before = frame.bytes();
-        EXPECT_EQ(frame.convert(0, 6, slice), zorStatusOk);
-        EXPECT_EQ(frame.bytes(), before) << slice;
+    for (const Tier tier : tiersHere())
+        for (const char* name : functions)
+            for (const int width : {2, 6, 8, 14, 62, 64, 70, 130, 262})
+                for (int height = 6; height <= 14; height += 2) {
+                    const OnTier chosen(tier);
+                    const Planes expected = converted(name, {width, height}, {{0, height, whole}});
+                    for (int upper = 2; upper < height; upper += 2)
+                        for (int lower = upper + 2; lower < height; lower += 2)
+                            ASSERT_EQ(converted(name, {width, height},
+                                                {{0, upper, first}, {upper, lower, middle}, {lower, height, last}}),
+                                      expected)
+                                << nameOf(tier) << " " << width << "x" << height << " at " << upper << ", " << lower;
+                }
+}
+
+TEST(DeinterlaceSlices, ManyMiddleOnes)
+{
+    std::vector<Slice> slices = {{0, 2, first}};
+    for (int y = 2; y < 18; y += 2) slices.push_back({y, y + 2, middle});
+    slices.push_back({18, 20, last});
+    for (const char* name : functions)
+        EXPECT_EQ(converted(name, {70, 20}, slices), converted(name, {70, 20}, {{0, 20, whole}}));
+}
+
+// Bits beside those of the whole frame do not matter; other values convert nothing.
+TEST(DeinterlaceSlices, OtherKinds)
+{
+    for (const char* name : functions) {
+        for (const int kind : {23, 21 | 8, 21 | 64, 255, -1})
+            EXPECT_EQ(converted(name, {20, 6}, {{0, 6, kind}}), converted(name, {20, 6}, {{0, 6, whole}})) << kind;
+        for (const int kind : {0, 2, 3, 5, 6, 8, 12, 17, 18, 20, 32, -2, 64})
+            EXPECT_EQ(converted(name, {20, 6}, {{0, 6, kind}}), converted(name, {20, 6}, {})) << kind;
     }
 }
 
 // Of the last row of the first slice nothing is known yet, of the row above only its luma.
-TEST(DeinterlaceSlice, FirstLeavesWhatDependsOnRowsBelow)
+TEST(DeinterlaceSlices, FirstLeavesWhatDependsOnRowsBelow)
 {
-    Frame frame({10, 6}, true);
-    ASSERT_EQ(frame.convert(0, 6, first), zorStatusOk);
-    const Bytes bytes = frame.bytes();
-    Frame done({10, 6}, true);
-    done.convert(0, 6, whole);
-    const Bytes complete = done.bytes();
+    const Bytes bytes = converted(functions[0], {10, 6}, {{0, 6, first}})[0],
+                complete = converted(functions[0], {10, 6}, {{0, 6, whole}})[0];
     for (int y = 0; y < 6; ++y)
         for (int x = 0; x < 20; ++x) {
             const bool isLuma = x % 2 == 0, finished = isLuma ? y < 5 : y < 4;
             EXPECT_EQ(bytes[20 * y + x], finished ? complete[20 * y + x] : untouched) << x << ", " << y;
         }
 }
-
-INSTANTIATE_TEST_SUITE_P(Results, DeinterlaceSlices, testing::Bool(),
-                         [](const auto& result) { return result.param ? "Packed" : "Planar"; });
 
 // Worked out by hand: a row of 101 between rows of 0, ten columns, of which eight round up: (0 + 51 + 1) / 2 = 26
 // beside it, (51 + 51 + 1) / 2 = 51 in it; rounded down 101 / 4 = 25, 202 / 4 = 50. Both rows of chroma take the

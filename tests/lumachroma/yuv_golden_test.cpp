@@ -7,8 +7,6 @@
 namespace zorcc::test {
 namespace {
 
-// Functions of one formula.
-using Names = std::vector<std::string_view>;
 const Names toYuv = {"zoriRGBToYUV_8u_C3R", "zoriRGBToYUV_8u_AC4R", "zoriRGBToYUV_8u_AC4P4R", "zoriRGBToYUV_8u_C3P3R"};
 const Names toYuvMatrix = {"zoriRGBToYUV_8u_P3R"};
 const Names toPairs = {"zoriRGBToYUV422_8u_C3C2R", "zoriRGBToYUV422_8u_C3P3R", "zoriRGBToYUV422_8u_C3P3",
@@ -60,10 +58,7 @@ const GoldenColours goldenColours[] = {
     {toRgb, {100, 129, 127}, {98, 100, 102}}, // red 98.86
 };
 
-TEST(YuvGolden, Colours)
-{
-    for (const GoldenColours& golden : goldenColours) expectGolden(golden);
-}
+TEST(YuvGolden, Colours) { expectGolden(goldenColours); }
 
 TEST(YuvGolden, Bytes)
 {
@@ -106,7 +101,7 @@ TEST(YuvGolden, Bytes)
          {{119, 72, 193, 0, 119, 72, 193, 0, 119, 72, 193, 0, 119, 72, 193, 0}}},
         {"zoriYUV420ToBGR_8u_P3C3R", {2, 2}, block, {{193, 71, 119, 193, 71, 119, 193, 71, 119, 193, 71, 119}}},
     };
-    for (const GoldenCall& call : calls) expectGolden(call);
+    expectGolden(calls);
 }
 
 } // namespace

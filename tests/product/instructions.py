@@ -8,7 +8,7 @@ import os
 import re
 import sys
 
-from tools import Findings, output_of
+from tools import leave_with, output_of
 
 MULTIPLY_ADD = r"^vfn?m(add|sub)"
 # The one multiply-add that is meant, in divideBy, has a look at its result with it; the compiler's own have none.
@@ -56,9 +56,9 @@ def forbidden(path, tier):
 
 def contracted(path):
     """The multiply-adds of an AVX-512 object beyond those that are meant."""
-    found = [text for _, text in instructions(path) if re.search(MULTIPLY_ADD + "|" + CHECKED_MULTIPLY_ADD, text)]
-    meant = [text for text in found if re.search(CHECKED_MULTIPLY_ADD, text)]
-    return max(0, len(found) - 2 * len(meant))
+    texts = [text for _, text in instructions(path)]
+    count = lambda pattern: sum(bool(re.search(pattern, text)) for text in texts)
+    return max(0, count(MULTIPLY_ADD) - count(CHECKED_MULTIPLY_ADD))
 
 
 def weak(path):
@@ -67,21 +67,19 @@ def weak(path):
     return [line for line in symbols if re.search(r"\|\s*[WwVuiB-D]\s*\|", line) and ".data.rel.ro" not in line]
 
 
-findings = Findings()
+findings = []
 for tier in FORBIDDEN:
     for path in objects(tier):
-        for function, text in forbidden(path, tier)[:5]:
-            findings.add(f"{tier}: {os.path.basename(path)}: {function}: {text}")
-        for symbol in weak(path) if tier != "baseline" else []:
-            findings.add(f"{tier}: {os.path.basename(path)}: weak or writable: {symbol}")
-for path in objects("avx512"):
-    if count := contracted(path):
-        findings.add(f"avx512: {os.path.basename(path)}: {count} contracted multiply-adds")
+        found = [f"{function}: {text}" for function, text in forbidden(path, tier)[:5]]
+        found += [f"weak or writable: {symbol}" for symbol in weak(path) if tier != "baseline"]
+        if tier == "avx512" and (count := contracted(path)):
+            found.append(f"{count} contracted multiply-adds")
+        findings += [f"{tier}: {os.path.basename(path)}: {text}" for text in found]
 
 # The tiers differ, so what is right for one must be found where another is expected.
 for expected, given in (("ssse3", "avx2"), ("avx2", "avx512")):
     if not any(forbidden(path, expected) for path in objects(given)):
-        findings.add(f"this check takes {given} objects for {expected}")
+        findings.append(f"this check takes {given} objects for {expected}")
 if not any(weak(path) for path in objects("weak")):
-    findings.add("this check finds no weak symbols where there are some")
-findings.leave()
+    findings.append("this check finds no weak symbols where there are some")
+leave_with(findings)

@@ -4,7 +4,7 @@ those which the names ask for is checked where the table is compiled: prototypes
 import re
 import sys
 
-from tools import Findings, prototypes, table_rows
+from tools import differences, leave_with, prototypes, table_rows
 
 ALIASES = {"alpha": "aval", "scratch": "pTmp", "scratchStep": "tmpStep"}
 
@@ -24,8 +24,7 @@ REGION = re.compile(r"const \w+\* pSrc, ZorRect srcRoi, ZorSize srcSize, int src
 header, table = sys.argv[1:]
 declared = prototypes(header)
 rows = table_rows(table)
-findings = Findings()
-findings.same(rows, set(declared) - {"zorccGetLibVersion"}, "the table", "the header")
+findings = differences(rows, set(declared) - {"zorccGetLibVersion"}, "the table", "the header")
 for name in set(rows) & set(declared):
     result, parameters = declared[name]
     arguments = [ALIASES.get(argument, argument) for argument in rows[name]]
@@ -33,5 +32,5 @@ for name in set(rows) & set(declared):
     found = [re.split(r"[ *]", parameter)[-1] for parameter in parameters[len(images):]]
     form = ", ".join(images)
     if result != "ZorStatus" or found != arguments or not (IMAGES.fullmatch(form) or REGION.fullmatch(form)):
-        findings.add(f"{name}: declared {result} ({', '.join(parameters)})")
-findings.leave()
+        findings.append(f"{name}: declared {result} ({', '.join(parameters)})")
+leave_with(findings)

@@ -39,19 +39,10 @@ def table_rows(table):
     return {name: arguments.split(", ") if arguments else [] for name, arguments in rows}
 
 
-class Findings:
-    """Collects faults, prints them, and gives the exit status."""
+def differences(one, other, what_one, what_other):
+    return [f"{name}: only in {what_one if name in one else what_other}" for name in sorted(set(one) ^ set(other))]
 
-    def __init__(self):
-        self.count = 0
 
-    def add(self, text):
-        self.count += 1
-        print(text)
-
-    def same(self, one, other, what_one, what_other):
-        for name in sorted(set(one) ^ set(other)):
-            self.add(f"{name}: only in {what_one if name in one else what_other}")
-
-    def leave(self):
-        sys.exit(1 if self.count else 0)
+def leave_with(findings):
+    """Ends the check, with the faults that it found if there are any."""
+    sys.exit("\n".join(findings) or 0)

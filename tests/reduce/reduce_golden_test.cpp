@@ -8,30 +8,29 @@
 #include "tests/harness/arrangements.h"
 #include "tests/harness/cases.h"
 #include "tests/harness/tiers.h"
-#include "zorcc.h"
+#include "tests/reduce/methods.h"
 
 namespace zorcc::test {
 namespace {
 
 using Bytes = std::vector<std::uint8_t>;
 
-constexpr ZorDitherMethod methods[] = {zorDitherMethodNone, zorDitherMethodFloydSteinberg,
-                                       zorDitherMethodJarvisJudiceNinke, zorDitherMethodStucki, zorDitherMethodOrdered};
-
+// The same on every tier.
 Bytes reduced(const Bytes& source, ZorSize size, ZorDitherMethod method, int levels, int noise = 0)
 {
-    Bytes result(source.size());
-    EXPECT_EQ(zoriReduceBits_8u_C1R(source.data(), size.width, result.data(), size.width, size, noise, method, levels),
-              zorStatusOk);
-    return result;
+    std::vector<Bytes> results;
+    for (const Tier tier : tiersHere()) {
+        const OnTier chosen(tier);
+        Bytes& result = results.emplace_back(source.size());
+        EXPECT_EQ(
+            zoriReduceBits_8u_C1R(source.data(), size.width, result.data(), size.width, size, noise, method, levels),
+            zorStatusOk);
+        EXPECT_EQ(result, results[0]) << nameOf(tier);
+    }
+    return results[0];
 }
 
-class ReduceGolden : public testing::TestWithParam<Tier> {
-protected:
-    OnTier chosen{GetParam()};
-};
-
-TEST_P(ReduceGolden, ByHand)
+TEST(ReduceGolden, ByHand)
 {
     const struct {
         ZorDitherMethod method;
@@ -39,48 +38,41 @@ TEST_P(ReduceGolden, ByHand)
         ZorSize size;
         Bytes source, wanted;
     } cases[] = {
-        {zorDitherMethodNone, 2, {4, 1}, {0, 127, 128, 255}, {0, 0, 255, 255}},
+        {plain, 2, {4, 1}, {0, 127, 128, 255}, {0, 0, 255, 255}},
         // A half step is 42.5.
-        {zorDitherMethodNone, 4, {6, 1}, {42, 43, 127, 128, 212, 213}, {0, 85, 85, 170, 170, 255}},
+        {plain, 4, {6, 1}, {42, 43, 127, 128, 212, 213}, {0, 85, 85, 170, 170, 255}},
         // 17 n is the threshold of two levels; what equals it goes down.
-        {zorDitherMethodOrdered,
-         2,
-         {4, 4},
-         Bytes(16, 128),
-         {255, 0, 255, 0, 0, 255, 0, 255, 255, 0, 255, 0, 0, 255, 0, 255}},
-        {zorDitherMethodOrdered, 2, {4, 4}, Bytes(16, 255), Bytes(16, 255)},
+        {ordered, 2, {4, 4}, Bytes(16, 128), {255, 0, 255, 0, 0, 255, 0, 255, 255, 0, 255, 0, 0, 255, 0, 255}},
+        {ordered, 2, {4, 4}, Bytes(16, 255), Bytes(16, 255)},
         // Just below white all but row 3, column 0 go up.
-        {zorDitherMethodOrdered,
+        {ordered,
          2,
          {4, 4},
          Bytes(16, 254),
          {255, 255, 255, 255, 255, 255, 255, 255, 255, 255, 255, 255, 0, 255, 255, 255}},
         // 100: up to 127.5 goes down. Errors along the row 100, then v = 100 + 43.75 up, -111.25; 100 - 48.67 down,
         // 51.33; 100 + 22.46 down.
-        {zorDitherMethodFloydSteinberg, 2, {4, 1}, Bytes(4, 100), {0, 255, 0, 0}},
+        {floydSteinberg, 2, {4, 1}, Bytes(4, 100), {0, 255, 0, 0}},
         // Errors of the first row: 100, -111.25. Below: 100 + (5 * 100 - 3 * 111.25) / 16 = 110.4 down, 110.4;
         // 100 + (7 * 110.4 + 100 - 5 * 111.25) / 16 = 119.8 down.
-        {zorDitherMethodFloydSteinberg, 2, {2, 2}, Bytes(4, 100), {0, 255, 0, 0}},
+        {floydSteinberg, 2, {2, 2}, Bytes(4, 100), {0, 255, 0, 0}},
         // One column: 100; 100 + 7/48 * 100 = 114.6; 100 + (7 * 114.6 + 5 * 100) / 48 = 127.1; 100 + (7 * 127.1 +
         // 5 * 114.6) / 48 = 130.5 up. Stucki: 8/42: 119.0; 100 + (8 * 119.0 + 4 * 100) / 42 = 132.2 up.
-        {zorDitherMethodJarvisJudiceNinke, 2, {1, 4}, Bytes(4, 100), {0, 0, 0, 255}},
-        {zorDitherMethodStucki, 2, {1, 3}, Bytes(3, 100), {0, 0, 255}},
+        {jarvis, 2, {1, 4}, Bytes(4, 100), {0, 0, 0, 255}},
+        {stucki, 2, {1, 3}, Bytes(3, 100), {0, 0, 255}},
     };
     for (const auto& c : cases)
         EXPECT_EQ(reduced(c.source, c.size, c.method, c.levels), c.wanted) << "method " << c.method;
-    EXPECT_EQ(reduced({42, 43, 212}, {3, 1}, zorDitherMethodNone, 4, 100), (Bytes{0, 85, 170})); // takes no noise
+    EXPECT_EQ(reduced({42, 43, 212}, {3, 1}, plain, 4, 100), (Bytes{0, 85, 170})); // takes no noise
 }
 
-TEST_P(ReduceGolden, BlackAndWhiteStay)
+TEST(ReduceGolden, BlackAndWhiteStay)
 {
     for (const ZorDitherMethod method : methods)
         for (const int levels : {2, 4, 256})
             for (const Bytes& image : {Bytes(70 * 40, 0), Bytes(70 * 40, 255)})
                 EXPECT_EQ(reduced(image, {70, 40}, method, levels), image);
 }
-
-INSTANTIATE_TEST_SUITE_P(Tiers, ReduceGolden, testing::ValuesIn(tiersHere().begin(), tiersHere().end()),
-                         [](const auto& tier) { return nameOf(tier.param); });
 
 class ReduceBits : public testing::TestWithParam<reference::Case> {};
 
@@ -110,19 +102,17 @@ TEST_P(ReduceBits, Statuses)
     const struct {
         int noise, levels, method;
         ZorStatus status;
-    } cases[] = {
-        {0, 2, 0, zorStatusOk},
-        {100, most, 4, zorStatusOk},
-        {101, 2, 0, zorStatusNoiseRange},
-        {-1, 2, 3, zorStatusNoiseRange},
-        {101, 1, 7, zorStatusNoiseRange},
-        {0, 1, 0, zorStatusDitherLevels},
-        {0, 1, 7, zorStatusDitherLevels},
-        {0, most + 1, 0, zorStatusDitherLevels},
-        {0, INT_MIN, 4, zorStatusDitherLevels},
-        {0, 2, 5, zorStatusOk},
-        {50, 2, 7, zorStatusOk},
-    };
+    } cases[] = {{0, 2, 0, zorStatusOk},
+                 {100, most, 4, zorStatusOk},
+                 {0, 2, 5, zorStatusOk},
+                 {50, 2, 7, zorStatusOk},
+                 {101, 2, 0, zorStatusNoiseRange},
+                 {-1, 2, 3, zorStatusNoiseRange},
+                 {101, 1, 7, zorStatusNoiseRange},
+                 {0, 1, 0, zorStatusDitherLevels},
+                 {0, 1, 7, zorStatusDitherLevels},
+                 {0, most + 1, 0, zorStatusDitherLevels},
+                 {0, INT_MIN, 4, zorStatusDitherLevels}};
     constexpr ZorSize size{20, 3};
     TestImage source, destination;
     source.arrange(*function.source, size, size, {}, sourceSteps(function.signature));

@@ -11,8 +11,8 @@
 #include <vector>
 
 #include "tests/harness/tiers.h"
+#include "tests/reduce/methods.h"
 #include "tests/reference/reduce.h"
-#include "zorcc.h"
 
 namespace zorcc::test {
 namespace {
@@ -20,10 +20,7 @@ namespace {
 template <class Src, class Dst>
 using Function = ZorStatus (*)(const Src*, int, Dst*, int, ZorSize, int, ZorDitherMethod, int);
 
-template <class Sample>
-constexpr float whiteOf = std::is_same_v<Sample, float>          ? 1
-                          : std::is_same_v<Sample, std::uint8_t> ? 255
-                                                                 : 65535;
+template <class Sample> constexpr float whiteOf = std::is_same_v<Sample, float> ? 1 : (1ll << 8 * sizeof(Sample)) - 1;
 
 // Signed samples stand for a value so much greater.
 template <class Sample> constexpr int biasOf = std::is_same_v<Sample, std::int16_t> ? 32768 : 0;
@@ -32,10 +29,9 @@ template <class Sample> constexpr int biasOf = std::is_same_v<Sample, std::int16
 template <class Src, class Dst> Dst expected(Src sample, int x, int y, ZorDitherMethod method, int levels)
 {
     const float value = static_cast<float>(sample) + static_cast<float>(biasOf<Src>);
-    const double result =
-        method == zorDitherMethodNone
-            ? reference::plainValue(value, whiteOf<Src>, whiteOf<Dst>, levels)
-            : reference::thresholdValue(value, reference::bayerThreshold(x, y), whiteOf<Src>, whiteOf<Dst>, levels);
+    const double result = method == plain ? reference::plainValue(value, whiteOf<Src>, whiteOf<Dst>, levels)
+                                          : reference::thresholdValue(value, reference::bayerThreshold(x, y),
+                                                                      whiteOf<Src>, whiteOf<Dst>, levels);
     return static_cast<Dst>(static_cast<int>(std::clamp(result, 0.0, double{whiteOf<Dst>})) - biasOf<Dst>);
 }
 
@@ -45,27 +41,26 @@ template <class Src, class Dst>
 void expectAll(Function<Src, Dst> function, const std::vector<Src>& values, std::vector<int> allLevels)
 {
     const int width = 4 * static_cast<int>(values.size());
-    const auto valueAt = [&](int i) { return values[static_cast<std::size_t>(i % width / 4)]; };
     for (const int copies : {1, 1 + (1 << 16) / (4 * width)}) {
         const int samples = 4 * width * copies;
         std::vector<Src> source;
-        for (int i = 0; i < samples; ++i) source.push_back(valueAt(i));
-        for (const ZorDitherMethod method : {zorDitherMethodNone, zorDitherMethodOrdered})
+        for (int i = 0; i < samples; ++i) source.push_back(values[static_cast<std::size_t>(i % width / 4)]);
+        for (const ZorDitherMethod method : {plain, ordered})
             for (const int levels : allLevels) {
                 std::vector<Dst> wanted, result(source.size());
                 for (int i = 0; i < samples; ++i)
-                    wanted.push_back(i < 4 * width
-                                         ? expected<Src, Dst>(valueAt(i), i % width, i / width, method, levels)
-                                         : wanted[static_cast<std::size_t>(i - 4 * width)]);
+                    wanted.push_back(
+                        expected<Src, Dst>(source[static_cast<std::size_t>(i)], i % width, i / width, method, levels));
                 for (const Tier tier : tiersHere()) {
                     const OnTier chosen(tier);
                     ASSERT_EQ(function(source.data(), width * static_cast<int>(sizeof(Src)), result.data(),
                                        width * static_cast<int>(sizeof(Dst)), {width, 4 * copies}, 0, method, levels),
                               zorStatusOk);
-                    const auto i = std::mismatch(result.begin(), result.end(), wanted.begin()).first - result.begin();
+                    const auto wrong = std::mismatch(result.begin(), result.end(), wanted.begin()).first;
+                    const auto i = wrong - result.begin();
                     ASSERT_EQ(i, samples) << nameOf(tier) << ", method " << method << ", " << levels
-                                          << " levels, value " << +valueAt(static_cast<int>(i)) << " at (" << i % width
-                                          << ", " << i / width << "): " << +result[static_cast<std::size_t>(i)];
+                                          << " levels, value " << +source[static_cast<std::size_t>(i)] << " at ("
+                                          << i % width << ", " << i / width << "): " << +*wrong;
                 }
             }
     }
@@ -110,9 +105,6 @@ TEST(ReduceInputs, FloatsOfEveryKind)
     expectAll(zoriReduceBits_32f16u_C1R, floats, levels);
     expectAll(zoriReduceBits_32f16s_C1R, floats, levels);
 }
-
-constexpr ZorDitherMethod diffusions[] = {zorDitherMethodFloydSteinberg, zorDitherMethodJarvisJudiceNinke,
-                                          zorDitherMethodStucki};
 
 // What saturates is extreme and leaves no error: the samples around it are as if it were not there.
 TEST(ReduceInputs, DiffusionOfFloatsOfEveryKind)

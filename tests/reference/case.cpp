@@ -2,6 +2,7 @@
 #include "tests/reference/case.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace zorcc::reference {
 
@@ -9,43 +10,10 @@ using interface::Alpha;
 
 namespace {
 
-// Regions of one mosaic follow each other in tests: the last picture is kept.
-const Picture& pictureOf(Demosaic demosaic, const Mosaic& mosaic)
+// The pixels of a region that are inside an image; all of it where there is no region.
+ZorRect inside(const interface::Extra& extra, ZorSize size)
 {
-    static Demosaic lastDemosaic = nullptr;
-    static Mosaic last{};
-    static Picture picture{};
-    if (lastDemosaic != demosaic || last != mosaic) {
-        picture = demosaic(mosaic);
-        last = mosaic;
-        lastDemosaic = demosaic;
-    }
-    return picture;
-}
-
-void convertRegion(const Case& c, const Pixels& from, Pixels& to, ZorRect region, int grid)
-{
-    Mosaic mosaic{{from.width(), from.height()},
-                  static_cast<ZorBayerGrid>(grid),
-                  from.sample() == interface::Sample::u8 ? 255 : 65535};
-    for (int y = 0; y < from.height(); ++y)
-        for (int x = 0; x < from.width(); ++x) mosaic(x, y) = from.get(0, x, y);
-    const Picture& picture = pictureOf(c.demosaic, mosaic);
-    for (int y = 0; y < region.height; ++y)
-        for (int x = 0; x < region.width; ++x)
-            for (int channel = 0; channel < 3; ++channel)
-                to.put(channel, x, y, picture(region.x + x, region.y + y, channel));
-}
-
-ZorRect regionOf(ZorSize size, const interface::Extra& extra)
-{
-    return inside(extra.region.value_or(ZorRect{0, 0, size.width, size.height}), size);
-}
-
-} // namespace
-
-ZorRect inside(ZorRect region, ZorSize size)
-{
+    const ZorRect region = extra.region.value_or(ZorRect{0, 0, size.width, size.height});
     const int x0 = std::max(region.x, 0), y0 = std::max(region.y, 0);
     const auto x1 = std::min<std::int64_t>(size.width, std::int64_t{region.x} + region.width);
     const auto y1 = std::min<std::int64_t>(size.height, std::int64_t{region.y} + region.height);
@@ -53,11 +21,29 @@ ZorRect inside(ZorRect region, ZorSize size)
     return {x0, y0, static_cast<int>(x1 - x0), static_cast<int>(y1 - y0)};
 }
 
+// Regions of one mosaic follow each other in tests: the last picture is kept.
+void convertRegion(Demosaic demosaic, const Pixels& from, Pixels& to, const interface::Extra& extra)
+{
+    Mosaic mosaic{from.size(), static_cast<ZorBayerGrid>(extra.grid), static_cast<int>(from.white())};
+    eachPixel(from.size(), [&](int x, int y) { mosaic(x, y) = from.get(0, x, y); });
+    static Demosaic last = nullptr;
+    static Mosaic lastMosaic{};
+    static Picture picture{};
+    if (last != demosaic || lastMosaic != mosaic) picture = demosaic(mosaic);
+    last = demosaic;
+    lastMosaic = std::move(mosaic);
+    const ZorRect region = inside(extra, from.size());
+    for (int c = 0; c < 3; ++c)
+        eachPixel(to.size(), [&](int x, int y) { to.put(c, x, y, picture(region.x + x, region.y + y, c)); });
+}
+
+} // namespace
+
 DestinationSize destinationSize(const Case& c, ZorSize size, const interface::Extra& extra)
 {
     const ZorSize used = usedSize(c, size);
     if (!c.demosaic) return {size, used};
-    const ZorRect region = regionOf(used, extra);
+    const ZorRect region = inside(extra, used);
     return {{region.width, region.height}, {region.width, region.height}};
 }
 
@@ -66,18 +52,18 @@ void convert(const Case& c, const interface::Function& function, const interface
 {
     const ZorSize used = usedSize(c, size), written = destinationSize(c, size, extra).used;
     if (written.width == 0 || written.height == 0) return;
-    if (c.imageReference) return c.imageReference(function, source, destination, used, extra);
     const Pixels from(*function.source, source, used);
     Pixels to(*function.destination, destination, written);
-    if (c.demosaic) return convertRegion(c, from, to, regionOf(used, extra), extra.grid);
+    if (c.demosaic) return convertRegion(c.demosaic, from, to, extra);
+    if (c.imageReference) return c.imageReference(function, from, to, extra);
     c.reference(from, to);
     if (function.alpha == Alpha::none || function.alpha == Alpha::keep) return;
-    for (int y = 0; y < used.height; ++y)
-        for (int x = 0; x < used.width; ++x)
-            to.put(alpha, x, y,
-                   function.alpha == Alpha::copy       ? from.get(alpha, x, y)
-                   : function.alpha == Alpha::argument ? extra.alpha
-                                                       : 0);
+    eachPixel(used, [&](int x, int y) {
+        to.put(alpha, x, y,
+               function.alpha == Alpha::copy       ? from.get(alpha, x, y)
+               : function.alpha == Alpha::argument ? extra.alpha
+                                                   : 0);
+    });
 }
 
 } // namespace zorcc::reference

@@ -14,9 +14,9 @@ namespace zorcc::reference {
 // Writes the colour channels of every pixel that the function converts; source and destination have the same size.
 using Reference = void (*)(const Pixels& source, Pixels& destination);
 
-// The same for a function whose samples depend on each other, on their place, or on arguments: the whole image.
-using ImageReference = void (*)(const interface::Function& function, const interface::Image& source,
-                                const interface::Image& destination, ZorSize size, const interface::Extra& extra);
+// The same of all channels that the function converts, for one whose samples depend on arguments.
+using ImageReference = void (*)(const interface::Function& function, const Pixels& source, Pixels& destination,
+                                const interface::Extra& extra);
 
 // Arguments beside images and size for a trial: the same seed gives the same ones.
 using Arguments = interface::Extra (*)(const interface::Function& function, std::uint32_t seed);
@@ -64,9 +64,6 @@ inline ZorSize usedSize(const Case& c, ZorSize size)
     if (c.oddSize == OddSize::plain) return size;
     return {size.width - size.width % c.block.width, size.height - size.height % c.block.height};
 }
-
-// The pixels of a region that are inside an image.
-ZorRect inside(ZorRect region, ZorSize size);
 
 // The size of the destination, and the pixels of it that the function may touch.
 struct DestinationSize {

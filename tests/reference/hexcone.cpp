@@ -2,6 +2,7 @@
 #include "tests/reference/hexcone.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <tuple>
 
@@ -11,9 +12,7 @@ using interface::Sample;
 
 namespace {
 
-struct Three {
-    float of[3];
-};
+using Three = std::array<float, 3>;
 
 // The constants of a sample type.
 struct Type {
@@ -24,34 +23,22 @@ constexpr Type type16 = {65535, 182.04167f, 0.005493248f, 1.5259022e-5f, 10922.5
 
 const Type& typeOf(const Pixels& pixels) { return pixels.sample() == Sample::u8 ? type8 : type16; }
 
-int offsetOf(const Pixels& pixels) { return pixels.sample() == Sample::s16 ? 32768 : 0; }
-
-Three read(const Pixels& pixels, int x, int y)
+// Stores convert(pixel) for every pixel; integers are truncated.
+template <class Convert> void eachColour(const Pixels& source, Pixels& destination, Convert convert)
 {
-    Three three;
-    for (int c = 0; c < 3; ++c)
-        three.of[c] = pixels.sample() == Sample::f32 ? pixels.getFloat(c, x, y)
-                                                     : static_cast<float>(pixels.get(c, x, y) + offsetOf(pixels));
-    return three;
+    eachPixel(source.size(), [&](int x, int y) {
+        const Three from{source.level(0, x, y), source.level(1, x, y), source.level(2, x, y)};
+        const Three to = convert(from, x);
+        for (int c = 0; c < 3; ++c) destination.putLevel(c, x, y, to[c]);
+    });
 }
 
-void write(Pixels& pixels, int x, int y, const Three& three, float (*toInteger)(float))
-{
-    for (int c = 0; c < 3; ++c)
-        if (pixels.sample() == Sample::f32)
-            pixels.putFloat(c, x, y, three.of[c]);
-        else
-            pixels.put(c, x, y,
-                       static_cast<int>(std::clamp(toInteger(three.of[c]), 0.0f, typeOf(pixels).most)) -
-                           offsetOf(pixels));
-}
-
-float truncated(float v) { return std::trunc(v); }
-float rounded(float v) { return std::nearbyint(v); } // ties to even
+// Ties to even.
+Three rounded(const Three& v) { return {std::nearbyint(v[0]), std::nearbyint(v[1]), std::nearbyint(v[2])}; }
 
 Three hlsOf(const Three& rgb, const Type& type, bool isFloat)
 {
-    const auto [r, g, b] = rgb.of;
+    const auto [r, g, b] = rgb;
     const float most = std::max({r, g, b}), least = std::min({r, g, b}), d = most - least, sum = most + least;
     const float l = sum * 0.5f, full = isFloat ? 1 : type.most;
     if (isFloat ? !(d > 1.1920929e-7f) : d == 0) return {0, l, 0};
@@ -82,7 +69,7 @@ Three rgbOfHls(float h, float l, float s, bool divides)
 
 Three hsvOf(const Three& rgb, const Type& type)
 {
-    const auto [r, g, b] = rgb.of;
+    const auto [r, g, b] = rgb;
     const float most = std::max({r, g, b}), d = most - std::min({r, g, b});
     if (most == 0 || d == 0) return {0, 0, most};
     const float red = (most - r) / d, green = (most - g) / d, blue = (most - b) / d;
@@ -96,7 +83,7 @@ Three hsvOf(const Three& rgb, const Type& type)
 
 Three rgbOfHsv(const Three& hsv, const Type& type)
 {
-    const auto [h, s, v] = hsv.of;
+    const auto [h, s, v] = hsv;
     if (s == 0) return {v, v, v};
     const float sixths = h == type.most ? 0 : h * type.toDegrees * 0.016666668f, unit = s * type.toUnit;
     const float sextant = std::trunc(sixths), f = sixths - sextant;
@@ -105,51 +92,39 @@ Three rgbOfHsv(const Three& hsv, const Type& type)
     return bySextant[static_cast<int>(sextant)];
 }
 
-template <class Convert> void eachPixel(const Pixels& source, Convert convert)
-{
-    for (int y = 0; y < source.height(); ++y)
-        for (int x = 0; x < source.width(); ++x) convert(x, y);
-}
-
 } // namespace
 
 void rgbToHls(const Pixels& source, Pixels& destination)
 {
-    eachPixel(source, [&](int x, int y) {
-        write(destination, x, y, hlsOf(read(source, x, y), typeOf(source), source.sample() == Sample::f32), truncated);
-    });
+    eachColour(source, destination,
+               [&](const Three& rgb, int) { return hlsOf(rgb, typeOf(source), source.sample() == Sample::f32); });
 }
 
 void hlsToRgb(const Pixels& source, Pixels& destination)
 {
     const Type& type = typeOf(source);
-    eachPixel(source, [&](int x, int y) {
-        const auto [h, l, s] = read(source, x, y).of;
-        Three rgb;
-        if (source.sample() == Sample::f32) {
-            rgb = rgbOfHls(h * 360, l, s, false);
-        } else if (s == 0) {
-            rgb = {l, l, l};
-        } else {
-            rgb = rgbOfHls(h * type.toDegrees, l * type.toUnit, s * type.toUnit, source.sample() != Sample::u8);
-            for (float& c : rgb.of) c *= type.most;
-        }
-        write(destination, x, y, rgb, truncated);
+    eachColour(source, destination, [&](const Three& hls, int) -> Three {
+        const auto [h, l, s] = hls;
+        if (source.sample() == Sample::f32) return rgbOfHls(h * 360, l, s, false);
+        if (s == 0) return {l, l, l};
+        Three rgb = rgbOfHls(h * type.toDegrees, l * type.toUnit, s * type.toUnit, source.sample() != Sample::u8);
+        for (float& c : rgb) c *= type.most;
+        return rgb;
     });
 }
 
 void rgbToHsv(const Pixels& source, Pixels& destination)
 {
     const int whole = source.sample() == Sample::u8 ? source.width() / 4 * 4 : 0;
-    eachPixel(source, [&](int x, int y) {
-        write(destination, x, y, hsvOf(read(source, x, y), typeOf(source)), x < whole ? truncated : rounded);
+    eachColour(source, destination, [&](const Three& rgb, int x) {
+        const Three hsv = hsvOf(rgb, typeOf(source));
+        return x < whole ? hsv : rounded(hsv);
     });
 }
 
 void hsvToRgb(const Pixels& source, Pixels& destination)
 {
-    eachPixel(source,
-              [&](int x, int y) { write(destination, x, y, rgbOfHsv(read(source, x, y), typeOf(source)), rounded); });
+    eachColour(source, destination, [&](const Three& hsv, int) { return rounded(rgbOfHsv(hsv, typeOf(source))); });
 }
 
 bool hasHls(const float* rgb)

@@ -1,134 +1,70 @@
 // SPDX-License-Identifier: MIT
 #include "tests/reference/pixels.h"
 
-#include <cstring>
-#include <stdexcept>
-#include <string>
+#include <algorithm>
+#include <cmath>
+#include <limits>
 
 namespace zorcc::reference {
 
 using namespace interface;
 
-namespace {
-
-struct Field {
-    int shift, bits;
-};
-
-Field fieldOf(const Format& format, int channel)
-{
-    constexpr Field rgb565[] = {{0, 5}, {5, 6}, {11, 5}};
-    if (format.name == "rgb565") return rgb565[channel];
-    throw std::logic_error("unknown fields of " + std::string(format.name));
-}
-
-} // namespace
-
-Pixels::Pixels(const Format& format, const Image& image, ZorSize imageSize)
-    : size(imageSize), sampleType(format.sample), sampleBytes(interface::sampleBytes(format.sample))
+Pixels::Pixels(const Format& format, const Image& image, ZorSize size)
+    : imageSize(size), sampleType(format.sample),
+      whiteLevel(sampleType == Sample::f32                                         ? 1
+                 : sampleType == Sample::u8 || format.layout == Layout::packedBits ? 255
+                                                                                   : 65535),
+      offset(sampleType == Sample::s16 ? -32768.0f : 0)
 {
     const std::string_view names = propertiesOf(format.model).channels;
     for (int c = 0; c < static_cast<int>(names.size()); ++c) {
         const std::size_t position = format.channels.find(names[c]);
-        Place& p = place[c];
-        p.present = position != std::string_view::npos;
-        if (!p.present) continue;
+        if (position == std::string_view::npos) continue;
         const int index = static_cast<int>(position);
-        int plane = 0;
-        switch (format.layout) {
-        case Layout::interleaved:
-            p.stride = format.plane[0].samples * sampleBytes;
-            p.offset = index * sampleBytes;
-            break;
-        case Layout::planar:
-            plane = index;
-            p.stride = sampleBytes;
-            p.log2X = format.plane[index].log2X;
-            p.log2Y = format.plane[index].log2Y;
-            break;
-        case Layout::packed422:
-            p.log2X = c == luma ? 0 : 1;
-            p.stride = c == luma ? 2 : 4;
-            p.offset = index;
-            break;
-        case Layout::packedBits:
-            p.stride = sampleBytes;
-            p.shift = fieldOf(format, c).shift;
-            p.bits = fieldOf(format, c).bits;
-            break;
-        case Layout::semiPlanar:
-            plane = c == luma ? 0 : 1;
-            p.stride = format.plane[plane].samples;
-            p.offset = c == luma ? 0 : index - 1;
-            p.log2X = format.plane[plane].log2X;
-            p.log2Y = format.plane[plane].log2Y;
-            break;
-        }
+        const int plane = format.layout == Layout::planar       ? index
+                          : format.layout == Layout::semiPlanar ? std::min(index, 1)
+                                                                : 0;
+        const bool ofTwo = format.layout == Layout::packed422 && c != luma;
+        const PlaneShape& shape = format.plane[plane];
+        Place& p = place[c];
         p.plane = static_cast<std::uint8_t*>(image.plane[plane]);
         p.step = image.step[plane];
-        p.rowBytes = static_cast<std::ptrdiff_t>(interface::rowBytes(format, plane, size.width));
-        p.rows = interface::rows(format, plane, size.height);
+        p.stride = (shape.samples * sampleBytes(sampleType)) << ofTwo;
+        p.log2X = shape.log2X + ofTwo;
+        p.log2Y = shape.log2Y;
+        p.rowBytes = static_cast<std::ptrdiff_t>(rowBytes(format, plane, size.width));
+        p.rows = rows(format, plane, size.height);
+        if (format.layout == Layout::packedBits) {
+            constexpr Place rgb565[] = {{.shift = 0, .bits = 5}, {.shift = 5, .bits = 6}, {.shift = 11, .bits = 5}};
+            p.shift = rgb565[index].shift;
+            p.bits = rgb565[index].bits;
+        } else {
+            p.offset = (index - plane) * sampleBytes(sampleType);
+        }
     }
 }
 
-bool Pixels::has(int channel, int x, int y) const
+void Pixels::put(int channel, int x, int y, double value)
 {
     const Place& p = place[channel];
-    return p.present && (x >> p.log2X) * p.stride + p.offset < p.rowBytes && y >> p.log2Y < p.rows;
+    withType(sampleType, [&](auto sample) {
+        using Limits = std::numeric_limits<decltype(sample)>;
+        if (p.bits != 0) { // beside those of the other channels
+            std::memcpy(&sample, at(channel, x, y), sizeof sample);
+            const int mask = ((1 << p.bits) - 1) << p.shift;
+            value = (static_cast<int>(sample) & ~mask) | static_cast<int>(value) >> (8 - p.bits) << p.shift;
+        }
+        if (Limits::is_integer && (value < Limits::min() || value > Limits::max()))
+            throw std::out_of_range("reference: value outside its sample");
+        sample = static_cast<decltype(sample)>(value);
+        std::memcpy(at(channel, x, y), &sample, sizeof sample);
+    });
 }
 
-std::uint8_t* Pixels::at(int channel, int x, int y) const
+void Pixels::putLevel(int channel, int x, int y, double level)
 {
-    if (x < 0 || y < 0 || x >= size.width || y >= size.height || !has(channel, x, y))
-        throw std::out_of_range("reference: no such sample");
-    const Place& p = place[channel];
-    return p.plane + (y >> p.log2Y) * p.step + (x >> p.log2X) * p.stride + p.offset;
+    if (sampleType != Sample::f32) level = std::clamp(std::trunc(level), 0.0, double{whiteLevel}) + offset;
+    put(channel, x, y, level);
 }
-
-int Pixels::get(int channel, int x, int y) const
-{
-    const std::uint8_t* const sample = at(channel, x, y);
-    if (sampleBytes == 1) return *sample;
-    if (sampleBytes > 2) throw std::logic_error("reference: not an integer sample");
-    std::uint16_t word;
-    std::memcpy(&word, sample, sizeof word);
-    if (sampleType == Sample::s16) return static_cast<std::int16_t>(word);
-    const Place& p = place[channel];
-    return p.bits == 0 ? word : (word >> p.shift & ((1 << p.bits) - 1)) << (8 - p.bits);
-}
-
-void Pixels::put(int channel, int x, int y, int value)
-{
-    std::uint8_t* const sample = at(channel, x, y);
-    if (sampleBytes > 2) throw std::logic_error("reference: not an integer sample");
-    if (sampleType == Sample::s16 && value >= -32768 && value <= 32767) {
-        const auto word = static_cast<std::int16_t>(value);
-        std::memcpy(sample, &word, sizeof word);
-        return;
-    }
-    if (value < 0 || value >> 8 * (place[channel].bits == 0 ? sampleBytes : 1) != 0)
-        throw std::out_of_range("reference: value outside its sample");
-    if (sampleBytes == 1) {
-        *sample = static_cast<std::uint8_t>(value);
-        return;
-    }
-    std::uint16_t word = static_cast<std::uint16_t>(value);
-    const Place& p = place[channel];
-    if (p.bits != 0) {
-        std::memcpy(&word, sample, sizeof word);
-        const int mask = ((1 << p.bits) - 1) << p.shift;
-        word = static_cast<std::uint16_t>((word & ~mask) | value >> (8 - p.bits) << p.shift);
-    }
-    std::memcpy(sample, &word, sizeof word);
-}
-
-float Pixels::getFloat(int channel, int x, int y) const
-{
-    float value;
-    std::memcpy(&value, at(channel, x, y), sizeof value);
-    return value;
-}
-
-void Pixels::putFloat(int channel, int x, int y, float value) { std::memcpy(at(channel, x, y), &value, sizeof value); }
 
 } // namespace zorcc::reference

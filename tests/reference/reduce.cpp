@@ -3,79 +3,16 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstring>
 #include <optional>
 
 namespace zorcc::reference {
 
 using interface::Extra;
 using interface::Function;
-using interface::Image;
-using interface::Sample;
 
 namespace {
 
 constexpr int noisePeriod = 1024;
-constexpr double bias = 32768; // signed samples stand for a value so much greater
-
-float whiteOf(Sample sample) { return sample == Sample::u8 ? 255.0f : sample == Sample::f32 ? 1.0f : 65535.0f; }
-
-// The samples of an image as floats from 0 to white.
-class Samples {
-public:
-    Samples(const interface::Format& f, const Image& i)
-        : format(f), image(i), count(static_cast<int>(f.channels.size())), white(whiteOf(f.sample))
-    {
-    }
-
-    const interface::Format& format;
-    const Image& image;
-    const int count; // of a pixel
-    const float white;
-
-    float get(int x, int y, int c) const
-    {
-        switch (format.sample) {
-        case Sample::u8:
-            return read<std::uint8_t>(x, y, c);
-        case Sample::u16:
-            return read<std::uint16_t>(x, y, c);
-        case Sample::s16:
-            return static_cast<float>(read<std::int16_t>(x, y, c) + bias);
-        default:
-            return read<float>(x, y, c);
-        }
-    }
-
-    // Rounds down what is positive, and saturates.
-    void put(int x, int y, int c, double value) const
-    {
-        const double whole = std::clamp(std::trunc(value), 0.0, double{white});
-        if (format.sample == Sample::u8)
-            write(x, y, c, static_cast<std::uint8_t>(whole));
-        else if (format.sample == Sample::u16)
-            write(x, y, c, static_cast<std::uint16_t>(whole));
-        else
-            write(x, y, c, static_cast<std::int16_t>(whole - bias));
-    }
-
-private:
-    std::uint8_t* at(int x, int y, int c) const
-    {
-        return static_cast<std::uint8_t*>(image.plane[0]) + std::ptrdiff_t{y} * image.step[0] +
-               (std::ptrdiff_t{x} * count + c) * interface::sampleBytes(format.sample);
-    }
-    template <class T> T read(int x, int y, int c) const
-    {
-        T value;
-        std::memcpy(&value, at(x, y, c), sizeof value);
-        return value;
-    }
-    template <class T> void write(int x, int y, int c, T value) const
-    {
-        std::memcpy(at(x, y, c), &value, sizeof value);
-    }
-};
 
 // Numbers between two bounds that are the same in every call.
 class NoiseTable {
@@ -111,55 +48,42 @@ struct Diffusion {
     float own[2], above[5], twoAbove[5], divisor;
 };
 
-constexpr Diffusion floydSteinberg = {{7, 0}, {0, 1, 5, 3, 0}, {}, 16};
-constexpr Diffusion jarvisJudiceNinke = {{7, 5}, {3, 5, 7, 5, 3}, {1, 3, 5, 3, 1}, 48};
-constexpr Diffusion stucki = {{8, 4}, {2, 4, 8, 4, 2}, {1, 2, 4, 2, 1}, 42};
+constexpr Diffusion diffusions[] = {{{7, 0}, {0, 1, 5, 3, 0}, {}, 16},               // Floyd-Steinberg
+                                    {{7, 5}, {3, 5, 7, 5, 3}, {1, 3, 5, 3, 1}, 48},  // Jarvis-Judice-Ninke
+                                    {{8, 4}, {2, 4, 8, 4, 2}, {1, 2, 4, 2, 1}, 42}}; // Stucki
 
-const Diffusion& diffusionOf(ZorDitherMethod method)
+void diffuse(const Pixels& from, Pixels& to, int channel, const Extra& extra)
 {
-    return method == zorDitherMethodFloydSteinberg      ? floydSteinberg
-           : method == zorDitherMethodJarvisJudiceNinke ? jarvisJudiceNinke
-                                                        : stucki;
-}
-
-void diffuse(const Samples& from, const Samples& to, int channel, ZorSize size, const Extra& extra)
-{
-    const Diffusion& diffusion = diffusionOf(extra.method);
+    const Diffusion& diffusion = diffusions[extra.method - zorDitherMethodFloydSteinberg];
     const float intervals = static_cast<float>(extra.levels - 1);
-    const float white = from.white, step = white / intervals, inverse = intervals / white;
+    const float white = from.white(), step = white / intervals, inverse = intervals / white;
     const float reciprocal = 1.0f / diffusion.divisor;
     std::optional<NoiseTable> noise;
     if (extra.noise > 0)
         noise.emplace(static_cast<float>(50 - extra.noise) * step / 100.0f,
                       static_cast<float>(50 + extra.noise) * step / 100.0f);
-    std::vector<float> errors(static_cast<std::size_t>(size.width) * static_cast<std::size_t>(size.height), 0.0f);
-    auto error = [&](int x, int y) -> float& {
-        return errors[static_cast<std::size_t>(y) * static_cast<std::size_t>(size.width) + static_cast<std::size_t>(x)];
-    };
-    for (int y = 0; y < size.height; ++y)
-        for (int x = 0; x < size.width; ++x) {
-            const auto at = [&](int column, int row) {
-                return column >= 0 && column < size.width && row >= 0 ? error(column, row) : 0.0f;
-            };
-            float sum = diffusion.own[0] * at(x - 1, y) + diffusion.own[1] * at(x - 2, y);
-            for (int i = 0; i < 5; ++i) sum += diffusion.above[i] * at(x + i - 2, y - 1);
-            for (int i = 0; i < 5; ++i) sum += diffusion.twoAbove[i] * at(x + i - 2, y - 2);
-            const float v = from.get(x, y, channel) + sum * reciprocal;
-            if (v >= white) {
-                to.put(x, y, channel, to.white);
-            } else if (!(v >= 0)) {
-                to.put(x, y, channel, 0);
-            } else {
-                float k = std::trunc(v * inverse), q = k * step;
-                const float threshold = noise ? noise->at(x, y) : 0.5f * step;
-                if (v - q > threshold) {
-                    q += step;
-                    ++k;
-                }
-                error(x, y) = v - q;
-                to.put(x, y, channel, to.white == white ? double{q} : levelValue(k, to.white, extra.levels));
+    // With zeros where neighbours are outside the image.
+    const int stride = from.width() + 4;
+    std::vector<float> errors(static_cast<std::size_t>(stride) * static_cast<std::size_t>(from.height() + 2));
+    eachPixel(from.size(), [&](int x, int y) {
+        float* const error = &errors[static_cast<std::size_t>((y + 2) * stride + x + 2)];
+        float sum = diffusion.own[0] * error[-1] + diffusion.own[1] * error[-2];
+        for (int i = 0; i < 5; ++i) sum += diffusion.above[i] * error[i - 2 - stride];
+        for (int i = 0; i < 5; ++i) sum += diffusion.twoAbove[i] * error[i - 2 - 2 * stride];
+        const float v = from.level(channel, x, y) + sum * reciprocal;
+        double result = v >= white ? to.white() : 0;
+        if (v >= 0 && v < white) {
+            float k = std::trunc(v * inverse), q = k * step;
+            const float threshold = noise ? noise->at(x, y) : 0.5f * step;
+            if (v - q > threshold) {
+                q += step;
+                ++k;
             }
+            *error = v - q;
+            result = to.white() == white ? double{q} : levelValue(k, to.white(), extra.levels);
         }
+        to.putLevel(channel, x, y, result);
+    });
 }
 
 } // namespace
@@ -217,30 +141,26 @@ int mostLevels(const Function& function)
                : 256;
 }
 
-void reduceBits(const Function& function, const Image& source, const Image& destination, ZorSize size,
-                const Extra& extra)
+void reduceBits(const Function& function, const Pixels& from, Pixels& to, const Extra& extra)
 {
-    const Samples from(*function.source, source), to(*function.destination, destination);
-    const int channels = function.alpha == interface::Alpha::keep ? 3 : from.count;
-    if (extra.method != zorDitherMethodNone && extra.method != zorDitherMethodOrdered) {
-        for (int c = 0; c < channels; ++c) diffuse(from, to, c, size, extra);
-        return;
-    }
-    const float most = static_cast<float>(extra.noise) / 100.0f;
+    const int converted =
+        function.alpha == interface::Alpha::keep ? 3 : static_cast<int>(function.source->channels.size());
+    const bool ordered = extra.method == zorDitherMethodOrdered, plain = extra.method == zorDitherMethodNone;
     std::optional<NoiseTable> noise;
+    const float most = static_cast<float>(extra.noise) / 100.0f;
     if (extra.noise > 0) noise.emplace(-most, most);
-    for (int y = 0; y < size.height; ++y)
-        for (int x = 0; x < size.width; ++x) {
-            float threshold = bayerThreshold(x, y);
-            if (noise) threshold = noise->at(x, y) + threshold;
-            for (int c = 0; c < channels; ++c) {
-                const float sample = from.get(x, y, c);
-                to.put(x, y, c,
-                       extra.method == zorDitherMethodNone
-                           ? plainValue(sample, from.white, to.white, extra.levels)
-                           : thresholdValue(sample, threshold, from.white, to.white, extra.levels));
-            }
+    for (int c = 0; c < converted; ++c) {
+        if (!ordered && !plain) {
+            diffuse(from, to, c, extra);
+            continue;
         }
+        eachPixel(from.size(), [&](int x, int y) {
+            const float sample = from.level(c, x, y), threshold = (noise ? noise->at(x, y) : 0) + bayerThreshold(x, y);
+            to.putLevel(c, x, y,
+                        plain ? plainValue(sample, from.white(), to.white(), extra.levels)
+                              : thresholdValue(sample, threshold, from.white(), to.white(), extra.levels));
+        });
+    }
 }
 
 } // namespace zorcc::reference

@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "interface/functions.h"
+#include "tests/reference/pixels.h"
 
 namespace zorcc::reference {
 
@@ -24,7 +24,7 @@ double thresholdValue(float sample, float threshold, float white, float destinat
 int mostLevels(const interface::Function& function);
 
 // A whole image.
-void reduceBits(const interface::Function& function, const interface::Image& source,
-                const interface::Image& destination, ZorSize size, const interface::Extra& extra);
+void reduceBits(const interface::Function& function, const Pixels& source, Pixels& destination,
+                const interface::Extra& extra);
 
 } // namespace zorcc::reference

@@ -7,14 +7,22 @@
 #include <utility>
 
 #include "operation.h"
-#include "simd/vec.h"
+#include "simd/floats.h"
 
 namespace zorcc::ZORCC_TIER {
 namespace {
 
 using test::Operation;
 
-template <class V> using ElementOf = std::remove_cvref_t<decltype(V{}[0])>;
+// An element of a vector, or of the vectors that it was widened to.
+template <class V> constexpr auto elementOf(const V& v)
+{
+    if constexpr (requires { v.part; })
+        return v.part[0][0];
+    else
+        return v[0];
+}
+template <class V> using ElementOf = decltype(elementOf(V{}));
 
 // A vector's elements.
 template <class V> struct Elements {
@@ -30,30 +38,32 @@ template <class E, class Value> void storeElement(uint8_t* out, int i, Value val
     __builtin_memcpy(out + i * sizeof element, &element, sizeof element);
 }
 
-// An operation on vectors V; element i of its result, of type E, is onElements(i, elements of each V).
-template <class E, class... V, class OnVectors, class OnElements>
+// Calls f with vectors, or elements of vectors, that follow each other in memory.
+template <class... V, class F> auto withLoaded([[maybe_unused]] const uint8_t* in, F f)
+{
+    return [&]<int... k>(std::integer_sequence<int, k...>) { return f(load<V>(in + k * vectorBytes)...); }
+    (std::make_integer_sequence<int, sizeof...(V)>{});
+}
+
+// An operation on vectors V; element i of its result is onElements(i, elements of each V).
+template <class... V, class OnVectors, class OnElements>
 constexpr Operation operation(const char* name, OnVectors, OnElements)
 {
     using Result = decltype(OnVectors{}(V{}...));
     return {name, int{sizeof...(V)} * vectorBytes, int{sizeof(Result)},
+            [](const uint8_t* in, uint8_t* out) { store(out, withLoaded<V...>(in, OnVectors{})); },
             [](const uint8_t* in, uint8_t* out) {
-                [&]<int... k>(std::integer_sequence<int, k...>)
-                {
-                    static_cast<void>(in); // where there are no vectors
-                    store(out, OnVectors{}(load<V>(in + k * vectorBytes)...));
-                }
-                (std::make_integer_sequence<int, sizeof...(V)>{});
-            },
-            [](const uint8_t* in, uint8_t* out) {
-                [&]<int... k>(std::integer_sequence<int, k...>)
-                {
-                    static_cast<void>(in);
-                    for (int i = 0; i < int{sizeof(Result) / sizeof(E)}; ++i)
-                        storeElement<E>(out, i, OnElements{}(i, load<Elements<V>>(in + k * vectorBytes)...));
-                }
-                (std::make_integer_sequence<int, sizeof...(V)>{});
+                withLoaded<Elements<V>...>(in, [&](const auto&... v) {
+                    for (int i = 0; i < int{sizeof(Result) / sizeof(ElementOf<Result>)}; ++i)
+                        storeElement<ElementOf<Result>>(out, i, OnElements{}(i, v...));
+                });
             }};
 }
+
+// A function of vectors, under its name.
+#define ZORCC_OPERATION(function, onElements, ...)                                                                     \
+    operation<__VA_ARGS__>(                                                                                            \
+        #function " of " #__VA_ARGS__, [](auto... v) { return function(v...); }, onElements)
 
 // An operation from memory to memory; element i of what it writes is onElements(i, elements of type T that it reads).
 template <class E, class T, int inBytes, int outBytes, class OnMemory, class OnElements>
@@ -74,15 +84,6 @@ template <class F> constexpr auto each(F)
     return [](int i, const auto&... v) { return F{}(v[i]...); };
 }
 
-// For each place j of each block.
-template <class F> constexpr auto inBlocks(F)
-{
-    return [](int i, const auto& first, const auto&... v) {
-        constexpr int n = std::remove_cvref_t<decltype(first)>::blockSize;
-        return F{}(i % n, first.e + i / n * n, (v.e + i / n * n)...);
-    };
-}
-
 template <class T, class Value> constexpr T saturated(Value value)
 {
     constexpr long long bits = 8 * sizeof(T), least = T(-1) < T(0) ? -(1ll << (bits - 1)) : 0,
@@ -98,5 +99,7 @@ template <int count> constexpr test::Operations table(const Operation (&operatio
 } // namespace
 } // namespace zorcc::ZORCC_TIER
 
-// A function, or an overloaded one, as an argument.
-#define ZORCC_ON(function) [](auto... v) { return function(v...); }
+// A macro of lines for each of some types, or numbers.
+#define ZORCC_OF_TWO(lines, a, b) lines(a), lines(b)
+#define ZORCC_OF_THREE(lines, a, b, c) ZORCC_OF_TWO(lines, a, b), lines(c)
+#define ZORCC_OF_FOUR(lines, a, b, c, d) ZORCC_OF_THREE(lines, a, b, c), lines(d)

@@ -21,15 +21,9 @@ struct Operations {
     int count;
 };
 
-struct Curve {
-    void (*at)(const float* in, float* out); // one vector, of `lanes` elements
-    int lanes;
-};
-
 } // namespace zorcc::test
 
 ZORCC_TABLE_OF_EACH_TIER(test::Operations, vecOperations)
 ZORCC_TABLE_OF_EACH_TIER(test::Operations, orderOperations)
 ZORCC_TABLE_OF_EACH_TIER(test::Operations, floatsOperations)
-ZORCC_TABLE_OF_EACH_TIER(test::Operations, interleaveOperations)
-ZORCC_TABLE_OF_EACH_TIER(test::Curve, labCurves)
+ZORCC_TABLE_OF_EACH_TIER(test::Operation, labCurves)

@@ -3,10 +3,12 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <string>
+#include <bit>
+#include <cmath>
+#include <random>
+#include <span>
 #include <vector>
 
-#include "inputs.h"
 #include "operation.h"
 #include "tests/harness/guarded.h"
 #include "tests/harness/tiers.h"
@@ -14,47 +16,72 @@
 namespace zorcc::test {
 namespace {
 
-struct Table {
-    const char* name;
-    const Operations& (*onActiveTier)();
-};
-constexpr Table tables[] = {{"vec", vecOperations},
-                            {"order", orderOperations},
-                            {"floats", floatsOperations},
-                            {"interleave", interleaveOperations}};
-constexpr Tier tiers[] = {Tier::ssse3, Tier::avx2, Tier::avx512};
-
-class Vocabulary : public testing::TestWithParam<std::tuple<Table, Tier>> {};
-
-TEST_P(Vocabulary, SameAsElementByElement)
+// Every byte the same at first, and then random bytes, of which in every second round most are extreme: signs, zeros,
+// and the ends of ranges.
+void fillInputs(std::span<std::uint8_t> bytes, int round)
 {
-    const auto [table, tier] = GetParam();
-    if (tier > bestTier()) GTEST_SKIP() << "not on this processor";
-    const OnTier chosen(tier);
-    const Operations& operations = table.onActiveTier();
-    ASSERT_GT(operations.count, 0);
-    for (const Operation& operation : std::span(operations.first, static_cast<std::size_t>(operations.count)))
-        for (const Edge edge : edges) {
-            const auto inBytes = static_cast<std::size_t>(operation.inBytes),
-                       outBytes = static_cast<std::size_t>(operation.outBytes);
-            const GuardedBuffer in(inBytes, edge), out(outBytes, edge);
-            std::vector<std::uint8_t> expected(outBytes);
-            for (int round = 0; round < 300; ++round) {
-                fillInputs({in.data(), inBytes}, round);
-                operation.onElements(in.data(), expected.data());
-                operation.onVectors(in.data(), out.data());
-                const auto wrong = std::mismatch(expected.begin(), expected.end(), out.data());
-                ASSERT_EQ(wrong.first, expected.end())
-                    << operation.name << ", round " << round << ", byte " << wrong.second - out.data() << ": "
-                    << +*wrong.second << ", not " << +*wrong.first;
-            }
-        }
+    constexpr std::uint8_t extremes[] = {0, 0xff, 0x80, 0x7f, 1};
+    static std::mt19937 random(1);
+    for (std::uint8_t& byte : bytes) {
+        const auto any = random() >> 8;
+        byte = round < 5                       ? extremes[round]
+               : round % 2 == 0 && any % 4 > 0 ? extremes[any / 4 % 5]
+                                               : static_cast<std::uint8_t>(any / 32);
+    }
 }
 
-INSTANTIATE_TEST_SUITE_P(Headers, Vocabulary, testing::Combine(testing::ValuesIn(tables), testing::ValuesIn(tiers)),
-                         [](const auto& test) {
-                             return std::string(std::get<0>(test.param).name) + "_" + nameOf(std::get<1>(test.param));
-                         });
+void expectSameAsElementByElement(const Operation& operation, Edge edge)
+{
+    const auto inBytes = static_cast<std::size_t>(operation.inBytes),
+               outBytes = static_cast<std::size_t>(operation.outBytes);
+    const GuardedBuffer in(inBytes, edge), out(outBytes, edge);
+    std::vector<std::uint8_t> expected(outBytes);
+    for (int round = 0; round < 300; ++round) {
+        fillInputs({in.data(), inBytes}, round);
+        operation.onElements(in.data(), expected.data());
+        operation.onVectors(in.data(), out.data());
+        const auto wrong = std::mismatch(expected.begin(), expected.end(), out.data());
+        ASSERT_EQ(wrong.first, expected.end())
+            << operation.name << ", on " << nameOf(activeTier()) << ", round " << round << ", byte "
+            << wrong.second - out.data() << ": " << +*wrong.second << ", not " << +*wrong.first;
+    }
+}
+
+TEST(Vocabulary, SameAsElementByElement)
+{
+    for (const Tier tier : tiersHere()) {
+        const OnTier chosen(tier);
+        for (const Operations& operations : {vecOperations(), orderOperations(), floatsOperations()})
+            for (const Operation& operation : std::span(operations.first, static_cast<std::size_t>(operations.count)))
+                for (const Edge edge : edges) expectSameAsElementByElement(operation, edge);
+    }
+}
+
+// The curve of L*a*b*: the cube root above the knee and the line that continues it below, both plus a constant, as only
+// differences matter.
+constexpr double knee = 0.008856, slope = 7.787037; // (29 / 3)^3 / 116, to the last digits of single precision
+double trueCurve(double t) { return t > knee ? std::cbrt(t) + knee * slope : std::cbrt(knee) + t * slope; }
+
+// Samples and differences of them make -2 < t < 2. In bits, so that the steps are as fine near 0: a step that has no
+// factor in common with the vector or with powers of two.
+TEST(LabCurve, Within2e4OfTheTrueOne)
+{
+    for (const Tier tier : tiersHere()) {
+        const OnTier chosen(tier);
+        const Operation& curve = labCurves();
+        std::vector<float> t(static_cast<std::size_t>(curve.inBytes) / sizeof(float)), result(t.size());
+        double worst = 0;
+        for (const std::uint32_t sign : {0u, 0x80000000u})
+            for (std::uint32_t bits = 0; bits < 0x40000000;) {
+                for (float& element : t) element = std::bit_cast<float>(sign | std::min(bits += 331, 0x40000000u));
+                curve.onVectors(reinterpret_cast<const std::uint8_t*>(t.data()),
+                                reinterpret_cast<std::uint8_t*>(result.data()));
+                for (std::size_t i = 0; i < t.size(); ++i)
+                    worst = std::max(worst, std::abs(result[i] - trueCurve(t[i])));
+            }
+        EXPECT_LE(worst, 2e-4) << nameOf(tier);
+    }
+}
 
 } // namespace
 } // namespace zorcc::test

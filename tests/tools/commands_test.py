@@ -1,5 +1,6 @@
 # SPDX-License-Identifier: MIT
 """What the commands do with sound files."""
+import itertools
 import math
 import re
 import unittest
@@ -29,7 +30,7 @@ class List(unittest.TestCase):
 class Call(unittest.TestCase):
     def test_every_function_there_and_back(self):
         """Each function's result, converted back or compared as it is, is the picture it came from."""
-        write_ppm("smooth.ppm", 64, 48, smooth(64, 48))
+        write_pnm("smooth.ppm", 64, 48, smooth(64, 48))
         rows = [line.split()[:3] for line in zorcc("list").splitlines()]
         made = {destination for _, _, destination in rows}
         for name, source, destination in rows:
@@ -52,8 +53,8 @@ class Call(unittest.TestCase):
 
     def test_known_pixels(self):
         """Planes, alpha and rearranged inputs, by the luma weights 19595, 38470 and 7471 of 65536."""
-        write_ppm("row.ppm", 3, 1, [255, 255, 255, 0, 0, 255, 255, 0, 0])
-        write_ppm("square.ppm", 2, 2, [255, 0, 0, 0, 255, 0, 0, 0, 255, 255, 255, 255])
+        write_pnm("row.ppm", 3, 1, [255, 255, 255, 0, 0, 255, 255, 0, 0])
+        write_pnm("square.ppm", 2, 2, [255, 0, 0, 0, 255, 0, 0, 0, 255, 255, 255, 255])
         write_png("alpha.png", [[(255, 0, 0, 7), (0, 0, 255, 200)]], 8, RGB_ALPHA)
         write("grey.yuv", bytes([9, 99, 128, 128]))
         for line, *expected in (
@@ -86,7 +87,7 @@ class Call(unittest.TestCase):
 
 class Stats(unittest.TestCase):
     def test_one_line(self):
-        write_pgm("grey.pgm", 32, 20, bytes(32 * 20))
+        write_pnm("grey.pgm", 32, 20, bytes(32 * 20))
         for line, function in (("call zoriDemosaicAHD_8u_C1C3R grey.pgm c.png --stats", "zoriDemosaicAHD_8u_C1C3R"),
                                ("demosaic grey.pgm c.png --method gradient --verbose", "zoriCFAToRGB_8u_C1C3R"),
                                ("reduce c.png r.png -v", "zoriReduceBits_8u_C3R"),
@@ -97,7 +98,7 @@ class Stats(unittest.TestCase):
 
 class Reduce(unittest.TestCase):
     def test_levels_methods_and_noise(self):
-        write_pgm("ramp.pgm", 256, 16, bytes(range(256)) * 16)
+        write_pnm("ramp.pgm", 256, 16, bytes(range(256)) * 16)
 
         def reduced(options):
             zorcc("reduce ramp.pgm out.pgm", *options.split())
@@ -125,10 +126,38 @@ class Reduce(unittest.TestCase):
         self.assertEqual([round(value, 4) for value in struct.unpack("<4f", read("out.pfm")[-16:])], [0, 0.5, 0.5, 0])
 
 
+class Demosaic(unittest.TestCase):
+    # Channels of the first 2 x 2 pixels.
+    GRIDS = {"rggb": (0, 1, 1, 2), "bggr": (2, 1, 1, 0), "gbrg": (1, 2, 0, 1), "grbg": (1, 0, 2, 1)}
+
+    def write_mosaic(self, grid, depth):
+        """A smooth picture through the grid of colours."""
+        write_pnm("smooth.ppm", 61, 43, smooth(61, 43))
+        colours, maximum = samples("smooth.ppm"), 2 ** depth - 1
+        write_pnm("m.pgm", 61, 43, [colours[3 * (61 * y + x) + self.GRIDS[grid][y % 2 * 2 + x % 2]] * maximum // 255
+                                    for y in range(43) for x in range(61)], maximum)
+
+    def test_every_grid_method_and_depth(self):
+        for grid, method, depth in itertools.product(self.GRIDS, ("gradient", "ahd"), (8, 16)):
+            with self.subTest(grid=grid, method=method, depth=depth):
+                self.write_mosaic(grid, depth)
+                zorcc(f"demosaic m.pgm result.png --grid {grid} --method {method}")
+                self.assertEqual(read_png("result.png")[:2], (depth, RGB))
+                self.assertGreater(compare("smooth.ppm", "result.png")["all"][0], 44)
+        zorcc("demosaic m.pgm wrong.png --grid bggr")
+        self.assertLess(compare("smooth.ppm", "wrong.png")["all"][0], 20)
+
+    def test_defaults(self):
+        self.write_mosaic("rggb", 8)
+        results = {(zorcc(line, "m.pgm", "out.ppm"), read("out.ppm")) for line in (
+            "demosaic", "demosaic --grid RGGB --method ahd", "call zoriDemosaicAHD_8u_C1C3R")}
+        self.assertEqual(len(results), 1)
+
+
 class Convert(unittest.TestCase):
     def test_every_model_there_and_back_by_the_function_of_its_samples(self):
         """Floors in dB: what shared chroma and rounding leave of the gradient; wide samples lose nothing."""
-        write_ppm("smooth.ppm", 200, 100, smooth(200, 100))
+        write_pnm("smooth.ppm", 200, 100, smooth(200, 100))
         for target, function, floor in (("yuv444p", "ToYUV_8u_C3P3R", 43), ("yuv24", "ToYUV_8u_C3R", 43),
                                         ("yuv422p", "ToYUV422_8u_C3P3R", 43), ("yuyv", "ToYUV422_8u_C3C2R", 43),
                                         ("yuv420p", "ToYUV420_8u_C3P3R", 42), ("hls24", "GBToHLS_8u_C3R", 45),
@@ -140,7 +169,7 @@ class Convert(unittest.TestCase):
                 self.assertGreaterEqual(there_and_back("smooth.ppm", target, "200x100")[0], floor)
 
     def test_y4m_of_limited_range_is_taken_for_bt601(self):
-        write_ppm("smooth.ppm", 200, 100, smooth(200, 100))
+        write_pnm("smooth.ppm", 200, 100, smooth(200, 100))
         for matrix, is_near in (("bt601", True), ("bt709", False), ("bt709full", False), ("yuv", True)):
             zorcc("convert smooth.ppm smooth.y4m --matrix", matrix)
             zorcc("convert smooth.y4m back.ppm")
@@ -149,7 +178,7 @@ class Convert(unittest.TestCase):
     def test_odd_sizes_lose_nothing(self):
         for width, height in ((1, 1), (3, 5), (641, 481), (2, 7), (9, 1)):
             size = f"{width}x{height}"
-            write_ppm("odd.ppm", width, height, smooth(width, height))
+            write_pnm("odd.ppm", width, height, smooth(width, height))
             for target, tag in (("yuv420p", "420jpeg"), ("yuv422p", "422"), ("yuv444p", "444"), ("yuyv", "422"),
                                 ("nv12", "420jpeg"), ("yv12", "420jpeg")):
                 with self.subTest(size=size, target=target):
@@ -257,8 +286,8 @@ class Files(unittest.TestCase):
                 self.assertEqual(read(out), expected)
 
     def test_jpeg(self):
-        write_ppm("smooth.ppm", 93, 71, smooth(93, 71))
-        write_pgm("grey.pgm", 16, 16, range(256))
+        write_pnm("smooth.ppm", 93, 71, smooth(93, 71))
+        write_pnm("grey.pgm", 16, 16, range(256))
         for path, channel, floor in (("smooth.ppm", "all", 33), ("grey.pgm", "grey", 40)):
             zorcc("convert", path, "out.jpg")
             self.assertGreater(compare(path, "out.jpg")[channel][0], floor)
@@ -282,8 +311,8 @@ class Chart(unittest.TestCase):
 
 class CompareAndSheet(unittest.TestCase):
     def test_compare_counts_squares_and_the_largest_difference(self):
-        write_ppm("a.ppm", 31, 17, bytes([100] * 31 * 17 * 3))
-        write_ppm("b.ppm", 31, 17, bytes([109] + 99 * [100] + [83] + [100] * (31 * 17 * 3 - 101)))
+        write_pnm("a.ppm", 31, 17, bytes([100] * 31 * 17 * 3))
+        write_pnm("b.ppm", 31, 17, bytes([109] + 99 * [100] + [83] + [100] * (31 * 17 * 3 - 101)))
         found = compare("a.ppm", "b.ppm")
         for name, squares, count, largest in (("R", 81, 527, 9), ("G", 289, 527, 17), ("all", 81 + 289, 3 * 527, 17)):
             self.assertAlmostEqual(found[name][0], 10 * math.log10(255 ** 2 * count / squares), delta=0.006)
@@ -299,15 +328,15 @@ class CompareAndSheet(unittest.TestCase):
         self.assertAlmostEqual(found["Y"][0], 10 * math.log10(255 ** 2 * 45 / 100 ** 2), delta=0.006)
 
     def test_compare_alpha_only_where_both_have_it(self):
-        write_ppm("opaque.ppm", 1, 1, [1, 2, 3])
+        write_pnm("opaque.ppm", 1, 1, [1, 2, 3])
         for alpha in (4, 14):
             write_png(f"{alpha}.png", [[(1, 2, 3, alpha)]], 8, RGB_ALPHA)
         self.assertEqual(compare("4.png", "14.png")["A"][1], 10)
         self.assertEqual(compare("4.png", "opaque.ppm"), {name: (math.inf, 0) for name in ("R", "G", "B", "all")})
 
     def test_sheet(self):
-        write_ppm("a.ppm", 2, 3, 6 * [1, 2, 3])
-        write_ppm("b.ppm", 1, 1, [4, 5, 6])
+        write_pnm("a.ppm", 2, 3, 6 * [1, 2, 3])
+        write_pnm("b.ppm", 1, 1, [4, 5, 6])
         zorcc("sheet s.ppm a.ppm b.ppm")
         self.assertEqual(read_pnm("s.ppm")[:2], (2 + 8 + 1, 3))
         self.assertEqual(samples("s.ppm")[:66], 2 * [1, 2, 3] + 24 * [32] + [4, 5, 6] + 2 * [1, 2, 3] + 27 * [32])
@@ -319,7 +348,3 @@ class Help(unittest.TestCase):
         for command in ("list", "call", "convert", "reduce", "demosaic", "chart", "compare", "sheet"):
             self.assertIn(command, zorcc("--help"))
             self.assertRegex(zorcc(command, "--help"), r"Examples?:\n  zorcc " + command)
-
-
-if __name__ == "__main__":
-    unittest.main()

@@ -8,6 +8,10 @@ import unittest
 
 from files import *
 
+if not shutil.which("ffmpeg"):
+    print("skipped: ffmpeg is not installed")
+    sys.exit(77)  # what ctest takes for a skipped test
+
 # By matrix: how ffmpeg names it, and its range.
 MATRICES = {"bt601": ("bt601", "limited"), "bt709": ("bt709", "limited"), "bt709full": ("bt709", "full")}
 
@@ -37,10 +41,3 @@ class Ffmpeg(unittest.TestCase):
         for name, matrix in itertools.product(("astronaut_512x512", "chelsea_451x300", "parrots_768x512"), MATRICES):
             with self.subTest(name=name, matrix=matrix):
                 self.check(os.path.join(PICTURES, name + ".png"), matrix, "yuv420p", 38)
-
-
-if __name__ == "__main__":
-    if not shutil.which("ffmpeg"):
-        print("skipped: ffmpeg is not installed")
-        sys.exit(77)  # what ctest takes for a skipped test
-    unittest.main()

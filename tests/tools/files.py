@@ -61,13 +61,11 @@ def write(path, content):
     return path
 
 
-def write_ppm(path, width, height, samples):
-    return write(path, b"P6\n%d %d\n255\n" % (width, height) + bytes(samples))
-
-
-def write_pgm(path, width, height, samples, maximum=255):
+def write_pnm(path, width, height, samples, maximum=255):
+    """Grey, or three samples a pixel"""
+    kind = 5 if len(samples) == width * height else 6
     packed = bytes(samples) if maximum < 256 else struct.pack(f">{len(samples)}H", *samples)
-    return write(path, b"P5\n%d %d\n%d\n" % (width, height, maximum) + packed)
+    return write(path, b"P%d\n%d %d\n%d\n" % (kind, width, height, maximum) + packed)
 
 
 def read_pnm(path):

@@ -116,7 +116,3 @@ class Deinterlacing(unittest.TestCase):
         lines = zorcc("convert comb.y4m smooth.rgb --deinterlace --stats").splitlines()
         self.assertEqual([line.split(":")[0] for line in lines],
                          ["zoriYCbCr420ToYCrCb420_Filter_8u_P2P3R", "zoriYUV420ToRGB_8u_P3C3R"])
-
-
-if __name__ == "__main__":
-    unittest.main()

@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
-// All 2^24 colours of three 8-bit channels through one function of every reference, and of 16-bit channels all values
+// All 2^24 colours of three 8-bit channels through one function of every formula, and of 16-bit channels all values
 // of each with a grid of the others.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <iterator>
+#include <tuple>
 #include <vector>
 
-#include "tests/harness/cases.h"
-#include "tests/harness/checker.h"
+#include "tests/harness/family_test.h"
 
 namespace zorcc::test {
 namespace {
@@ -28,20 +29,19 @@ void fillColours(TestImage& image, int first)
     const interface::Format& format = image.format();
     const int log2X = format.log2X(), log2Y = format.log2Y(), log2Block = log2X + log2Y;
     Pixels pixels(format, image.image(), band);
-    for (int y = 0; y < band.height; ++y)
-        for (int x = 0; x < band.width; ++x) {
-            if (!format.subsampled()) {
-                const int colour = scattered(first + y * band.width + x, colours);
-                for (int c = 0; c < 3; ++c) pixels.put(c, x, y, colour >> 8 * c & 255);
-                continue;
-            }
-            const int block = (first >> log2Block) + (y >> log2Y) * (band.width >> log2X) + (x >> log2X);
-            const int inBlock = ((y & ((1 << log2Y) - 1)) << log2X) + (x & ((1 << log2X) - 1));
-            const int chroma = scattered(block & 0xffff, 0x10000);
-            pixels.put(reference::luma, x, y, (((block >> 16) << log2Block) + inBlock + chroma) & 255);
-            pixels.put(reference::chromaU, x, y, chroma & 255);
-            pixels.put(reference::chromaV, x, y, chroma >> 8);
+    reference::eachPixel(band, [&](int x, int y) {
+        if (!format.subsampled()) {
+            const int colour = scattered(first + y * band.width + x, colours);
+            for (int c = 0; c < 3; ++c) pixels.put(c, x, y, colour >> 8 * c & 255);
+            return;
         }
+        const int block = (first >> log2Block) + (y >> log2Y) * (band.width >> log2X) + (x >> log2X);
+        const int inBlock = ((y & ((1 << log2Y) - 1)) << log2X) + (x & ((1 << log2X) - 1));
+        const int chroma = scattered(block & 0xffff, 0x10000);
+        pixels.put(reference::luma, x, y, (((block >> 16) << log2Block) + inBlock + chroma) & 255);
+        pixels.put(reference::chromaU, x, y, chroma & 255);
+        pixels.put(reference::chromaV, x, y, chroma >> 8);
+    });
 }
 
 constexpr int grid[] = {0, 1, 13107, 21845, 32767, 32768, 43691, 54321, 65534, 65535};
@@ -52,46 +52,48 @@ void fillSweep(TestImage& image, int sweep)
 {
     Pixels pixels(image.format(), image.image(), band);
     const int channel = sweep % 3, others[] = {grid[sweep / 3 % gridSize], grid[sweep / 3 / gridSize]};
-    const int offset = image.format().sample == interface::Sample::s16 ? 32768 : 0;
-    for (int y = 0; y < band.height; ++y)
-        for (int x = 0; x < band.width; ++x) {
-            const int values[] = {scattered(y * band.width + x, 65536), others[0], others[1]};
-            for (int c = 0; c < 3; ++c) pixels.put((channel + c) % 3, x, y, values[c] - offset);
-        }
+    reference::eachPixel(band, [&](int x, int y) {
+        const int values[] = {scattered(y * band.width + x, 65536), others[0], others[1]};
+        for (int c = 0; c < 3; ++c) pixels.putLevel((channel + c) % 3, x, y, values[c]);
+    });
 }
 
-bool isBytes(const Case& c) { return functionOf(c).source->sample == interface::Sample::u8; }
+// Functions that have these in common convert alike.
+auto formulaOf(const Case& c)
+{
+    const interface::Format &source = *functionOf(c).source, &destination = *functionOf(c).destination;
+    return std::tuple(c.reference, source.sample, source.subsampled(), destination.log2X(), destination.log2Y());
+}
 
-// The first function of each reference and type of integers with samples of its own for every channel.
-std::vector<Case> oneCaseOfEachReference()
+// The first function of each formula on integers that have samples of their own for every channel.
+std::vector<Case> oneCaseOfEachFormula()
 {
     std::vector<Case> chosen;
     for (const Case& c : familyCases()) {
         const interface::Format& source = *functionOf(c).source;
         const bool fits = source.sample != interface::Sample::f32 && source.channels.size() == 3 &&
                           source.layout != interface::Layout::packedBits;
-        bool seen = false;
-        for (const Case& other : chosen)
-            seen |= other.reference == c.reference && functionOf(other).source->sample == source.sample;
-        if (fits && !seen) chosen.push_back(c);
+        const auto isAlike = [&](const Case& other) { return formulaOf(other) == formulaOf(c); };
+        if (fits && std::none_of(chosen.begin(), chosen.end(), isAlike)) chosen.push_back(c);
     }
     return chosen;
 }
 
-class AllColours : public testing::TestWithParam<Case> {};
+class AllColours : public FamilyTest {};
 
 TEST_P(AllColours, SameAsReference)
 {
-    Checker checker(GetParam(), functionOf(GetParam()));
     const Trial trial{band, {Steps::sample}, {Steps::sample}};
-    for (int sweep = 0; !isBytes(GetParam()) && sweep < sweeps; ++sweep)
-        ASSERT_TRUE(checker.check(trial, [&](TestImage& image) { fillSweep(image, sweep); })) << "sweep " << sweep;
-    for (int first = 0; isBytes(GetParam()) && first < colours; first += band.width * band.height)
-        ASSERT_TRUE(checker.check(trial, [&](TestImage& image) { fillColours(image, first); }))
-            << "colours from " << first;
+    if (function.source->sample == interface::Sample::u8)
+        for (int first = 0; first < colours; first += band.width * band.height)
+            ASSERT_TRUE(checker.check(trial, [&](TestImage& image) { fillColours(image, first); }))
+                << "colours from " << first;
+    else
+        for (int sweep = 0; sweep < sweeps; ++sweep)
+            ASSERT_TRUE(checker.check(trial, [&](TestImage& image) { fillSweep(image, sweep); })) << "sweep " << sweep;
 }
 
-INSTANTIATE_TEST_SUITE_P(References, AllColours, testing::ValuesIn(oneCaseOfEachReference()),
+INSTANTIATE_TEST_SUITE_P(Formulas, AllColours, testing::ValuesIn(oneCaseOfEachFormula()),
                          caseName<testing::TestParamInfo<Case>>);
 
 } // namespace

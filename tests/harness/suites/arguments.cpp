@@ -1,21 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "tests/harness/argument_checks.h"
-
-#include "tests/harness/cases.h"
+#include "tests/harness/family_test.h"
 
 namespace zorcc::test {
 namespace {
 
-using reference::Case;
+class Arguments : public FamilyTest {};
 
-class Arguments : public testing::TestWithParam<Case> {};
+TEST_P(Arguments, FirstFailingCheckDecides) { EXPECT_TRUE(checkFaultyArguments(GetParam(), function)); }
 
-TEST_P(Arguments, FirstFailingCheckDecides) { EXPECT_TRUE(checkFaultyArguments(GetParam(), functionOf(GetParam()))); }
+TEST_P(Arguments, OddSizes) { EXPECT_TRUE(checkOddSizes(GetParam(), function)); }
 
-TEST_P(Arguments, OddSizes) { EXPECT_TRUE(checkOddSizes(GetParam(), functionOf(GetParam()))); }
-
-INSTANTIATE_TEST_SUITE_P(Functions, Arguments, testing::ValuesIn(familyCases().begin(), familyCases().end()),
-                         caseName<testing::TestParamInfo<Case>>);
+ZORCC_FOR_EVERY_FUNCTION(Arguments);
 
 } // namespace
 } // namespace zorcc::test

@@ -4,8 +4,7 @@
 
 #include <vector>
 
-#include "tests/harness/arrangements.h"
-#include "tests/harness/cases.h"
+#include "tests/harness/family_test.h"
 #include "zorcore.h"
 
 namespace zorcc::test {
@@ -22,12 +21,7 @@ std::vector<int> smallHeights(const Case& c)
     return heights;
 }
 
-class Differential : public testing::TestWithParam<Case> {
-protected:
-    Checker checker{GetParam(), functionOf(GetParam())};
-    Arrangements arrangements;
-    const testing::ScopedTrace seed{__FILE__, __LINE__, "ZORCC_TEST_SEED=" + std::to_string(baseSeed())};
-};
+class Differential : public FamilyTest {};
 
 // On one thread: to fork a team for each of so many small images would take longer than all the rest.
 TEST_P(Differential, EveryWidth)
@@ -70,7 +64,7 @@ TEST_P(Differential, TallColumn)
 // Row times step passes what an int can hold.
 TEST_P(Differential, HugeSteps)
 {
-    if (!functionOf(GetParam()).signature.steps) GTEST_SKIP() << "takes no steps";
+    if (!function.signature.steps) GTEST_SKIP() << "takes no steps";
     for (const int width : {1, 33, 200})
         for (const bool upwards : {false, true}) {
             const Arrangement near{Steps::sample}, far{Steps::huge, upwards};
@@ -83,7 +77,6 @@ TEST_P(Differential, HugeSteps)
 // Where both images have one shape they may be the same image.
 TEST_P(Differential, InPlace)
 {
-    const interface::Function& function = functionOf(GetParam());
     const interface::Format &from = *function.source, &to = *function.destination;
     bool sameShape = from.sample == to.sample && from.layout == to.layout && from.planes == to.planes;
     for (int p = 0; p < from.planes; ++p)
@@ -94,12 +87,15 @@ TEST_P(Differential, InPlace)
         for (const Steps steps : {Steps::tight, Steps::wide, Steps::isolated})
             for (const Edge edge : edges) {
                 const Arrangement image = arrangements.any(steps, edge);
-                ASSERT_TRUE(checker.checkInPlace({{width, 3}, image, image, Contents::random, arrangements.anySeed()}));
+                ASSERT_TRUE(checker.check({.size = {width, 3},
+                                           .source = image,
+                                           .destination = image,
+                                           .seed = arrangements.anySeed(),
+                                           .inPlace = true}));
             }
 }
 
-INSTANTIATE_TEST_SUITE_P(Functions, Differential, testing::ValuesIn(familyCases().begin(), familyCases().end()),
-                         caseName<testing::TestParamInfo<Case>>);
+ZORCC_FOR_EVERY_FUNCTION(Differential);
 
 } // namespace
 } // namespace zorcc::test

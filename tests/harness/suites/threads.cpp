@@ -5,16 +5,13 @@
 #include <thread>
 #include <vector>
 
-#include "tests/harness/cases.h"
-#include "tests/harness/checker.h"
+#include "tests/harness/family_test.h"
 #include "zorcore.h"
 
 namespace zorcc::test {
 namespace {
 
-using reference::Case;
-
-class Threads : public testing::TestWithParam<Case> {
+class Threads : public FamilyTest {
 protected:
     const int before = ownGetNumThreads();
     ~Threads() override { static_cast<void>(zorSetNumThreads(before)); }
@@ -22,7 +19,6 @@ protected:
 
 TEST_P(Threads, AnyNumber)
 {
-    Checker checker(GetParam(), functionOf(GetParam()));
     for (const int threads : {1, 2, 3, 4, 5, 6, 7, 8, 40}) {
         ASSERT_EQ(zorSetNumThreads(threads), zorStatusOk);
         for (const ZorSize size : {ZorSize{65, 37}, {641, 203}, {128, 160}, {128, 129}, {130, 140}, {196, 196}})
@@ -32,33 +28,27 @@ TEST_P(Threads, AnyNumber)
 
 TEST_P(Threads, CallsAtTheSameTime)
 {
-    const interface::Function& function = functionOf(GetParam());
     constexpr ZorSize size{320, 8};
     constexpr int callers = 4, calls = 50;
-    TestImage source;
-    source.arrange(*function.source, size, size, {}, sourceSteps(function.signature));
-    fill(source, Contents::random, 1);
-    TestImage destination[callers];
-    for (TestImage& image : destination) {
-        image.arrange(*function.destination, size, size, {}, destinationSteps(function.signature));
-        image.fillPattern(1);
-        image.copyToShadow();
-        reference::convert(GetParam(), function, source.image(), image.shadow(), size);
+    std::vector<Images> images;
+    for (std::uint32_t caller = 0; caller < callers; ++caller) {
+        auto& [source, destination] = images.emplace_back(function, size);
+        fill(source, Contents::random, caller);
+        destination.fillPattern(caller);
+        destination.copyToShadow();
+        reference::convert(GetParam(), function, source.image(), destination.shadow(), size);
     }
     std::vector<std::thread> threads;
-    for (TestImage& image : destination)
+    for (const Images& own : images)
         threads.emplace_back([&] {
-            for (int i = 0; i < calls; ++i) static_cast<void>(function(source.image(), image.image(), size));
+            for (int i = 0; i < calls; ++i)
+                static_cast<void>(function(own.source.image(), own.destination.image(), size));
         });
     for (std::thread& thread : threads) thread.join();
-    for (const TestImage& image : destination) {
-        const auto difference = image.difference();
-        EXPECT_FALSE(difference) << describe(*difference);
-    }
+    for (const Images& own : images) EXPECT_EQ(own.destination.difference(), std::nullopt);
 }
 
-INSTANTIATE_TEST_SUITE_P(Functions, Threads, testing::ValuesIn(familyCases().begin(), familyCases().end()),
-                         caseName<testing::TestParamInfo<Case>>);
+ZORCC_FOR_EVERY_FUNCTION(Threads);
 
 } // namespace
 } // namespace zorcc::test
