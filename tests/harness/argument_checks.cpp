@@ -55,14 +55,14 @@ std::vector<Fault> faultsOf(const reference::Case& c, const Function& function)
     addImage(&Call::source, signature.sourceArray);
     if (c.checks == Checks::stepsFirst) addPlanes(&Call::source, signature.sourceArray, function.source->planes);
     addImage(&Call::destination, signature.destinationArray);
-    if (c.checks == Checks::sizeFirst) addSize();
+    if (c.checks == Checks::sizeFirst || c.checks == Checks::stepsLast) addSize();
     if (c.checks != Checks::stepsFirst) addPlanes(&Call::source, signature.sourceArray, function.source->planes);
     addPlanes(&Call::destination, signature.destinationArray, function.destination->planes);
-    if (c.checks == Checks::stepsFirst) {
+    if (reference::checksSteps(c)) {
         addStep(&Call::source);
         addStep(&Call::destination);
     }
-    if (c.checks != Checks::sizeFirst) addSize();
+    if (c.checks == Checks::pointersFirst || c.checks == Checks::stepsFirst) addSize();
     if (c.demosaic)
         faults.push_back(
             {zorStatusBadArgument, [](Call& call, ZorSize bad) { call.extra.grid = bad.width < 0 ? -1 : 4; }});

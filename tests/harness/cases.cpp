@@ -102,6 +102,20 @@ constexpr Case videolayouts[] = {
     inBlocks("zori*422*", resample<moved>, {2, 1}),
 };
 
+constexpr Case rgb565[] = {
+    {"zoriYCbCrTo*_P3C3R", toRgb<bt601PlanarWeights>},
+    {"zoriYCbCr422To*_P3C3R", toRgb<bt601PlanarWeights>},
+    {"zoriYCbCr422To*_C2C3R", toRgb<bt601PackedWeights>},
+    {"zoriYCbCr411To*", toRgb<bt601Weights411>},
+    {"zoriYCbCr*To*_8u16u_*", toRgb<bt601Weights>},
+    {"zoriYUV420To*", toRgb<yuvWeights>},
+    {.name = "zori*ToYCbCr422_*", .reference = rgbToBt601By8ths, .minimum = {2, 1}},
+    {"zori*ToYCbCr411_*", rgbToBt601By8ths, OddSize::plainAndWarning, Checks::sizeFirst, {4, 1}, {4, 1}},
+    {"zori*ToYUV420_*", rgbToYuv, OddSize::warning, Checks::pointersFirst, {2, 2}, {2, 2}},
+    {"zori*420_16u8u_*", rgbToBt601, OddSize::warning, Checks::sizeFirst, {2, 2}, {2, 2}},
+    {"zori*", copyRgb, OddSize::plain, Checks::stepsLast},
+};
+
 constexpr Case hlspl[] = {
     {"zoriBGRToHLS_8u_*P*", rgbToHls, OddSize::plain, Checks::stepsFirst},
     {"zoriHLSToBGR_8u_*P*", hlsToRgb, OddSize::plain, Checks::stepsFirst},
@@ -131,6 +145,7 @@ constexpr Family table[] = {
     {"bt709", "BGR and YCbCr (ITU-R BT.709)", bt709},
     {"chromasampling", "Chroma sampling and plane orders", chromasampling},
     {"videolayouts", "Video layouts and deinterlacing", videolayouts},
+    {"rgb565", "Packed 16-bit RGB", rgb565},
     {"hlspl", "HLS and HSV", hlspl},
     {"hls", "HLS and HSV", hls},
     {"hsv", "HLS and HSV", hsv},

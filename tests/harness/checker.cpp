@@ -27,7 +27,7 @@ std::string steps(const TestImage& image)
 // Where steps are checked they must not be negative.
 Arrangement Checker::allowed(Arrangement arrangement) const
 {
-    arrangement.upwards &= expectation.checks != reference::Checks::stepsFirst;
+    arrangement.upwards &= !reference::checksSteps(expectation);
     return arrangement;
 }
 

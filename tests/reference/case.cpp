@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "tests/reference/dither.h"
+
 namespace zorcc::reference {
 
 using interface::Alpha;
@@ -56,6 +58,7 @@ void convert(const Case& c, const interface::Function& function, const interface
     Pixels to(*function.destination, destination, written);
     if (c.demosaic) return convertRegion(c.demosaic, from, to, extra);
     if (c.imageReference) return c.imageReference(function, from, to, extra);
+    if (function.dithers) return dither(c.reference, from, to);
     c.reference(from, to);
     if (function.alpha == Alpha::none || function.alpha == Alpha::keep) return;
     eachPixel(used, [&](int x, int y) {

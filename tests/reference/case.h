@@ -22,17 +22,19 @@ using ImageReference = void (*)(const interface::Function& function, const Pixel
 using Arguments = interface::Extra (*)(const interface::Function& function, std::uint32_t seed);
 
 enum class OddSize {
-    plain,   // every pixel is converted
-    warning, // whole blocks are converted; zorStatusOddSize when there are pixels beside them
-    cutOff,  // the same without the warning
-    refused  // nothing is converted unless it is whole blocks: zorStatusBadSize
+    plain,           // every pixel is converted
+    warning,         // whole blocks are converted; zorStatusOddSize when there are pixels beside them
+    plainAndWarning, // every pixel is converted, and the same status
+    cutOff,          // whole blocks are converted without the warning
+    refused          // nothing is converted unless it is whole blocks: zorStatusBadSize
 };
 
 // In which order arguments are checked.
 enum class Checks {
     sizeFirst,     // images, size, planes of arrays, grid of a mosaic
     pointersFirst, // images and planes, size
-    stepsFirst     // image after image with its planes, steps, size
+    stepsFirst,    // image after image with its planes, steps, size
+    stepsLast      // images, size, steps
 };
 
 struct Case {
@@ -48,20 +50,23 @@ struct Case {
     bool (*defined)(const float* pixel) = nullptr;
 };
 
+// Whether steps below 1 are refused.
+inline bool checksSteps(const Case& c) { return c.checks == Checks::stepsFirst || c.checks == Checks::stepsLast; }
+
 inline ZorStatus statusOf(const Case& c, ZorSize size)
 {
     if (size.width < c.minimum.width || size.height < c.minimum.height) return zorStatusBadSize;
     if (size.width % c.block.width == 0 && size.height % c.block.height == 0) return zorStatusOk;
-    return c.oddSize == OddSize::warning   ? zorStatusOddSize
-           : c.oddSize == OddSize::refused ? zorStatusBadSize
-                                           : zorStatusOk;
+    return c.oddSize == OddSize::warning || c.oddSize == OddSize::plainAndWarning ? zorStatusOddSize
+           : c.oddSize == OddSize::refused                                        ? zorStatusBadSize
+                                                                                  : zorStatusOk;
 }
 
 // The pixels of the source that the function may touch.
 inline ZorSize usedSize(const Case& c, ZorSize size)
 {
     if (statusOf(c, size) < 0) return {0, 0};
-    if (c.oddSize == OddSize::plain) return size;
+    if (c.oddSize == OddSize::plain || c.oddSize == OddSize::plainAndWarning) return size;
     return {size.width - size.width % c.block.width, size.height - size.height % c.block.height};
 }
 

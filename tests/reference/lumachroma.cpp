@@ -23,9 +23,9 @@ struct Row {
 };
 
 // Stores lumaOf(pixel, x) for every pixel, and u(pixels) and v(pixels) where the destination has a sample for them: the
-// last of an odd row shares it with none. Values that need a clamp and get none are refused.
+// last of an odd row shares it with none, or has none. Values that need a clamp and get none are refused.
 template <class Luma, class ChromaU, class ChromaV>
-void fromRgb(const Pixels& source, Pixels& destination, Luma lumaOf, ChromaU u, ChromaV v)
+void fromRgb(const Pixels& source, Pixels& destination, Luma lumaOf, ChromaU u, ChromaV v, bool wholeGroups = false)
 {
     const ZorSize shared = destination.shared(chromaU);
     for (int y0 = 0; y0 < source.height(); y0 += shared.height)
@@ -37,6 +37,7 @@ void fromRgb(const Pixels& source, Pixels& destination, Luma lumaOf, ChromaU u, 
                     destination.put(luma, x, y, lumaOf(pixel, x));
                     sums = {sums.count + 1, sums.r + pixel.r, sums.g + pixel.g, sums.b + pixel.b};
                 }
+            if (wholeGroups && sums.count < shared.width * shared.height) continue;
             if (destination.has(chromaU, x0, y0)) destination.put(chromaU, x0, y0, u(sums));
             if (destination.has(chromaV, x0, y0)) destination.put(chromaV, x0, y0, v(sums));
         }
@@ -128,6 +129,14 @@ void rgbToBt601(const Pixels& source, Pixels& destination)
         [](const Sums& s) { return chroma(bt601.cb, s); }, [](const Sums& s) { return chroma(bt601.cr, s); });
 }
 
+void rgbToBt601By8ths(const Pixels& source, Pixels& destination)
+{
+    fromRgb(
+        source, destination, [](const Sums& p, int) { return ((bt601.y(p) + half) >> 16) + 16; },
+        [](const Sums& s) { return chroma(bt601.cb, s, half / 2); },
+        [](const Sums& s) { return chroma(bt601.cr, s, half / 2); }, true);
+}
+
 void rgbToBt709(const Pixels& source, Pixels& destination)
 {
     fromRgb(
@@ -150,6 +159,13 @@ void toRgb(const Pixels& source, Pixels& destination, const Weights& weights)
     eachPixel(source.size(), [&](int x, int y) {
         const int cb = chromaAt(source, chromaU, x, y, 128), cr = chromaAt(source, chromaV, x, y, cb);
         putRgb(destination, x, y, source.get(luma, x, y), cb, cr, weights);
+    });
+}
+
+void copyRgb(const Pixels& source, Pixels& destination)
+{
+    eachPixel(source.size(), [&](int x, int y) {
+        for (const int c : {red, green, blue}) destination.put(c, x, y, source.get(c, x, y));
     });
 }
 

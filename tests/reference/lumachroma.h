@@ -13,6 +13,7 @@ void rgbToYuvQ14(const Pixels& source, Pixels& destination);    // weights of 14
 void rgbToYuvMatrix(const Pixels& source, Pixels& destination); // luma of the first whole blocks of 16 its own way
 
 void rgbToBt601(const Pixels& source, Pixels& destination);
+void rgbToBt601By8ths(const Pixels& source, Pixels& destination); // from 16 bits: chroma of whole groups alone
 void rgbToBt709(const Pixels& source, Pixels& destination);
 void rgbToBt709Full(const Pixels& source, Pixels& destination); // 4:2:2: samples limited to 1..254
 
@@ -47,6 +48,9 @@ template <Weights weights> void toRgb(const Pixels& source, Pixels& destination)
 {
     toRgb(source, destination, weights);
 }
+
+// The colours as they are.
+void copyRgb(const Pixels& source, Pixels& destination);
 
 // 4:2:0, chroma interpolated.
 void bt601ToRgbFiltered(const Pixels& source, Pixels& destination);

@@ -35,9 +35,10 @@ Pixels::Pixels(const Format& format, const Image& image, ZorSize size)
         p.rowBytes = static_cast<std::ptrdiff_t>(rowBytes(format, plane, size.width));
         p.rows = rows(format, plane, size.height);
         if (format.layout == Layout::packedBits) {
-            constexpr Place rgb565[] = {{.shift = 0, .bits = 5}, {.shift = 5, .bits = 6}, {.shift = 11, .bits = 5}};
-            p.shift = rgb565[index].shift;
-            p.bits = rgb565[index].bits;
+            const int bits[] = {format.fieldBits / 100, format.fieldBits / 10 % 10, format.fieldBits % 10};
+            for (int lower = 0; lower < index; ++lower) p.shift += bits[lower];
+            p.bits = bits[index];
+            p.highest = index == 2;
         } else {
             p.offset = (index - plane) * sampleBytes(sampleType);
         }
@@ -51,7 +52,7 @@ void Pixels::put(int channel, int x, int y, double value)
         using Limits = std::numeric_limits<decltype(sample)>;
         if (p.bits != 0) { // beside those of the other channels
             std::memcpy(&sample, at(channel, x, y), sizeof sample);
-            const int mask = ((1 << p.bits) - 1) << p.shift;
+            const int mask = (p.highest ? 0xffff : (1 << p.bits) - 1) << p.shift;
             value = (static_cast<int>(sample) & ~mask) | static_cast<int>(value) >> (8 - p.bits) << p.shift;
         }
         if (Limits::is_integer && (value < Limits::min() || value > Limits::max()))

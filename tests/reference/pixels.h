@@ -55,6 +55,9 @@ public:
         return (x >> p.log2X) * p.stride + p.offset < p.rowBytes && y >> p.log2Y < p.rows;
     }
 
+    // Of a format that packs its channels into one word.
+    int bits(int channel) const { return place[channel].bits; }
+
     // The pixels that share a sample of the channel.
     ZorSize shared(int channel) const { return {1 << place[channel].log2X, 1 << place[channel].log2Y}; }
 
@@ -94,6 +97,7 @@ private:
         std::ptrdiff_t rowBytes = 0; // none where the format lacks the channel
         int rows = 0;
         int shift = 0, bits = 0;
+        bool highest = false; // of the word: what is above it is 0
     };
     Place place[channels];
     ZorSize imageSize;

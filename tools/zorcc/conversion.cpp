@@ -51,6 +51,9 @@ bool isOf(const Function& function, std::optional<interface::Model> matrix)
 // Does it in a way that has to be asked for.
 bool isVariant(const Function& function) { return function.variant == "Filter" || function.variant == "Interlace"; }
 
+// Whether a picture would pass through pixels of 16 bits that neither begins nor ends there.
+bool losesBits(const Format& end, const Format& between) { return between.fieldBits != 0 && end.fieldBits == 0; }
+
 } // namespace
 
 std::string Stats::line() const
@@ -101,7 +104,8 @@ Conversion findConversion(const Format& from, const Format& to, std::optional<in
     for (const Function& function : interface::functions()) {
         if (movesSamples(function) ? !isSameModel(from.model, to.model) || isVariant(function) : plain && !packsBits)
             continue;
-        if (function.dithers != dither) continue;
+        if (function.dithers != dither || losesBits(from, *function.source) || losesBits(to, *function.destination))
+            continue;
         const auto before = rearrangementCost(from, *function.source);
         const auto after = rearrangementCost(*function.destination, to);
         if (!before || !after || !isOf(function, matrix)) continue;
