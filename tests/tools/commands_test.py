@@ -229,18 +229,17 @@ class Convert(unittest.TestCase):
 
     def test_sixteen_bits_a_pixel(self):
         write_pnm("smooth.ppm", 200, 100, smooth(200, 100))
+        write_pnm("flat.ppm", 8, 8, bytes([101, 60, 190]) * 64)
         for target, floor in (("rgb565", 33), ("bgr565", 33), ("rgb555", 33), ("bgr555", 33), ("rgb444", 28),
                               ("bgr444", 28)):
             with self.subTest(target):
-                zorcc("convert smooth.ppm cut.raw --to", target)
                 self.assertGreater(there_and_back("smooth.ppm", target, "200x100")[0], floor)
-                lines = zorcc(f"convert smooth.ppm dithered.raw --to {target} --dither --stats").splitlines()
+                # Of a flat picture cutting down makes one word, dithering several.
+                lines = zorcc(f"convert flat.ppm dithered.raw --to {target} --dither --stats").splitlines()
                 self.assertIn(f"To{target.upper()}Dither_8u16u_P3C3R", lines[-1])
-                for name in ("cut", "dithered"):
-                    zorcc(f"convert --size 200x100 --format {target} {name}.raw {name}.ppm")
-                mean = lambda path: sum(samples(path)) / len(samples(path))
-                # What is cut off is half a step on average; dithering keeps the mean but for zeros below the fields.
-                self.assertGreater(mean("dithered.ppm"), mean("cut.ppm") + 2)
+                zorcc("convert flat.ppm cut.raw --to", target)
+                words = lambda path: set(struct.unpack("<64H", read(path)))
+                self.assertEqual((len(words("cut.raw")), len(words("dithered.raw")) > 1), (1, True))
         # The channel named first is in the low bits, elsewhere in the high ones.
         write("565.raw", bytes([0x1f, 0]))
         for name, expected in (("rgb565", [248, 0, 0]), ("bgr565", [0, 0, 248]), ("rgb565le", [0, 0, 248])):
