@@ -44,6 +44,7 @@
 #include "zorcc/chromasampling.h" /* chroma sampling and plane orders */
 #include "zorcc/rgb565.h"         /* packed 16-bit RGB */
 #include "zorcc/videolayouts.h"   /* video layouts and deinterlacing */
+#include "zorcc/ycocg.h"          /* RGB and YCoCg */
 #include "zorcc/yuv.h"            /* RGB and YUV */
 
 /* Colour models */

@@ -25,6 +25,10 @@ ZorStatus check(const Checks& checks, const Image& from, const Image& to, ZorSiz
     if (checks.planes == Checks::Planes::beforeSize && !hasPlanes) return zorStatusNullPointer;
     const bool hasSteps = everywhere(from, to, [](const Image& image, int p) { return image.step[p] >= 1; });
     if (checks.steps == Checks::Steps::positiveBeforeSize && !hasSteps) return zorStatusBadStep;
+    if (checks.anySize && (size.width < 1 || size.height < 1)) {
+        size = {0, 0};
+        return zorStatusOk;
+    }
     if (size.width < checks.minimum.width || size.height < checks.minimum.height) return zorStatusBadSize;
     if (!hasPlanes) return zorStatusNullPointer;
     if (checks.steps == Checks::Steps::positiveAfterSize && !hasSteps) return zorStatusBadStep;

@@ -100,6 +100,7 @@ struct Checks {
     OddSize oddSize = OddSize::cutOff; // what becomes of a size that is no multiple of the block
     Planes planes = Planes::afterSize;
     Steps steps = Steps::any;
+    bool anySize = false; // sizes below 1 are not refused: nothing is converted
 };
 
 // Whole 2 x 2 blocks are converted; odd sizes have a status of their own.

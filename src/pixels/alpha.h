@@ -40,8 +40,8 @@ private:
 };
 
 // The same alpha for all pixels.
-template <class Formula> struct WithAlpha {
-    uint8_t alpha;
+template <class Formula, class Sample = uint8_t> struct WithAlpha {
+    Sample alpha;
     Formula formula{};
 
     template <class Source> [[gnu::always_inline]] auto operator()(const Source& source) const
@@ -52,17 +52,18 @@ template <class Formula> struct WithAlpha {
     auto single() const
     {
         using Single = decltype(singleOf(formula));
-        return WithAlpha<Single>{alpha};
+        return WithAlpha<Single, Sample>{alpha};
     }
 };
 
-template <int rows, Columns columns>
-ZORCC_INLINE Pixels<4, rows, columns> withAlpha(const Pixels<3, rows, columns>& rgb, uint8_t alpha)
+template <int rows, Columns columns, class Sample>
+ZORCC_INLINE Pixels<4, rows, columns, Sample> withAlpha(const Pixels<3, rows, columns, Sample>& rgb,
+                                                        std::type_identity_t<Sample> alpha)
 {
-    Pixels<4, rows, columns> rgba;
+    Pixels<4, rows, columns, Sample> rgba;
     for (int row = 0; row < rows; ++row) {
         for (int c = 0; c < 3; ++c) rgba.c[row][c] = rgb.c[row][c];
-        rgba.c[row][3] = fill8(alpha);
+        rgba.c[row][3] = (Vec<Sample>)(sizeof(Sample) == 1 ? fill8(alpha) : (u8v)fill16(alpha));
     }
     return rgba;
 }

@@ -85,6 +85,35 @@ using P3 = Planes<S, order, planeOf<S, 0>, planeOf<S, 1>, planeOf<S, 2>>;
 template <class S = uint8_t, Order order = Order::asStored>
 using AP4 = Planes<S, order, planeOf<S, 0>, planeOf<S, 1>, planeOf<S, 2>, planeOf<S, 3>>;
 
+// Samples of twice as many bits as those that they are made from, or that are made from them: for as many pixels as
+// those fill a vector with, two vectors, which a zip makes and a pack takes.
+template <class S> struct Halves {
+    Vec<S> c[3][2];
+};
+
+// Three planes of such samples.
+template <class S> struct WideP3 : Lines<planeOf<S, 0>, planeOf<S, 1>, planeOf<S, 2>> {
+    using Sample = S;
+    static constexpr int pixelsAtOnce = 2 * vectorBytes / int{sizeof(S)};
+
+    [[gnu::always_inline]] Halves<S> load(int x) const
+    {
+        Halves<S> p;
+        this->each([&](int c) {
+            u8v v[2];
+            loadBlocks(this->at(c, x), v);
+            p.c[c][0] = (Vec<S>)v[0];
+            p.c[c][1] = (Vec<S>)v[1];
+        });
+        return p;
+    }
+
+    [[gnu::always_inline]] void store(int x, const Halves<S>& p) const
+    {
+        this->each([&](int c) { storeBlocks(this->at(c, x), {(u8v)p.c[c][0], (u8v)p.c[c][1]}); });
+    }
+};
+
 using Bgr = C3<uint8_t, Order::reversed>;
 using Bgra = C4<uint8_t, Order::reversed>;
 using Bgrx = AC4<uint8_t, Order::reversed>; // alpha ignored, or left as it is

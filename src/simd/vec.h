@@ -126,6 +126,10 @@ ZORCC_INLINE u16v mulHigh(u16v a, u16v b) { return (u16v)ZORCC_MM(mulhi_epu16)(r
 ZORCC_INLINE u8v averageUp(u8v a, u8v b) { return (u8v)ZORCC_MM(avg_epu8)(reg(a), reg(b)); }
 ZORCC_INLINE u8v averageDown(u8v a, u8v b) { return averageUp(a, b) - ((a ^ b) & 1); }
 
+// Of signed elements, towards infinity and towards minus infinity.
+ZORCC_INLINE s16v averageUp(s16v a, s16v b) { return (a | b) - ((a ^ b) >> 1); }
+ZORCC_INLINE s16v averageDown(s16v a, s16v b) { return (a & b) + ((a ^ b) >> 1); }
+
 ZORCC_INLINE u16v averageUp(u16v a, u16v b) { return (u16v)ZORCC_MM(avg_epu16)(reg(a), reg(b)); }
 
 // ---- saturation -----------------------------------------------------------------------------------------------------
