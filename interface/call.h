@@ -28,7 +28,7 @@ struct Image {
 
 // Arguments beside images and size.
 struct Extra {
-    std::uint8_t alpha = 0;
+    int alpha = 0;  // of any type of samples
     int slice = 21; // of a deinterlacing conversion: the whole frame
     int noise = 0;  // of a bit-depth reduction
     int levels = 16;
@@ -167,10 +167,11 @@ template <class T, Parameter p> auto valueOf(const Call& call)
     if constexpr (p.takes == Takes::size) return call.size;
 }
 
-// An argument is of the parameter's type, but for enumerators as numbers and scratch memory of any type.
+// An argument is of the parameter's type, but for enumerators and samples as numbers and scratch memory of any type.
 template <class T, class Member> T argumentOf(const Member& value)
 {
-    static_assert(std::is_same_v<T, Member> || (std::is_enum_v<T> && std::is_same_v<Member, int>) ||
+    constexpr bool isNumber = std::is_enum_v<T> || (std::is_integral_v<T> && sizeof(T) < sizeof(int));
+    static_assert(std::is_same_v<T, Member> || (isNumber && std::is_same_v<Member, int>) ||
                   (std::is_pointer_v<T> && std::is_same_v<Member, void*>));
     return static_cast<T>(value);
 }

@@ -12,20 +12,29 @@ namespace zorcc::interface {
 // ---- colour models --------------------------------------------------------------------------------------------------
 
 // The Y'CbCr models differ in their matrix; anyYcc is that of conversions which only move samples.
-enum class Model { mosaic, grey, rgb, yuv, bt601, bt709, bt709full, anyYcc, hls, hsv };
+enum class Model { mosaic, grey, rgb, yuv, bt601, bt709, bt709full, anyYcc, ycocg, ycocgRev, hls, hsv };
 
 struct ModelProperties {
     Model model;
-    std::string_view
-        channels;            // one letter each: M of a mosaic, L of grey and of HLS, U and V for Cb and Cr, A for alpha
-    std::string_view matrix; // as names of formats and the tool's options say it; empty without luma and chroma
+    std::string_view channels; // one letter each: M of a mosaic, L of grey and of HLS, U and V for Cb and Cr, O and G
+                               // for Co and Cg, A for alpha
+    std::string_view matrix;    // as names of formats and the tool's options say it; empty without luma and chroma
+    std::string_view name = {}; // in names of formats, in place of the letters
 };
 
 inline constexpr ModelProperties models[] = {
-    {Model::mosaic, "M", ""},        {Model::grey, "L", ""},          {Model::rgb, "RGBA", ""},
+    {Model::mosaic, "M", ""},
+    {Model::grey, "L", ""},
+    {Model::rgb, "RGBA", ""},
     {Model::yuv, "YUVA", "yuv"}, // analogue-television Y'UV
-    {Model::bt601, "YUVA", "bt601"}, {Model::bt709, "YUVA", "bt709"}, {Model::bt709full, "YUVA", "bt709full"},
-    {Model::anyYcc, "YUVA", "any"},  {Model::hls, "HLSA", ""},        {Model::hsv, "HSVA", ""},
+    {Model::bt601, "YUVA", "bt601"},
+    {Model::bt709, "YUVA", "bt709"},
+    {Model::bt709full, "YUVA", "bt709full"},
+    {Model::anyYcc, "YUVA", "any"},
+    {Model::ycocg, "YOG", "", "ycocg"},
+    {Model::ycocgRev, "YOG", "", "ycocgr"},
+    {Model::hls, "HLSA", ""},
+    {Model::hsv, "HSVA", ""},
 };
 
 constexpr const ModelProperties& propertiesOf(Model model)
@@ -145,6 +154,7 @@ constexpr std::string_view arrangementOf(const Shape& s)
 {
     if (s.layout == Layout::packedBits) return s.fieldBits == 565 ? "565" : s.fieldBits == 555 ? "555" : "444";
     if (s.layout == Layout::packed422) return "";
+    if (s.layout == Layout::planar && s.sample != Sample::u8) return s.sample == Sample::s16 ? "444p16s" : "444p32s";
     if (s.layout == Layout::planar) return s.log2X > 1 ? "411p" : s.log2Y ? "420p" : s.log2X ? "422p" : "444p";
     constexpr std::string_view single[] = {"8", "16", "16s", "32s", "f32"}; // by sample type
     constexpr std::string_view three[] = {"24", "48", "48s", "96s", "f32"};
@@ -162,6 +172,8 @@ constexpr Text nameOf(const Shape& s)
     if (s.model == Model::anyYcc && !s.chromaFirst && !s.reversed) return text += "yuy2";
     if (s.channels == 1) {
         text += s.model == Model::mosaic ? "bayer" : "grey";
+    } else if (const std::string_view name = propertiesOf(s.model).name; !name.empty()) {
+        text += name;
     } else {
         const Text channels = channelsOf(s);
         for (char c : std::string_view(channels)) text += static_cast<char>(c - 'A' + 'a');

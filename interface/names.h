@@ -55,9 +55,10 @@ private:
 
 constexpr Name parse(std::string_view text)
 {
-    constexpr std::string_view words[] = {"RGB", "BGR", "YUV", "YCbCr", "YCrCb", "CbYCr", "HLS", "HSV"};
+    constexpr std::string_view words[] = {"RGB",   "BGR",   "SBGR",  "YUV", "YCbCr",
+                                          "YCrCb", "CbYCr", "YCoCg", "HLS", "HSV"};
     constexpr std::string_view packings[] = {"422", "420", "411", "1620", "565", "555", "444"};
-    constexpr std::string_view variants[] = {"709CSC", "709HDTV", "Filter", "Interlace"};
+    constexpr std::string_view variants[] = {"709CSC", "709HDTV", "Filter", "Interlace", "Rev"};
     constexpr std::string_view samples[] = {"8u", "16u", "16s", "32s", "32f"};
     constexpr std::string_view layouts[] = {"AC4", "AP4", "C1", "C2", "C3", "C4", "P2", "P3", "P4"};
 
@@ -95,7 +96,8 @@ constexpr Name parse(std::string_view text)
     return n;
 }
 
-constexpr bool isRgb(const Name::Side& side) { return side.model == "RGB" || side.model == "BGR"; }
+constexpr bool isBgr(const Name::Side& side) { return side.model == "BGR" || side.model == "SBGR"; }
+constexpr bool isRgb(const Name::Side& side) { return side.model == "RGB" || isBgr(side); }
 constexpr bool isMosaic(const Name::Side& side) { return side.model == "CFA"; }
 constexpr bool hasAlpha(const Name::Side& side) { return side.layout.find('4') != std::string_view::npos; }
 constexpr bool isPlanar(const Name::Side& side) { return side.layout.find('P') != std::string_view::npos; }
@@ -114,6 +116,7 @@ constexpr Model modelOf(const Name& name, const Name::Side& side)
 {
     if (isMosaic(side)) return Model::mosaic;
     if (isRgb(side)) return side.layout == "C1" ? Model::grey : Model::rgb;
+    if (side.model == "YCoCg") return name.variant == "Rev" ? Model::ycocgRev : Model::ycocg;
     if (side.model == "HLS") return Model::hls;
     if (side.model == "HSV") return Model::hsv;
     if (!isRgb(name.source) && !isRgb(name.destination)) return Model::anyYcc;
@@ -125,7 +128,7 @@ constexpr Shape shapeOf(const Name& name, const Name::Side& side)
 {
     const int count = side.layout.back() - '0';
     Shape s{modelOf(name, side), sampleOf(side), Layout::interleaved, count};
-    s.reversed = side.model == "BGR" || side.model == "YCrCb";
+    s.reversed = isBgr(side) || side.model == "YCrCb";
     if (isRgb(side) && !side.packing.empty()) {
         s.layout = Layout::packedBits;
         s.fieldBits = side.packing == "565" ? 565 : side.packing == "555" ? 555 : 444;

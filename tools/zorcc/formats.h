@@ -24,7 +24,7 @@ inline bool isHexcone(const Format& format)
 {
     return format.model == interface::Model::hls || format.model == interface::Model::hsv;
 }
-inline bool isYuv(const Format& format) { return !isRgb(format) && !isHexcone(format); }
+inline bool isYuv(const Format& format) { return interface::isYcc(format.model); }
 
 // How a picture file that holds red, green and blue, or grey, of the given sample type says it.
 const Format& pictureFormat(bool grey, bool alpha, Sample sample);
