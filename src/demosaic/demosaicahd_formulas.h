@@ -34,8 +34,9 @@ struct Sides {
     // The same from integers, the average and the quarter each rounded down.
     f32v greenRoundedDown() const
     {
-        const s32v quarter = truncate(bend * 0.25f + 65536.f) - 65536; // truncation of a positive number
-        return within(toFloat(truncate(nearSum * 0.5f) + quarter));
+        // Truncation of a positive number. Unsigned, as lanes beyond the samples hold anything.
+        const u32v quarter = (u32v)truncate(bend * 0.25f + 65536.f) - 65536;
+        return within(toFloat((s32v)((u32v)truncate(nearSum * 0.5f) + quarter)));
     }
 };
 
