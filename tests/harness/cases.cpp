@@ -8,6 +8,7 @@
 #include "tests/reference/hexcone.h"
 #include "tests/reference/lumachroma.h"
 #include "tests/reference/reduce.h"
+#include "tests/reference/ycocg.h"
 
 namespace zorcc::test {
 
@@ -116,6 +117,13 @@ constexpr Case rgb565[] = {
     {"zori*", copyRgb, OddSize::plain, Checks::stepsLast},
 };
 
+constexpr Case ycocg[] = {
+    {"zori*ToYCoCg_Rev_*", rgbToYCoCgReversible, OddSize::plain, Checks::pointersOnly},
+    {"zori*ToYCoCg_*", rgbToYCoCg, OddSize::plain, Checks::pointersOnly},
+    {"zoriYCoCgTo*_Rev_*", yCoCgReversibleToRgb, OddSize::plain, Checks::pointersOnly},
+    {"zoriYCoCgTo*", yCoCgToRgb, OddSize::plain, Checks::pointersOnly},
+};
+
 constexpr Case hlspl[] = {
     {"zoriBGRToHLS_8u_*P*", rgbToHls, OddSize::plain, Checks::stepsFirst},
     {"zoriHLSToBGR_8u_*P*", hlsToRgb, OddSize::plain, Checks::stepsFirst},
@@ -146,6 +154,7 @@ constexpr Family table[] = {
     {"chromasampling", "Chroma sampling and plane orders", chromasampling},
     {"videolayouts", "Video layouts and deinterlacing", videolayouts},
     {"rgb565", "Packed 16-bit RGB", rgb565},
+    {"ycocg", "RGB and YCoCg", ycocg},
     {"hlspl", "HLS and HSV", hlspl},
     {"hls", "HLS and HSV", hls},
     {"hsv", "HLS and HSV", hsv},

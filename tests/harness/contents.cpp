@@ -85,7 +85,9 @@ void fill(TestImage& image, Contents contents, std::uint32_t seed)
             reference::withType(image.format().sample, [&](auto sample) {
                 using T = decltype(sample);
                 const int value = valueAt(i) & greatest;
-                if constexpr (std::is_integral_v<T>)
+                if constexpr (std::is_same_v<T, std::int32_t>)
+                    sample = (value - 32768) * 65536 + value;
+                else if constexpr (std::is_integral_v<T>)
                     sample = static_cast<T>(value + std::numeric_limits<T>::min());
                 else
                     sample = contents == Contents::anyFloats ? anyFloat(random) : static_cast<float>(value) / 65535;

@@ -33,6 +33,7 @@ enum class OddSize {
 enum class Checks {
     sizeFirst,     // images, size, planes of arrays, grid of a mosaic
     pointersFirst, // images and planes, size
+    pointersOnly,  // the same without the size: one below 1 converts nothing
     stepsFirst,    // image after image with its planes, steps, size
     stepsLast      // images, size, steps
 };
@@ -55,6 +56,7 @@ inline bool checksSteps(const Case& c) { return c.checks == Checks::stepsFirst |
 
 inline ZorStatus statusOf(const Case& c, ZorSize size)
 {
+    if (c.checks == Checks::pointersOnly) return zorStatusOk;
     if (size.width < c.minimum.width || size.height < c.minimum.height) return zorStatusBadSize;
     if (size.width % c.block.width == 0 && size.height % c.block.height == 0) return zorStatusOk;
     return c.oddSize == OddSize::warning || c.oddSize == OddSize::plainAndWarning ? zorStatusOddSize

@@ -25,10 +25,10 @@ template <class Body> inline auto withType(interface::Sample sample, Body body)
         return body(std::uint16_t{});
     case interface::Sample::s16:
         return body(std::int16_t{});
-    case interface::Sample::f32:
-        return body(float{});
+    case interface::Sample::s32:
+        return body(std::int32_t{});
     default:
-        throw std::logic_error("no image has such samples");
+        return body(float{});
     }
 }
 
