@@ -90,9 +90,8 @@ private:
             window.other[k] = plane(rows[k], 1 - sites);
         }
         window.left = sites - 1;
-        const auto store = colours.red  ? sites == 0 ? storeRow<true, 0, directed> : storeRow<true, 1, directed>
-                            : sites == 0 ? storeRow<false, 0, directed>
-                                        : storeRow<false, 1, directed>;
+        const auto store = colours.red ? (sites == 0 ? storeRow<true, 0, directed> : storeRow<true, 1, directed>)
+                                       : (sites == 0 ? storeRow<false, 0, directed> : storeRow<false, 1, directed>);
         store(window, mosaic.pixel(x, y), width);
     }
 

@@ -26,13 +26,9 @@ inline Rgb at(const Picture& picture, int x, int y) { return {picture(x, y, 0), 
 inline Picture run(std::string_view name, const Mosaic& mosaic)
 {
     const interface::Function& function = *interface::findFunction(name);
-    const auto [width, height] = mosaic.size;
-    TestImage source, destination;
-    source.arrange(*function.source, mosaic.size, mosaic.size, {}, StepArguments::one);
-    destination.arrange(*function.destination, mosaic.size, mosaic.size, {}, StepArguments::one);
+    auto [source, destination] = Images(function, mosaic.size);
     reference::Pixels from(*function.source, source.image(), mosaic.size);
-    for (int y = 0; y < height; ++y)
-        for (int x = 0; x < width; ++x) from.put(0, x, y, mosaic(x, y));
+    reference::eachPixel(mosaic.size, [&](int x, int y) { from.put(0, x, y, mosaic(x, y)); });
     for (const Tier tier : tiersHere()) {
         const OnTier chosen(tier);
         EXPECT_EQ(function(source.image(), destination.image(), mosaic.size, {.grid = mosaic.grid}), zorStatusOk);
@@ -41,9 +37,9 @@ inline Picture run(std::string_view name, const Mosaic& mosaic)
     }
     Picture picture{mosaic.size};
     const reference::Pixels to(*function.destination, destination.image(), mosaic.size);
-    for (int y = 0; y < height; ++y)
-        for (int x = 0; x < width; ++x)
-            for (int c = 0; c < 3; ++c) picture(x, y, c) = to.get(c, x, y);
+    reference::eachPixel(mosaic.size, [&](int x, int y) {
+        for (int c = 0; c < 3; ++c) picture(x, y, c) = to.get(c, x, y);
+    });
     return picture;
 }
 
@@ -51,8 +47,7 @@ inline Picture run(std::string_view name, const Mosaic& mosaic)
 template <class Sample> Mosaic mosaicOf(ZorSize size, ZorBayerGrid grid, int maximum, Sample sample)
 {
     Mosaic mosaic{size, grid, maximum};
-    for (int y = 0; y < size.height; ++y)
-        for (int x = 0; x < size.width; ++x) mosaic(x, y) = sample(x, y);
+    reference::eachPixel(size, [&](int x, int y) { mosaic(x, y) = sample(x, y); });
     return mosaic;
 }
 

@@ -5,18 +5,14 @@
 
 #include <climits>
 
-#include "tests/harness/arrangements.h"
-#include "tests/harness/cases.h"
+#include "tests/harness/family_test.h"
 #include "zorcore.h"
 
 namespace zorcc::test {
 namespace {
 
-class Regions : public testing::TestWithParam<reference::Case> {
+class Regions : public FamilyTest {
 protected:
-    Checker checker{GetParam(), functionOf(GetParam())};
-    Arrangements arrangements;
-    const testing::ScopedTrace seed{__FILE__, __LINE__, "ZORCC_TEST_SEED=" + std::to_string(baseSeed())};
     const int before = ownGetNumThreads();
     ~Regions() override { static_cast<void>(zorSetNumThreads(before)); }
 
@@ -69,8 +65,7 @@ TEST_P(Regions, AnyNumberOfThreads)
         }
 }
 
-INSTANTIATE_TEST_SUITE_P(Functions, Regions, testing::ValuesIn(familyCases().begin(), familyCases().end()),
-                         caseName<testing::TestParamInfo<reference::Case>>);
+ZORCC_FOR_EVERY_FUNCTION(Regions);
 
 } // namespace
 } // namespace zorcc::test

@@ -57,11 +57,6 @@ void arrange(TestImage& image, ZorSize size, const Arrangement& arrangement, uin
     image.copyToShadow();
 }
 
-uint8_t* row(const interface::Image& image, int y)
-{
-    return static_cast<uint8_t*>(image.plane[0]) + std::ptrdiff_t{image.step[0]} * y;
-}
-
 void expectLikeShadow(const TestImage& image)
 {
     const auto difference = image.difference();
@@ -72,8 +67,8 @@ void expectFilled(ZorSize size, const Arrangement& arrangement)
 {
     TestImage target;
     arrange(target, size, arrangement, 1);
-    for (int y = 0; y < size.height; ++y) std::memset(row(target.shadow(), y), 0x42, size.width);
-    ASSERT_EQ(zoriSet_8u_C1R(0x42, row(target.image(), 0), target.image().step[0], size), zorStatusOk);
+    for (int y = 0; y < size.height; ++y) std::memset(rowOf(target.shadow(), 0, y), 0x42, size.width);
+    ASSERT_EQ(zoriSet_8u_C1R(0x42, rowOf(target.image(), 0, 0), target.image().step[0], size), zorStatusOk);
     expectLikeShadow(target);
 }
 
@@ -83,8 +78,8 @@ void expectCopied(ZorSize size, const Arrangement& from, const Arrangement& to)
     arrange(source, size, from, 2);
     arrange(target, size, to, 1);
     const interface::Image &src = source.image(), &dst = target.image();
-    for (int y = 0; y < size.height; ++y) std::memcpy(row(target.shadow(), y), row(src, y), size.width);
-    ASSERT_EQ(zoriCopy_8u_C1R(row(src, 0), src.step[0], row(dst, 0), dst.step[0], size), zorStatusOk);
+    for (int y = 0; y < size.height; ++y) std::memcpy(rowOf(target.shadow(), 0, y), rowOf(src, 0, y), size.width);
+    ASSERT_EQ(zoriCopy_8u_C1R(rowOf(src, 0, 0), src.step[0], rowOf(dst, 0, 0), dst.step[0], size), zorStatusOk);
     expectLikeShadow(target);
 }
 

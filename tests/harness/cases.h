@@ -28,13 +28,13 @@ Rule ruleOf(const interface::Function& function);
 
 std::vector<reference::Case> casesOf(std::string_view family);
 
-#ifdef ZORCC_FAMILY // in the test programs of families
+// The family that a test program is for: each defines it, in a file that is generated.
+extern const char* const testedFamily;
 inline const std::vector<reference::Case>& familyCases()
 {
-    static const std::vector<reference::Case> cases = casesOf(ZORCC_FAMILY);
+    static const std::vector<reference::Case> cases = casesOf(testedFamily);
     return cases;
 }
-#endif
 
 // The interface's row of a case.
 const interface::Function& functionOf(const reference::Case& c);

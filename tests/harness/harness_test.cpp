@@ -44,11 +44,6 @@ Function withBody(const Case& c, Body body)
     return function;
 }
 
-Byte* row(const interface::Image& image, int y)
-{
-    return static_cast<Byte*>(image.plane[0]) + std::ptrdiff_t{image.step[0]} * y;
-}
-
 // Broken bodies: change(call) before the right work,
 template <class Change> Body changed(Change)
 {
@@ -77,7 +72,7 @@ template <class Damage> Body damaged(Damage)
         const ZorStatus status = sound->bound(call);
         const int bytes = static_cast<int>(sound->source->channels.size()) * call.size.width;
         for (int y = 0; y < call.size.height && (status == zorStatusOk || status == zorStatusOddSize); ++y)
-            Damage{}(Row{row(call.source, y), row(call.destination, y), bytes, call.source.step[0],
+            Damage{}(Row{rowOf(call.source, 0, y), rowOf(call.destination, 0, y), bytes, call.source.step[0],
                          call.destination.step[0], y, y == call.size.height - 1});
         return status;
     };
@@ -179,8 +174,8 @@ TEST(Harness, CatchesAddressesOf32Bits)
         one.size.height = 1;
         for (int y = 0; y < call.size.height; ++y) {
             const unsigned offset = static_cast<unsigned>(call.source.step[0]) * static_cast<unsigned>(y);
-            one.source.plane[0] = row(call.source, 0) + static_cast<std::int32_t>(offset);
-            one.destination.plane[0] = row(call.destination, y);
+            one.source.plane[0] = rowOf(call.source, 0, 0) + static_cast<std::int32_t>(offset);
+            one.destination.plane[0] = rowOf(call.destination, 0, y);
             static_cast<void>(sound->bound(one));
         }
         return zorStatusOk;
@@ -216,7 +211,7 @@ const Fault wrongChecks[] = {
     {"the size before pointers", interleaved,
      refused<zorStatusBadSize>([](const Call& c) { return c.size.width < 1 || c.size.height < 1; })},
     {"writes before it checks", interleaved, changed([](Call& call) {
-         if (call.destination.plane[0]) row(call.destination, 0)[0] ^= 1;
+         if (call.destination.plane[0]) rowOf(call.destination, 0, 0)[0] ^= 1;
      })},
     {"forgets the height", interleaved, changed([](Call& call) { call.size.height = 1; })},
     {"planes before the size", planar422, refused<zorStatusNullPointer>([](const Call& call) {

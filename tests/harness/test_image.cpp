@@ -109,10 +109,7 @@ void TestImage::copyToShadow()
 
 void TestImage::acceptRows()
 {
-    eachRow([&](std::uint8_t* row, int, int p, int y) {
-        std::memcpy(static_cast<std::uint8_t*>(shadowImage.plane[p]) + std::ptrdiff_t{shadowImage.step[p]} * y, row,
-                    rowBytes[p]);
-    });
+    eachRow([&](std::uint8_t* row, int, int p, int y) { std::memcpy(rowOf(shadowImage, p, y), row, rowBytes[p]); });
 }
 
 std::optional<std::string> TestImage::difference() const
@@ -150,8 +147,7 @@ TestImage::Place TestImage::placeOf(const std::uint8_t* address) const
     Place nearest{std::numeric_limits<std::ptrdiff_t>::max(), 0, 0, 0};
     for (int p = 0; p < planes(); ++p)
         for (int y = 0; y < std::max(rows[p], 1); ++y) {
-            const std::ptrdiff_t x = address - static_cast<const std::uint8_t*>(actualImage.plane[p]) -
-                                     std::ptrdiff_t{actualImage.step[p]} * y;
+            const std::ptrdiff_t x = address - rowOf(actualImage, p, y);
             const std::ptrdiff_t bytes = static_cast<std::ptrdiff_t>(rowBytes[p]);
             const std::ptrdiff_t distance = x < 0 ? -x : x >= bytes ? x - bytes + 1 : 0;
             if (distance < nearest.distance) nearest = {distance, p, y, x};

@@ -35,6 +35,12 @@ enum class StepArguments { none, one, perPlane };
 StepArguments sourceSteps(const interface::Signature& signature);
 StepArguments destinationSteps(const interface::Signature& signature);
 
+// The first byte of a row.
+inline std::uint8_t* rowOf(const interface::Image& image, int p, int y)
+{
+    return static_cast<std::uint8_t*>(image.plane[p]) + std::ptrdiff_t{image.step[p]} * y;
+}
+
 class TestImage {
 public:
     // `used` are the pixels that the function may touch; the rest of the image has no memory.
@@ -72,8 +78,8 @@ public:
     {
         for (int p = 0; p < form->planes; ++p)
             for (int y = 0; y < rows[p]; ++y)
-                visit(static_cast<std::uint8_t*>(actualImage.plane[p]) + std::ptrdiff_t{actualImage.step[p]} * y,
-                      static_cast<int>(rowBytes[p]) / interface::sampleBytes(form->sample), p, y);
+                visit(rowOf(actualImage, p, y), static_cast<int>(rowBytes[p]) / interface::sampleBytes(form->sample), p,
+                      y);
     }
 
 private:

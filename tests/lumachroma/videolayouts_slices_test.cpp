@@ -37,9 +37,7 @@ void copyRows(const TestImage& image, Planes& planes, bool intoImage)
 interface::Image fromRow(int start, const TestImage& image)
 {
     interface::Image rest = image.image();
-    for (int p = 0; p < image.planes(); ++p)
-        rest.plane[p] =
-            static_cast<std::uint8_t*>(rest.plane[p]) + interface::rows(image.format(), p, start) * rest.step[p];
+    for (int p = 0; p < image.planes(); ++p) rest.plane[p] = rowOf(rest, p, interface::rows(image.format(), p, start));
     return rest;
 }
 
@@ -61,10 +59,7 @@ Planes converted(const char* name, ZorSize size, const std::vector<Slice>& slice
     for (Bytes& plane : source)
         for (std::uint8_t& byte : plane) byte = static_cast<std::uint8_t>(random() >> 24);
     for (const auto& [start, end, kind] : slices) {
-        TestImage from, to; // up to the end of accessible memory
-        from.arrange(*function.source, {size.width, end}, {size.width, end}, {}, sourceSteps(function.signature));
-        to.arrange(*function.destination, {size.width, end}, {size.width, end}, {},
-                   destinationSteps(function.signature));
+        const auto& [from, to] = Images(function, {size.width, end}); // up to the end of accessible memory
         copyRows(from, source, true);
         copyRows(to, result, true);
         EXPECT_EQ(function(fromRow(start, from), fromRow(start, to), {size.width, end - start}, {.slice = kind}),

@@ -5,9 +5,7 @@
 #include <climits>
 #include <vector>
 
-#include "tests/harness/arrangements.h"
-#include "tests/harness/cases.h"
-#include "tests/harness/tiers.h"
+#include "tests/harness/family_test.h"
 #include "tests/reduce/methods.h"
 
 namespace zorcc::test {
@@ -74,14 +72,11 @@ TEST(ReduceGolden, BlackAndWhiteStay)
                 EXPECT_EQ(reduced(image, {70, 40}, method, levels), image);
 }
 
-class ReduceBits : public testing::TestWithParam<reference::Case> {};
+class ReduceBits : public FamilyTest {};
 
 // Rows are converted in bands, and pixels with the noise of 1024 columns.
 TEST_P(ReduceBits, AcrossBandsAndNoise)
 {
-    Checker checker(GetParam(), functionOf(GetParam()));
-    Arrangements arrangements;
-    const testing::ScopedTrace seed(__FILE__, __LINE__, "ZORCC_TEST_SEED=" + std::to_string(baseSeed()));
     const auto check = [&](ZorSize size, Contents contents) {
         return checker.check({size, {Steps::sample}, {Steps::sample}, contents, arrangements.anySeed()});
     };
@@ -95,7 +90,6 @@ TEST_P(ReduceBits, AcrossBandsAndNoise)
 // Nulls and sizes come first, as everywhere; then noise, levels; an unknown method is no error.
 TEST_P(ReduceBits, Statuses)
 {
-    const interface::Function& function = functionOf(GetParam());
     const bool words = interface::sampleBytes(function.source->sample) == 2 &&
                        interface::sampleBytes(function.destination->sample) == 2;
     const int most = words ? 65536 : 256;
@@ -114,10 +108,8 @@ TEST_P(ReduceBits, Statuses)
                  {0, most + 1, 0, zorStatusDitherLevels},
                  {0, INT_MIN, 4, zorStatusDitherLevels}};
     constexpr ZorSize size{20, 3};
-    TestImage source, destination;
-    source.arrange(*function.source, size, size, {}, sourceSteps(function.signature));
+    auto [source, destination] = Images(function, size);
     fill(source, Contents::random, 1);
-    destination.arrange(*function.destination, size, size, {}, destinationSteps(function.signature));
     for (const auto& c : cases) {
         const interface::Extra extra {
             .noise = c.noise, .levels = c.levels, .method = static_cast<ZorDitherMethod>(c.method)
@@ -134,8 +126,7 @@ TEST_P(ReduceBits, Statuses)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Functions, ReduceBits, testing::ValuesIn(familyCases().begin(), familyCases().end()),
-                         caseName<testing::TestParamInfo<reference::Case>>);
+ZORCC_FOR_EVERY_FUNCTION(ReduceBits);
 
 } // namespace
 } // namespace zorcc::test
