@@ -262,16 +262,6 @@ ZORCC_INLINE s16v addOneWhere(s16v v, u16v a, u16v b)
 #endif
 }
 
-ZORCC_INLINE u16v addOneWhere(u16v v, s16v a, s16v b)
-{
-#if defined(ZORCC_TIER_avx512)
-    const __mmask32 greater = _mm512_cmpgt_epi16_mask(reg(a), reg(b));
-    return (u16v)_mm512_mask_sub_epi16(reg(v), greater, reg(v), _mm512_set1_epi16(-1));
-#else
-    return v - (u16v)(a > b);                                   // true is -1
-#endif
-}
-
 ZORCC_INLINE u8v addOneWhere(u8v v, s8v a, s8v b)
 {
 #if defined(ZORCC_TIER_avx512)

@@ -31,6 +31,7 @@ template <class V> Vectors<V, lanesOf<V>> transposed(Vectors<V, lanesOf<V>> rows
 
 constexpr auto same = [](int i) { return i; };
 constexpr auto first = [](int) { return 0; };
+constexpr auto ofBlock = [](int i) { return i % 16; };
 constexpr auto ofPair = [](int i) { return i % 2; };
 template <int odd> constexpr auto second = [](int i) { return 2 * i + odd; };
 
@@ -63,6 +64,7 @@ constexpr auto inMemory = [](int i) { return (i % bytes / 16 * 2 + i / bytes) * 
 constexpr auto inBlocks = [](int i) { return i / 16 % 2 * bytes + i / 32 * 16 + i % 16; };
 constexpr auto fromHalves = [](int i) { return i % 16 / 8 * half + i / 16 * 8 + i % 8; };
 constexpr auto toHalves = [](int i) { return i % half / 8 * 16 + i / half * 8 + i % 8; };
+constexpr auto toEvenQuarters = [](int i) { return toHalves(2 * i); };
 constexpr auto fromDoubledQuarters = [](int i) { return i % 16 / 8 * half / 2 + i / 16 * 4 + i % 8 / 2; };
 
 // Channels, of which each takes a vector, from pixels, and pixels from channels.
@@ -118,6 +120,7 @@ constexpr Operation operations[] = {
     MOVES(u16v, 2, bytes, first, store(out, fill16(load<int16_t>(in)))),
     MOVES(u32v, 4, bytes, first, store(out, fill32(load<int32_t>(in)))),
     MOVES(f32v, 4, bytes, first, store(out, fillFloat(load<float>(in)))),
+    MOVES(u8v, 16, bytes, ofBlock, store(out, fillBlock(loadBlock(in)))),
     MOVES(u8v, 2, bytes, ofPair, store(out, fillPair8(load<int8_t>(in), load<int8_t>(in + 1)))),
     MOVES(u16v, 4, bytes, ofPair, store(out, fillPair16(load<int16_t>(in), load<int16_t>(in + 2)))),
     ZORCC_OF_FOUR(ZIPS, u8v, s16v, u32v, u64v),
@@ -137,6 +140,7 @@ constexpr Operation operations[] = {
     MOVES(u8v, bytes, bytes, fromHalves, store(out, loadHalves(in, in + half))),
     MOVES(u8v, half, bytes, fromDoubledQuarters, store(out, loadDoubledQuarters(in, in + half / 2))),
     MOVES(u8v, bytes, bytes, toHalves, storeHalves(out, out + half, load(in))),
+    MOVES(u8v, bytes, half, toEvenQuarters, storeEvenQuarters(out, out + half / 2, load(in))),
 };
 
 } // namespace

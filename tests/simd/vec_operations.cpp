@@ -45,6 +45,11 @@ constexpr auto shuffled = [](int i, const auto& v, int index) {
         operation<>(                                                                                                   \
             "odd mask " #V, [] { return alternatingMask<V>(true); }, [](int i) { return -(i % 2); })
 
+#define SHIFT(count)                                                                                                   \
+    operation<u8v>(                                                                                                    \
+        "shiftBytes " #count, [](u8v v) { return shiftBytes<count>(v); },                                              \
+        each([](int a) { return count < 0 ? a << -(count) : a >> (count); }))
+
 constexpr Operation operations[] = {
     ZORCC_OF_TWO(ARITHMETIC, u8v, u16v),
     ZORCC_OPERATION(mulAddPairs, sumOfPair, u8v, s8v),
@@ -66,6 +71,9 @@ constexpr Operation operations[] = {
         firstOfPairs, [](int i, const auto& v) { return v[2 * i]; }, u8v),
     ZORCC_OPERATION(
         secondOfPairs, [](int i, const auto& v) { return v[2 * i + 1]; }, u8v),
+    ZORCC_OPERATION(
+        exchangePairs, [](int i, const auto& v) { return v[i ^ 1]; }, s16v),
+    ZORCC_OF_FOUR(SHIFT, 3, 0, 8, -5),
     ZORCC_OPERATION(shuffle, ([](int i, const auto& v, const auto& index) { return shuffled(i, v, index[i]); }), u8v,
                     u8v),
     operation<u8v>(
