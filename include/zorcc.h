@@ -41,6 +41,7 @@
 /* Luma and chroma */
 #include "zorcc/bt601.h"          /* RGB and YCbCr (ITU-R BT.601) */
 #include "zorcc/bt709.h"          /* BGR and YCbCr (ITU-R BT.709) */
+#include "zorcc/cbycr422.h"       /* RGB and packed CbYCr and YCrCb 4:2:2 */
 #include "zorcc/chromasampling.h" /* chroma sampling and plane orders */
 #include "zorcc/rgb565.h"         /* packed 16-bit RGB */
 #include "zorcc/videolayouts.h"   /* video layouts and deinterlacing */

@@ -59,6 +59,7 @@ constexpr Name parse(std::string_view text)
                                           "YCrCb", "CbYCr", "YCoCg", "HLS", "HSV"};
     constexpr std::string_view packings[] = {"422", "420", "411", "1620", "565", "555", "444"};
     constexpr std::string_view variants[] = {"709CSC", "709HDTV", "Filter", "Interlace", "Rev"};
+    constexpr std::string_view curves[] = {"Gamma"}; // variants that follow the formats without a break
     constexpr std::string_view samples[] = {"8u", "16u", "16s", "32s", "32f"};
     constexpr std::string_view layouts[] = {"AC4", "AP4", "C1", "C2", "C3", "C4", "P2", "P3", "P4"};
 
@@ -83,9 +84,10 @@ constexpr Name parse(std::string_view text)
             to = from;
         }
     }
+    n.variant = name.readOneOf(curves);
     name.expect(name.read("_"));
-    n.variant = name.readOneOf(variants);
-    name.expect(n.variant.empty() || name.read("_"));
+    n.variant = name.readOneOf(variants, n.variant);
+    name.expect(n.variant.empty() || n.variant == curves[0] || name.read("_"));
     from.sample = name.readOneOf(samples);
     to.sample = name.readOneOf(samples, from.sample);
     name.expect(!from.sample.empty() && name.read("_"));

@@ -88,6 +88,50 @@ ZOR_API ZorStatus zoriYCrCb420ToBGR_Filter_8u_P3C4R(const uint8_t* const pSrc[3]
                                                     int dstStep, ZorSize roiSize, uint8_t aval);
 
 /*
+ * BGR with chroma of a group of pixels, from their mean, which takes at least one group: width and height below it give
+ * zorStatusBadSize, after all pointers are checked.
+ *
+ * To 4:2:2 (2 x 1 pixels), 4:1:1 (4 x 1) and 4:2:0 (2 x 2), chroma rounded with 1/8. Pixels that do not fill a group
+ * get luma alone. Then the result is zorStatusOddSize for 4:1:1, 4:2:0 and the form from RGB.
+ */
+ZOR_API ZorStatus zoriBGRToYCbCr422_8u_C3C2R(const uint8_t* pSrc, int srcStep, uint8_t* pDst, int dstStep,
+                                             ZorSize roiSize);
+ZOR_API ZorStatus zoriBGRToYCbCr422_8u_C3P3R(const uint8_t* pSrc, int srcStep, uint8_t* const pDst[3],
+                                             const int dstStep[3], ZorSize roiSize);
+ZOR_API ZorStatus zoriBGRToYCbCr422_8u_AC4C2R(const uint8_t* pSrc, int srcStep, uint8_t* pDst, int dstStep,
+                                              ZorSize roiSize);
+ZOR_API ZorStatus zoriBGRToYCbCr422_8u_AC4P3R(const uint8_t* pSrc, int srcStep, uint8_t* const pDst[3],
+                                              const int dstStep[3], ZorSize roiSize);
+ZOR_API ZorStatus zoriRGBToYCbCr422_8u_C3P3R(const uint8_t* pSrc, int srcStep, uint8_t* const pDst[3],
+                                             const int dstStep[3], ZorSize roiSize);
+ZOR_API ZorStatus zoriBGRToYCbCr411_8u_C3P3R(const uint8_t* pSrc, int srcStep, uint8_t* const pDst[3],
+                                             const int dstStep[3], ZorSize roiSize);
+ZOR_API ZorStatus zoriBGRToYCbCr411_8u_AC4P3R(const uint8_t* pSrc, int srcStep, uint8_t* const pDst[3],
+                                              const int dstStep[3], ZorSize roiSize);
+ZOR_API ZorStatus zoriBGRToYCbCr420_8u_C3P3R(const uint8_t* pSrc, int srcStep, uint8_t* const pDst[3],
+                                             const int dstStep[3], ZorSize roiSize);
+ZOR_API ZorStatus zoriBGRToYCbCr420_8u_AC4P3R(const uint8_t* pSrc, int srcStep, uint8_t* const pDst[3],
+                                              const int dstStep[3], ZorSize roiSize);
+ZOR_API ZorStatus zoriBGRToYCrCb420_8u_C3P3R(const uint8_t* pSrc, int srcStep, uint8_t* const pDst[3],
+                                             const int dstStep[3], ZorSize roiSize);
+ZOR_API ZorStatus zoriBGRToYCrCb420_8u_AC4P3R(const uint8_t* pSrc, int srcStep, uint8_t* const pDst[3],
+                                              const int dstStep[3], ZorSize roiSize);
+ZOR_API ZorStatus zoriRGBToYCrCb420_8u_AC4P3R(const uint8_t* pSrc, int srcStep, uint8_t* const pDst[3],
+                                              const int dstStep[3], ZorSize roiSize);
+
+/* 4:2:2 and 4:4:4 to BGR with the constants of the packed forms above. An odd last pixel as there. */
+ZOR_API ZorStatus zoriYCbCr422ToBGR_8u_C2C3R(const uint8_t* pSrc, int srcStep, uint8_t* pDst, int dstStep,
+                                             ZorSize roiSize);
+ZOR_API ZorStatus zoriYCbCr422ToBGR_8u_C2C4R(const uint8_t* pSrc, int srcStep, uint8_t* pDst, int dstStep,
+                                             ZorSize roiSize, uint8_t aval);
+ZOR_API ZorStatus zoriYCbCr422ToBGR_8u_P3C3R(const uint8_t* const pSrc[3], const int srcStep[3], uint8_t* pDst,
+                                             int dstStep, ZorSize roiSize);
+ZOR_API ZorStatus zoriYCbCrToBGR_8u_P3C3R(const uint8_t* const pSrc[3], int srcStep, uint8_t* pDst, int dstStep,
+                                          ZorSize roiSize);
+ZOR_API ZorStatus zoriYCbCrToBGR_8u_P3C4R(const uint8_t* const pSrc[3], int srcStep, uint8_t* pDst, int dstStep,
+                                          ZorSize roiSize, uint8_t aval);
+
+/*
  * Planar 4:1:1, chroma planes of width / 4 by height, to BGR: four pixels take a chroma sample; the last width mod 4
  * pixels of a row take its last one (width below 4: 128).
  */

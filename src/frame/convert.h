@@ -106,6 +106,9 @@ struct Checks {
 // Whole 2 x 2 blocks are converted; odd sizes have a status of their own.
 inline constexpr Checks even = {.block = {2, 2}, .oddSize = Checks::OddSize::warned};
 
+// Steps below 1 are refused, after the size.
+inline constexpr Checks positiveSteps = {.steps = Checks::Steps::positiveAfterSize};
+
 // An error is the status of the first check that fails. Otherwise the size is cut down to whole blocks, unless what
 // does not fill one is converted, too, and the status is that of the finished conversion.
 [[nodiscard]] ZorStatus check(const Checks& checks, const Image& from, const Image& to, ZorSize& size);

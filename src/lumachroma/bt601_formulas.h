@@ -16,8 +16,8 @@ inline constexpr ToRgb toRgb = centred(76284, 104595, 25690, 53281, 132186, 16, 
 inline constexpr ToRgb planarToRgb = centred(76282, 104593, 25689, 53279, 132184, 16, 0);
 inline constexpr ToRgb toRgb411 = centred(76294, 104595, 25625, 53281, 132186, 16, 0);
 
-// For packed 4:2:2, with constants 57, 14 and 13 below the exact centres.
-inline constexpr ToRgb packedToRgb = {76284, 104595, 25690, 53281, 132186, -14608761, 8887730, -18140365};
+// For packed 4:2:2 and all BGR, with constants 57, 14 and 13 below the exact centres.
+inline constexpr ToRgb foldedToRgb = {76284, 104595, 25690, 53281, 132186, -14608761, 8887730, -18140365};
 
 } // namespace zorcc::bt601
 
@@ -27,17 +27,10 @@ namespace {
 using RgbToBt601 = RgbToYCbCr<bt601::fromRgb>;
 using RgbToBt601_420 = RgbToYCbCr420<bt601::fromRgb, ycbcr::studioLuma>;
 
-// 4:2:2. The luma of the second pixel of a pair is rounded down.
-struct RgbToBt601_422 : RgbToSubsampled<1, WeightedLuma<bt601::fromRgb.y, ycbcr::studioLuma, ycbcr::studioLumaDown>,
-                                        YCbCrChroma<bt601::fromRgb, 2>> {
-    RgbToBt601 single() const { return {}; }
-};
+// 4:2:2. The luma of the second pixel of a pair is rounded down; with the rounding of 4:2:0 it is not.
+using RgbToBt601_422 = RgbToYCbCr422<bt601::fromRgb, YCbCrChroma<bt601::fromRgb, 2>, ycbcr::studioLumaDown>;
+using RgbToBt601_422By8th = RgbToYCbCr422<bt601::fromRgb, EighthChroma<bt601::fromRgb>>;
 
-// 4:2:2 with the rounding of 4:2:0, and 4:1:1.
-struct RgbToBt601_422By8th
-    : RgbToSubsampled<1, WeightedLuma<bt601::fromRgb.y, ycbcr::studioLuma>, EighthChroma<bt601::fromRgb>> {
-    RgbToBt601 single() const { return {}; }
-};
 struct RgbToBt601_411
     : RgbToSubsampled<1, WeightedLuma<bt601::fromRgb.y, ycbcr::studioLuma>, YCbCrChroma<bt601::fromRgb, 4>, 4> {
     RgbToBt601 single() const { return {}; }
@@ -45,7 +38,7 @@ struct RgbToBt601_411
 
 using Bt601ToRgb = YccToRgb<bt601::toRgb>;
 using Bt601PlanesToRgb = YccToRgb<bt601::planarToRgb>;
-using Bt601PackedToRgb = YccToRgb<bt601::packedToRgb>;
+using Bt601FoldedToRgb = YccToRgb<bt601::foldedToRgb>;
 using Bt601_411ToRgb = YccToRgb<bt601::toRgb411>;
 
 } // namespace

@@ -47,6 +47,21 @@ void filtered420(const Image& from, const Image& to, ZorSize size, uint8_t alpha
     }
 }
 
+// ---- 4:2:0 of any size ----------------------------------------------------------------------------------------------
+
+// Chroma is that of whole 2 x 2 blocks; an odd last row and an odd last column have luma alone.
+template <class Source> void rowsTo420(const Image& from, const Image& to, ZorSize size)
+{
+    const ZorSize whole = {size.width & ~1, size.height & ~1};
+    rows<Source, RgbToBt601_420, Planar420>(from, to, whole);
+    const RowsOf<Source> source(from);
+    const RowsOf<Luma> luma(to);
+    if (const int y = whole.height; y < size.height) convertPixels(source[y], RgbToBt601{}, luma[y], size.width);
+    if (const int x = whole.width; x < size.width)
+        for (int y = 0; y < whole.height; ++y)
+            convertShortRow(fromPixel(source[y], x), RgbToBt601{}, fromPixel(luma[y], x), 1);
+}
+
 } // namespace
 
 const Bt601Rows bt601Rows = {
@@ -63,8 +78,8 @@ const Bt601Rows bt601Rows = {
 
     .myRGBToYCbCr422_8u_C3C2R = rows<C3<>, RgbToBt601_422, Yuy2>,
     .myRGBToYCbCr422_8u_P3C2R = rows<P3<>, RgbToBt601_422, Yuy2>,
-    .myYCbCr422ToRGB_8u_C2C3R = rows<Yuy2, Bt601PackedToRgb, C3<>>,
-    .myYCbCr422ToRGB_8u_C2P3R = rows<Yuy2, Bt601PackedToRgb, P3<>>,
+    .myYCbCr422ToRGB_8u_C2C3R = rows<Yuy2, Bt601FoldedToRgb, C3<>>,
+    .myYCbCr422ToRGB_8u_C2P3R = rows<Yuy2, Bt601FoldedToRgb, P3<>>,
     .myYCbCr422ToRGB_8u_P3C3R = rows<Planar422, Bt601PlanesToRgb, C3<>>,
 
     .myRGBToYCbCr420_8u_C3P3R = rows<C3<>, RgbToBt601_420, Planar420>,
@@ -73,6 +88,22 @@ const Bt601Rows bt601Rows = {
     .myYCbCr420ToBGR_8u_P3C4R = rows<Planar420, WithAlpha<Bt601ToRgb>, Bgra>,
     .myYCrCb420ToRGB_8u_P3C4R = rows<Planar420, WithAlpha<Bt601ToRgb>, C4<>>,
     .myYCrCb420ToBGR_Filter_8u_P3C4R = filtered420<WithAlpha<Bt601ToRgb>, Bgra>,
+
+    .myBGRToYCbCr422_8u_C3C2R = rows<Bgr, RgbToBt601_422By8th, Yuy2Pairs>,
+    .myBGRToYCbCr422_8u_C3P3R = rows<Bgr, RgbToBt601_422By8th, Planar422>,
+    .myBGRToYCbCr422_8u_AC4C2R = rows<Bgrx, RgbToBt601_422By8th, Yuy2Pairs>,
+    .myBGRToYCbCr422_8u_AC4P3R = rows<Bgrx, RgbToBt601_422By8th, Planar422>,
+    .myRGBToYCbCr422_8u_C3P3R = rows<C3<>, RgbToBt601_422By8th, Planar422>,
+    .myBGRToYCbCr411_8u_C3P3R = rows<Bgr, RgbToBt601_411, Planar411>,
+    .myBGRToYCbCr411_8u_AC4P3R = rows<Bgrx, RgbToBt601_411, Planar411>,
+    .myBGRToYCbCr420_8u_C3P3R = rowsTo420<Bgr>,
+    .myBGRToYCbCr420_8u_AC4P3R = rowsTo420<Bgrx>,
+    .myRGBToYCrCb420_8u_AC4P3R = rowsTo420<AC4<>>,
+    .myYCbCr422ToBGR_8u_C2C3R = rows<Yuy2, Bt601FoldedToRgb, Bgr>,
+    .myYCbCr422ToBGR_8u_C2C4R = rows<Yuy2, WithAlpha<Bt601FoldedToRgb>, Bgra>,
+    .myYCbCr422ToBGR_8u_P3C3R = rows<Planar422, Bt601FoldedToRgb, Bgr>,
+    .myYCbCrToBGR_8u_P3C3R = rows<P3<>, Bt601FoldedToRgb, Bgr>,
+    .myYCbCrToBGR_8u_P3C4R = rows<P3<>, WithAlpha<Bt601FoldedToRgb>, Bgra>,
 
     .myYCbCr411ToBGR_8u_P3C3R = rows<Planar411, Bt601_411ToRgb, Bgr>,
     .myYCbCr411ToBGR_8u_P3C4R = rows<Planar411, WithAlpha<Bt601_411ToRgb>, Bgra>,

@@ -20,6 +20,15 @@ struct Bt601Rows {
     Driver &myYCbCr420ToRGB_8u_P3C3R, &myYCbCr420ToBGR_8u_P3C3R;
     DriverWithAlpha<uint8_t>&myYCbCr420ToBGR_8u_P3C4R, &myYCrCb420ToRGB_8u_P3C4R, &myYCrCb420ToBGR_Filter_8u_P3C4R;
 
+    Driver &myBGRToYCbCr422_8u_C3C2R, &myBGRToYCbCr422_8u_C3P3R, &myBGRToYCbCr422_8u_AC4C2R, &myBGRToYCbCr422_8u_AC4P3R,
+        &myRGBToYCbCr422_8u_C3P3R;
+    Driver &myBGRToYCbCr411_8u_C3P3R, &myBGRToYCbCr411_8u_AC4P3R;
+    Driver &myBGRToYCbCr420_8u_C3P3R, &myBGRToYCbCr420_8u_AC4P3R, &myRGBToYCrCb420_8u_AC4P3R;
+    Driver& myYCbCr422ToBGR_8u_C2C3R;
+    DriverWithAlpha<uint8_t>& myYCbCr422ToBGR_8u_C2C4R;
+    Driver &myYCbCr422ToBGR_8u_P3C3R, &myYCbCrToBGR_8u_P3C3R;
+    DriverWithAlpha<uint8_t>& myYCbCrToBGR_8u_P3C4R;
+
     Driver& myYCbCr411ToBGR_8u_P3C3R;
     DriverWithAlpha<uint8_t>& myYCbCr411ToBGR_8u_P3C4R;
 };

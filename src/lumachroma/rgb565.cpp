@@ -11,14 +11,13 @@ namespace {
 
 using OddSize = Checks::OddSize;
 
-constexpr Checks pairs = {.minimum = {2, 1}}, quads = {.block = {4, 1}, .minimum = {4, 1}, .oddSize = OddSize::convertedAndWarned},
+constexpr Checks pairs = {.minimum = {2, 1}},
+                 quads = {.block = {4, 1}, .minimum = {4, 1}, .oddSize = OddSize::convertedAndWarned},
                  squares = {.block = {2, 2}, .minimum = {2, 2}, .oddSize = OddSize::warned},
                  planesFirst = {.block = {2, 2},
                                 .minimum = {2, 2},
                                 .oddSize = OddSize::warned,
                                 .planes = Checks::Planes::beforeSize};
-
-constexpr Checks positiveSteps = {.steps = Checks::Steps::positiveAfterSize};
 
 } // namespace
 

@@ -12,11 +12,6 @@ namespace {
 
 using Unchanged = decltype([](const Pixels<3>& rgb) { return rgb; });
 
-// An odd last pixel has no chroma at all.
-template <class Packed> struct LumaRemainder : Packed {
-    void storeRemainder(int x, int, const YccPixels& rest) const { this->at(0, x)[Packed::luma] = rest.channel[0][0]; }
-};
-
 // 4:2:0 of any size: an odd last row and an odd last column have chroma of their own. Whole blocks first, then the row
 // as 4:2:2, the column as 4:4:4.
 template <class Formula, class Destination> void rows420(const Image& from, const Image& to, ZorSize size)
@@ -78,18 +73,18 @@ const Rgb565Rows rgb565Rows = {
     .myYCbCr422ToBGR444_8u16u_P3C3R = rows<Planar422, Bt601PlanesToRgb, Bgr16<bits444>>,
     .myYCbCr422ToBGR444Dither_8u16u_P3C3R = rows<Planar422, Dithered<bits444, Bt601PlanesToRgb>, Bgr16<bits444>>,
 
-    .myYCbCr422ToRGB565_8u16u_C2C3R = rows<Yuy2, Bt601PackedToRgb, Rgb16<bits565>>,
-    .myYCbCr422ToRGB565Dither_8u16u_C2C3R = rows<Yuy2, Dithered<bits565, Bt601PackedToRgb>, Rgb16<bits565>>,
-    .myYCbCr422ToBGR565_8u16u_C2C3R = rows<Yuy2, Bt601PackedToRgb, Bgr16<bits565>>,
-    .myYCbCr422ToBGR565Dither_8u16u_C2C3R = rows<Yuy2, Dithered<bits565, Bt601PackedToRgb>, Bgr16<bits565>>,
-    .myYCbCr422ToRGB555_8u16u_C2C3R = rows<Yuy2, Bt601PackedToRgb, Rgb16<bits555>>,
-    .myYCbCr422ToRGB555Dither_8u16u_C2C3R = rows<Yuy2, Dithered<bits555, Bt601PackedToRgb>, Rgb16<bits555>>,
-    .myYCbCr422ToBGR555_8u16u_C2C3R = rows<Yuy2, Bt601PackedToRgb, Bgr16<bits555>>,
-    .myYCbCr422ToBGR555Dither_8u16u_C2C3R = rows<Yuy2, Dithered<bits555, Bt601PackedToRgb>, Bgr16<bits555>>,
-    .myYCbCr422ToRGB444_8u16u_C2C3R = rows<Yuy2, Bt601PackedToRgb, Rgb16<bits444>>,
-    .myYCbCr422ToRGB444Dither_8u16u_C2C3R = rows<Yuy2, Dithered<bits444, Bt601PackedToRgb>, Rgb16<bits444>>,
-    .myYCbCr422ToBGR444_8u16u_C2C3R = rows<Yuy2, Bt601PackedToRgb, Bgr16<bits444>>,
-    .myYCbCr422ToBGR444Dither_8u16u_C2C3R = rows<Yuy2, Dithered<bits444, Bt601PackedToRgb>, Bgr16<bits444>>,
+    .myYCbCr422ToRGB565_8u16u_C2C3R = rows<Yuy2, Bt601FoldedToRgb, Rgb16<bits565>>,
+    .myYCbCr422ToRGB565Dither_8u16u_C2C3R = rows<Yuy2, Dithered<bits565, Bt601FoldedToRgb>, Rgb16<bits565>>,
+    .myYCbCr422ToBGR565_8u16u_C2C3R = rows<Yuy2, Bt601FoldedToRgb, Bgr16<bits565>>,
+    .myYCbCr422ToBGR565Dither_8u16u_C2C3R = rows<Yuy2, Dithered<bits565, Bt601FoldedToRgb>, Bgr16<bits565>>,
+    .myYCbCr422ToRGB555_8u16u_C2C3R = rows<Yuy2, Bt601FoldedToRgb, Rgb16<bits555>>,
+    .myYCbCr422ToRGB555Dither_8u16u_C2C3R = rows<Yuy2, Dithered<bits555, Bt601FoldedToRgb>, Rgb16<bits555>>,
+    .myYCbCr422ToBGR555_8u16u_C2C3R = rows<Yuy2, Bt601FoldedToRgb, Bgr16<bits555>>,
+    .myYCbCr422ToBGR555Dither_8u16u_C2C3R = rows<Yuy2, Dithered<bits555, Bt601FoldedToRgb>, Bgr16<bits555>>,
+    .myYCbCr422ToRGB444_8u16u_C2C3R = rows<Yuy2, Bt601FoldedToRgb, Rgb16<bits444>>,
+    .myYCbCr422ToRGB444Dither_8u16u_C2C3R = rows<Yuy2, Dithered<bits444, Bt601FoldedToRgb>, Rgb16<bits444>>,
+    .myYCbCr422ToBGR444_8u16u_C2C3R = rows<Yuy2, Bt601FoldedToRgb, Bgr16<bits444>>,
+    .myYCbCr422ToBGR444Dither_8u16u_C2C3R = rows<Yuy2, Dithered<bits444, Bt601FoldedToRgb>, Bgr16<bits444>>,
 
     .myYCbCr420ToRGB565_8u16u_P3C3R = rows420<Bt601ToRgb, Rgb16<bits565>>,
     .myYCbCr420ToRGB565Dither_8u16u_P3C3R = rows420<Dithered<bits565, Bt601ToRgb>, Rgb16<bits565>>,
@@ -120,12 +115,12 @@ const Rgb565Rows rgb565Rows = {
     .myYCbCr411ToBGR555_8u16u_P3C3R = rows<Planar411, Bt601_411ToRgb, Bgr16<bits555>>,
     .myYCbCr411ToBGR565_8u16u_P3C3R = rows<Planar411, Bt601_411ToRgb, Bgr16<bits565>>,
 
-    .myBGR555ToYCbCr422_16u8u_C3C2R = rows<Bgr16<bits555>, RgbToBt601_422By8th, LumaRemainder<Yuy2>>,
+    .myBGR555ToYCbCr422_16u8u_C3C2R = rows<Bgr16<bits555>, RgbToBt601_422By8th, Yuy2Pairs>,
     .myBGR555ToYCbCr422_16u8u_C3P3R = rows<Bgr16<bits555>, RgbToBt601_422By8th, Planar422>,
     .myBGR555ToYCbCr411_16u8u_C3P3R = rows<Bgr16<bits555>, RgbToBt601_411, Planar411>,
     .myBGR555ToYCbCr420_16u8u_C3P3R = rows<Bgr16<bits555>, RgbToBt601_420, Planar420>,
     .myBGR555ToYUV420_16u8u_C3P3R = rows<Bgr16<bits555>, RgbToYuv420, Planar420>,
-    .myBGR565ToYCbCr422_16u8u_C3C2R = rows<Bgr16<bits565>, RgbToBt601_422By8th, LumaRemainder<Yuy2>>,
+    .myBGR565ToYCbCr422_16u8u_C3C2R = rows<Bgr16<bits565>, RgbToBt601_422By8th, Yuy2Pairs>,
     .myBGR565ToYCbCr422_16u8u_C3P3R = rows<Bgr16<bits565>, RgbToBt601_422By8th, Planar422>,
     .myBGR565ToYCbCr411_16u8u_C3P3R = rows<Bgr16<bits565>, RgbToBt601_411, Planar411>,
     .myBGR565ToYCbCr420_16u8u_C3P3R = rows<Bgr16<bits565>, RgbToBt601_420, Planar420>,

@@ -229,5 +229,18 @@ template <PackedOrder order> struct Packed422 : Lines<Line{{4, 1}}> {
 using Yuy2 = Packed422<PackedOrder::lumaFirst>;
 using Uyvy = Packed422<PackedOrder::chromaFirst>;
 
+// As a destination whose odd last pixel gets luma alone.
+struct Yuy2Pairs : Yuy2 {
+    void storeRemainder(int x, int, const YccPixels& rest) const { at(0, x)[luma] = rest.channel[0][0]; }
+};
+
+// The luma plane alone.
+struct Luma : Lines<Line{{1}}> {
+    [[gnu::always_inline]] void store(int x, const Pixels<3>& ycc) const
+    {
+        zorcc::ZORCC_TIER::store(at(0, x), ycc.c[0][0]);
+    }
+};
+
 } // namespace
 } // namespace zorcc::ZORCC_TIER

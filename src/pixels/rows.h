@@ -277,7 +277,7 @@ ZORCC_INLINE void convertRow(const Source& from, const InBlocks<pixels, Blocks, 
 {
     const int whole = width - width % pixels;
     convertPixels(from, Blocks{}, to, whole);
-    convertPixels(fromPixel(from, whole), Rest{}, fromPixel(to, whole), width - whole);
+    convertRow(fromPixel(from, whole), Rest{}, fromPixel(to, whole), width - whole);
 }
 
 // ---- rows of an image -----------------------------------------------------------------------------------------------

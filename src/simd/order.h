@@ -3,6 +3,7 @@
 #pragma once
 
 #include <type_traits>
+#include <utility>
 
 #include "simd/vec.h"
 
@@ -20,6 +21,16 @@ ZORCC_INLINE u8v orderQuarters(u8v v)
 #else
     return v;
 #endif
+}
+
+// Element i is that before it, element 0 the first.
+ZORCC_INLINE s16v shiftIn(s16v v, int first)
+{
+    return [&]<int... i>(std::integer_sequence<int, i...>) __attribute__((always_inline))
+    {
+        return __builtin_shufflevector(v, s16v{static_cast<int16_t>(first)}, int{sizeof...(i)} + 1, i...);
+    }
+    (std::make_integer_sequence<int, vectorBytes / 2 - 1>());
 }
 
 // The first half (0) or the second (1) of a0 b0 a1 b1 ... over whole vectors.

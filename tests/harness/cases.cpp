@@ -4,6 +4,7 @@
 #include <fnmatch.h>
 
 #include "tests/harness/random.h"
+#include "tests/reference/cbycr422.h"
 #include "tests/reference/chromasampling.h"
 #include "tests/reference/hexcone.h"
 #include "tests/reference/lumachroma.h"
@@ -54,16 +55,38 @@ constexpr Case yuv[] = {
     {"zoriYUV420To*", toRgb<yuvWeights>, OddSize::warning},
 };
 
+// Luma of every pixel, chroma of the groups that are whole, of which there must be one.
+constexpr Case wholeGroups(std::string_view name, ZorSize group)
+{
+    return {name, rgbToBt601By8ths, OddSize::plainAndWarning, Checks::pointersFirst, group, group};
+}
+
 constexpr Case bt601[] = {
+    {"zoriYCbCr422ToBGR_*", toRgb<bt601FoldedWeights>, OddSize::plain, Checks::pointersFirst, {1, 1}, {2, 1}},
+    {"zoriYCbCrToBGR_*", toRgb<bt601FoldedWeights>, OddSize::plain, Checks::pointersFirst},
+    {"zoriBGRToYCbCr422_*", rgbToBt601By8ths, OddSize::plain, Checks::pointersFirst, {1, 1}, {2, 1}},
+    wholeGroups("zoriRGBToYCbCr422_8u_C3P3R", {2, 1}),
+    wholeGroups("zoriBGRToYCbCr411_*", {4, 1}),
+    wholeGroups("zoriBGRToY*420_*", {2, 2}),
+    wholeGroups("zoriRGBToYCrCb420_*", {2, 2}),
     {"zoriRGBToYCbCr420_*", rgbToBt601, OddSize::warning},
     {"zoriRGBToYCbCr*", rgbToBt601},
     {"zoriYCbCrToRGB_8u_P3C*", toRgb<bt601PlanarWeights>},
     {"zoriYCbCrToRGB_*", toRgb<bt601Weights>},
-    {"zoriYCbCr422To*_C2*", toRgb<bt601PackedWeights>},
+    {"zoriYCbCr422To*_C2*", toRgb<bt601FoldedWeights>},
     {"zoriYCbCr422To*_P3*", toRgb<bt601PlanarWeights>},
     {"zori*420ToBGR_Filter_*", bt601ToRgbFiltered, OddSize::warning},
     {"zori*420To*", toRgb<bt601Weights>, OddSize::warning},
     {"zoriYCbCr411To*", toRgb<bt601Weights411>},
+};
+
+constexpr Case cbycr422[] = {
+    {"zoriRGBToCbYCr422Gamma_*", linearRgbToBt601Filtered, OddSize::plain, Checks::stepsLast},
+    {"zoriRGBToCbYCr422_*", rgbToBt601Filtered},
+    {"zoriBGRToCbYCr422_*", rgbToCbYCr},
+    {"zoriRGBToYCrCb422_*", rgbToYCrCb},
+    {"zoriCbYCr422To*", toRgb<bt601RoundedWeights>},
+    {"zoriYCrCb422To*", toRgb<bt601FoldedWeights>},
 };
 
 constexpr Case bt709[] = {
@@ -106,7 +129,7 @@ constexpr Case videolayouts[] = {
 constexpr Case rgb565[] = {
     {"zoriYCbCrTo*_P3C3R", toRgb<bt601PlanarWeights>},
     {"zoriYCbCr422To*_P3C3R", toRgb<bt601PlanarWeights>},
-    {"zoriYCbCr422To*_C2C3R", toRgb<bt601PackedWeights>},
+    {"zoriYCbCr422To*_C2C3R", toRgb<bt601FoldedWeights>},
     {"zoriYCbCr411To*", toRgb<bt601Weights411>},
     {"zoriYCbCr*To*_8u16u_*", toRgb<bt601Weights>},
     {"zoriYUV420To*", toRgb<yuvWeights>},
@@ -150,6 +173,7 @@ constexpr Case demosaicahd[] = {
 constexpr Family table[] = {
     {"yuv", "RGB and YUV", yuv},
     {"bt601", "RGB and YCbCr (ITU-R BT.601)", bt601},
+    {"cbycr422", "RGB and packed CbYCr and YCrCb 4:2:2", cbycr422},
     {"bt709", "BGR and YCbCr (ITU-R BT.709)", bt709},
     {"chromasampling", "Chroma sampling and plane orders", chromasampling},
     {"videolayouts", "Video layouts and deinterlacing", videolayouts},

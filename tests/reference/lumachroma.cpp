@@ -2,6 +2,7 @@
 #include "tests/reference/lumachroma.h"
 
 #include <algorithm>
+#include <optional>
 
 namespace zorcc::reference {
 
@@ -14,6 +15,7 @@ struct Sums {
     int count = 0, r = 0, g = 0, b = 0;
 
     int log2() const { return count / 2; }
+    Sums reversed() const { return {count, b, g, r}; }
 };
 
 struct Row {
@@ -83,11 +85,11 @@ void putRgb(Pixels& destination, int x, int y, int yValue, int cb, int cr, const
 }
 
 // The chroma sample of the pixel or, at the end of a row that has none for it, the last one before it.
-int chromaAt(const Pixels& source, int channel, int x, int y, int ifNone)
+std::optional<int> chromaAt(const Pixels& source, int channel, int x, int y)
 {
     for (; x >= 0; --x)
         if (source.has(channel, x, y)) return source.get(channel, x, y);
-    return ifNone;
+    return {};
 }
 
 } // namespace
@@ -157,8 +159,9 @@ void rgbToBt709Full(const Pixels& source, Pixels& destination)
 void toRgb(const Pixels& source, Pixels& destination, const Weights& weights)
 {
     eachPixel(source.size(), [&](int x, int y) {
-        const int cb = chromaAt(source, chromaU, x, y, 128), cr = chromaAt(source, chromaV, x, y, cb);
-        putRgb(destination, x, y, source.get(luma, x, y), cb, cr, weights);
+        const std::optional<int> cb = chromaAt(source, chromaU, x, y), cr = chromaAt(source, chromaV, x, y);
+        putRgb(destination, x, y, source.get(luma, x, y), cb.value_or(cr.value_or(128)), cr.value_or(cb.value_or(128)),
+               weights);
     });
 }
 

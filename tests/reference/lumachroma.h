@@ -13,7 +13,7 @@ void rgbToYuvQ14(const Pixels& source, Pixels& destination);    // weights of 14
 void rgbToYuvMatrix(const Pixels& source, Pixels& destination); // luma of the first whole blocks of 16 its own way
 
 void rgbToBt601(const Pixels& source, Pixels& destination);
-void rgbToBt601By8ths(const Pixels& source, Pixels& destination); // from 16 bits: chroma of whole groups alone
+void rgbToBt601By8ths(const Pixels& source, Pixels& destination); // chroma of whole groups alone
 void rgbToBt709(const Pixels& source, Pixels& destination);
 void rgbToBt709Full(const Pixels& source, Pixels& destination); // 4:2:2: samples limited to 1..254
 
@@ -36,7 +36,8 @@ inline constexpr Weights yuvWeights = centred(65536, 74711, 25821, 38076, 133169
 
 inline constexpr Weights bt601Weights = centred(76284, 104595, 25690, 53281, 132186, -1220544),
                          bt601PlanarWeights = centred(76282, 104593, 25689, 53279, 132184, -1220512),
-                         bt601PackedWeights = {76284, 104595, 25690, 53281, 132186, -14608761, 8887730, -18140365},
+                         bt601FoldedWeights = {76284, 104595, 25690, 53281, 132186, -14608761, 8887730, -18140365},
+                         bt601RoundedWeights = centred(76282, 104593, 25689, 53279, 132184, 32768 - 1220512),
                          bt601Weights411 = centred(76294, 104595, 25625, 53281, 132186, -1220704);
 
 inline constexpr Weights bt709Weights = centred(76284, 117506, 13959, 34996, 138609, 32768 - 1220544),

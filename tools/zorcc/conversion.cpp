@@ -49,7 +49,11 @@ bool isOf(const Function& function, std::optional<interface::Model> matrix)
 }
 
 // Does it in a way that has to be asked for.
-bool isVariant(const Function& function) { return function.variant == "Filter" || function.variant == "Interlace"; }
+bool isVariant(const Function& function)
+{
+    constexpr std::string_view variants[] = {"Filter", "Interlace", "Gamma"};
+    return std::ranges::find(variants, function.variant) != std::end(variants);
+}
 
 // Whether a picture would pass through pixels of 16 bits that neither begins nor ends there.
 bool losesBits(const Format& end, const Format& between) { return between.fieldBits != 0 && end.fieldBits == 0; }

@@ -122,6 +122,12 @@ using YCbCrChroma = MatrixChroma<k.cb, ycbcr::chromaBias(pixels), k.cr, crBias, 
 template <ycbcr::FromRgb k>
 using EighthChroma = MatrixChroma<k.cb, ycbcr::eighthBias(2), k.cr, ycbcr::eighthBias(2), 17>;
 
+// 4:2:2. The luma of the second pixel of a pair may be rounded its own way.
+template <ycbcr::FromRgb k, class Chroma = YCbCrChroma<k, 2>, int oddLuma = ycbcr::studioLuma>
+struct RgbToYCbCr422 : RgbToSubsampled<1, WeightedLuma<k.y, ycbcr::studioLuma, oddLuma>, Chroma> {
+    RgbToYCbCr<k> single() const { return {}; }
+};
+
 template <ycbcr::FromRgb k, int lumaBias>
 using RgbToYCbCr420 = RgbToSubsampled<2, WeightedLuma<k.y, lumaBias>, YCbCrChroma<k, 4>>;
 

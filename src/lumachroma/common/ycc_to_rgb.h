@@ -78,7 +78,7 @@ private:
             const WideRgb offset = ChromaOffsets<k>::of(uv);
             return {{y + offset.c[0], y + offset.c[1], y + offset.c[2]}};
         } else {
-            return {{y + fromOneChroma<k.r, k.constantR>(yv, v), y + fromBothChroma(yv, uv, v),
+            return {{y + fromOneChroma<k.r, k.constantR>(yv, v), y + fromBothChroma(yv, uv, u, v),
                      y + fromOneChroma<k.b, k.constantB>(yu, u)}};
         }
     }
@@ -92,13 +92,13 @@ private:
     }
 
     // G likewise.
-    ZORCC_INLINE s16v fromBothChroma(u8v yv, u8v uv, s16v v)
+    ZORCC_INLINE s16v fromBothChroma(u8v yv, u8v uv, s16v u, s16v v)
     {
-        constexpr int whole = wholeOf(-k.g2), rest = restOf(-k.g2), constant = k.constantG + 128 * 65536 * whole;
-        static_assert(wholeOf(-k.g1) == 0);
+        constexpr int whole1 = wholeOf(-k.g1), whole2 = wholeOf(-k.g2);
+        constexpr int constant = k.constantG + 128 * 65536 * (whole1 + whole2);
         // Luma, second and first chroma channel in the places of R, G and B.
-        constexpr Weights w = {yRest, rest, -k.g1};
-        return times<whole>(v - 128) + ((s16v)weigh<w, constant>(yv, uv) >> 8);
+        constexpr Weights w = {yRest, restOf(-k.g2), restOf(-k.g1)};
+        return times<whole1>(u - 128) + times<whole2>(v - 128) + ((s16v)weigh<w, constant>(yv, uv) >> 8);
     }
 };
 
