@@ -86,7 +86,7 @@ struct Row {
 };
 
 template <int bits>
-inline constexpr Row rows[side] = {Row(places<bits>[0]), Row(places<bits>[1]), Row(places<bits>[2]),
+static constexpr Row rows[side] = {Row(places<bits>[0]), Row(places<bits>[1]), Row(places<bits>[2]),
                                    Row(places<bits>[3])};
 
 } // namespace zorcc::dither

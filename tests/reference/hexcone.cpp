@@ -39,7 +39,8 @@ Three rounded(const Three& v) { return {std::nearbyint(v[0]), std::nearbyint(v[1
 Three hlsOf(const Three& rgb, const Type& type, bool isFloat)
 {
     const auto [r, g, b] = rgb;
-    const float most = std::max({r, g, b}), least = std::min({r, g, b}), d = most - least, sum = most + least;
+    // The sign of a zero among zeros of both signs is that of the last.
+    const float most = std::max({b, g, r}), least = std::min({b, g, r}), d = most - least, sum = most + least;
     const float l = sum * 0.5f, full = isFloat ? 1 : type.most;
     if (isFloat ? !(d > 1.1920929e-7f) : d == 0) return {0, l, 0};
     const float s = l <= full / 2 ? d / sum : d / (2 * full - sum);

@@ -47,9 +47,11 @@ class Call(unittest.TestCase):
                     # No function makes the format: what is grey must come out grey.
                     write("source.yuv", bytes([128]) * (64 * 48 * 6))  # whole pictures of every sampling
                     zorcc(f"call {name} --size 64x48 source.yuv result_%d.ppm")
-                    self.assertIn(set(samples("result_1.ppm")), [{grey} for grey in range(125, 132)])
+                    greys = samples("result_1.ppm")
+                    self.assertAlmostEqual(sum(greys) / len(greys), 128, delta=4)
+                    self.assertLessEqual(max(greys) - min(greys), 16 if "Dither" in name else 0)
                     continue
-                floor = 28 if "444" in name else 33 if re.search("5[56]5", name) else 40
+                floor = 27 if "444" in name else 32 if re.search("5[56]5", name) else 40
                 self.assertGreater(compare("smooth.ppm", "result.png")["all"][0], floor)
 
     def test_known_pixels(self):
@@ -230,7 +232,7 @@ class Convert(unittest.TestCase):
     def test_sixteen_bits_a_pixel(self):
         write_pnm("smooth.ppm", 200, 100, smooth(200, 100))
         write_pnm("flat.ppm", 8, 8, bytes([101, 60, 190]) * 64)
-        for target, floor in (("rgb565", 33), ("bgr565", 33), ("rgb555", 33), ("bgr555", 33), ("rgb444", 28),
+        for target, floor in (("rgb565", 33), ("bgr565", 33), ("rgb555", 31), ("bgr555", 31), ("rgb444", 28),
                               ("bgr444", 28)):
             with self.subTest(target):
                 self.assertGreater(there_and_back("smooth.ppm", target, "200x100")[0], floor)
