@@ -22,7 +22,7 @@ constexpr double powerOf045(double x)
 
 // 4.5 x below 0.018, 1.099 x^0.45 - 0.099 from there on, in 255ths, rounded to nearest, ties to even. Ties occur in the
 // linear part alone, which is 9 i / 2 and ends before the fifth entry.
-inline constexpr ByteTable toVideoLevels = [] {
+constexpr ByteTable toVideoLevels = [] {
     ByteTable table{};
     for (int i = 0; i < 256; ++i)
         table.of[i] = static_cast<uint8_t>(i < 5 ? (9 * i + (9 * i / 2 & 1)) / 2

@@ -92,7 +92,7 @@ TEST(Bt601Golden, WholeGroups)
     const Bytes bgr = {234, 114, 242, 173, 120, 187, 0,   13, 27, 189, 221, 232, 0, 0, 255,
                        118, 8,   19,  161, 52,  64,  200, 83, 28, 232, 78,  243, 0, 0, 255};
     const Bytes y = {159, 141, 29, 206, 82, 36, 74, 85, 141, 82};
-    const GoldenCall goldens[] = {
+    const GoldenCall calls[] = {
         {"zoriBGRToYCbCr411_8u_C3P3R", {5, 2}, {bgr}, {y, {134, 176}, {149, 134}}, zorStatusOddSize},
         {"zoriBGRToYCbCr422_8u_C3C2R",
          {3, 1},
@@ -109,7 +109,7 @@ TEST(Bt601Golden, WholeGroups)
            232, 0,   0,   255, 0,   0,   255, 0, 0,   255, 0,  0,  255}},
          {{159, 141, 82, 29, 206, 82, 82, 82, 82}, {149, kept}, {134, kept}},
          zorStatusOddSize}};
-    expectGolden(goldens);
+    expectGolden(calls);
 }
 
 } // namespace

@@ -32,6 +32,7 @@ template <class V> Vectors<V, lanesOf<V>> transposed(Vectors<V, lanesOf<V>> rows
 constexpr auto same = [](int i) { return i; };
 constexpr auto first = [](int) { return 0; };
 constexpr auto ofBlock = [](int i) { return i % 16; };
+constexpr auto afterTheLast = [](int i) { return i == 0 ? lanesOf<s16v> : i - 1; };
 constexpr auto ofPair = [](int i) { return i % 2; };
 template <int odd> constexpr auto second = [](int i) { return 2 * i + odd; };
 
@@ -120,6 +121,7 @@ constexpr Operation operations[] = {
     MOVES(u16v, 2, bytes, first, store(out, fill16(load<int16_t>(in)))),
     MOVES(u32v, 4, bytes, first, store(out, fill32(load<int32_t>(in)))),
     MOVES(f32v, 4, bytes, first, store(out, fillFloat(load<float>(in)))),
+    MOVES(s16v, bytes + 2, bytes, afterTheLast, store(out, shiftIn(load<s16v>(in), load<int16_t>(in + bytes)))),
     MOVES(u8v, 16, bytes, ofBlock, store(out, fillBlock(loadBlock(in)))),
     MOVES(u8v, 2, bytes, ofPair, store(out, fillPair8(load<int8_t>(in), load<int8_t>(in + 1)))),
     MOVES(u16v, 4, bytes, ofPair, store(out, fillPair16(load<int16_t>(in), load<int16_t>(in + 2)))),

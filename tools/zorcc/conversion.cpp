@@ -49,11 +49,10 @@ bool isOf(const Function& function, std::optional<interface::Model> matrix)
 }
 
 // Does it in a way that has to be asked for.
-bool isVariant(const Function& function)
-{
-    constexpr std::string_view variants[] = {"Filter", "Interlace", "Gamma"};
-    return std::ranges::find(variants, function.variant) != std::end(variants);
-}
+bool isVariant(const Function& function) { return function.variant == "Filter" || function.variant == "Interlace"; }
+
+// Takes linear light, which no format says of itself.
+bool appliesCurve(const Function& function) { return function.variant == "Gamma"; }
 
 // Whether a picture would pass through pixels of 16 bits that neither begins nor ends there.
 bool losesBits(const Format& end, const Format& between) { return between.fieldBits != 0 && end.fieldBits == 0; }
@@ -108,6 +107,7 @@ Conversion findConversion(const Format& from, const Format& to, std::optional<in
     for (const Function& function : interface::functions()) {
         if (movesSamples(function) ? !isSameModel(from.model, to.model) || isVariant(function) : plain && !packsBits)
             continue;
+        if (appliesCurve(function)) continue;
         if (function.dithers != dither || losesBits(from, *function.source) || losesBits(to, *function.destination))
             continue;
         const auto before = rearrangementCost(from, *function.source);
