@@ -2,6 +2,7 @@
 """What the commands do with sound files."""
 import itertools
 import math
+import random
 import re
 import unittest
 
@@ -250,6 +251,27 @@ class Convert(unittest.TestCase):
         write("odd.raw", bytes(range(6)))
         zorcc("convert --size 3x1 --format rgb565 odd.raw copy.raw --to rgb565")
         self.assertEqual(read("copy.raw"), read("odd.raw"))
+
+    def test_reversible_ycocg(self):
+        """Lifting loses nothing, be it of 8 bits or of 16."""
+        rng = random.Random(5)
+        write_png("deep.png", [[tuple(rng.randrange(65536) for _ in range(3)) for _ in range(64)] for _ in range(48)],
+                  16, RGB)
+        zorcc("convert deep.png deep.png")  # as it writes them
+        zorcc("chart chart.png --size 64x48")
+        deep_pictures = [("deep.png", "64x48")]
+        mosaic = os.path.join(PICTURES, "rose_bayer_rggb_768x512_16bit.pgm")
+        if os.path.exists(mosaic):
+            zorcc("demosaic", mosaic, "rose.png --grid rggb")
+            deep_pictures.append(("rose.png", "768x512"))
+        trials = [("chart.png", "64x48", "ycocgr444p16s", "")]
+        trials += [(*deep, "ycocgr444p16s", " --to rgb48") for deep in deep_pictures]
+        trials += [(*deep, "ycocgr444p32s", "") for deep in deep_pictures]
+        for path, size, lifted, back in trials:
+            with self.subTest(f"{path} {lifted}"):
+                zorcc(f"convert {path} lifted.raw --to {lifted}")
+                zorcc(f"convert --size {size} --format {lifted} lifted.raw back.png{back}")
+                self.assertEqual(read("back.png"), read(path))
 
     def test_result_does_not_depend_on_threads(self):
         zorcc("chart c.png --size 300x200")

@@ -12,6 +12,13 @@ namespace zorcc::tool {
 
 namespace {
 
+// The samples of RGB that a picture is usually made from: of signed YCoCg, which has a bit more, half as many bits.
+Sample usualSample(const Format& format)
+{
+    if (!isYCoCg(format)) return format.sample;
+    return format.sample == Sample::s32 ? Sample::u16 : Sample::u8;
+}
+
 // The format of a file where the user gives none: one that it can hold, without a conversion where possible.
 const Format& usualFormat(const std::string& out, const Format& from)
 {
@@ -26,7 +33,7 @@ const Format& usualFormat(const std::string& out, const Format& from)
         return from.fieldBits != 0 ? interface::formats::rgb24
                : isRgb(from)       ? from
                : isYuv(from)       ? interface::formats::rgb24
-                                   : pictureFormat(false, hasAlpha(from), from.sample);
+                                   : pictureFormat(false, hasAlpha(from), usualSample(from));
     }
 }
 

@@ -226,7 +226,8 @@ std::optional<int> rearrangementCost(const Format& from, const Format& to)
     if (to.layout == Layout::packedBits) return cost + 32; // loses most of all
     if (from.sample != to.sample) {
         if (!isScalable(from.sample) || !isScalable(to.sample)) return {};
-        cost += interface::sampleBytes(from.sample) > interface::sampleBytes(to.sample) ? 16 : 8;
+        const int bytes = interface::sampleBytes(from.sample), bytesAfter = interface::sampleBytes(to.sample);
+        cost += bytes > bytesAfter ? 16 : bytes < bytesAfter ? 8 : 4;
     }
     return cost;
 }

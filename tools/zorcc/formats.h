@@ -24,6 +24,10 @@ inline bool isHexcone(const Format& format)
 {
     return format.model == interface::Model::hls || format.model == interface::Model::hsv;
 }
+inline bool isYCoCg(const Format& format)
+{
+    return format.model == interface::Model::ycocg || format.model == interface::Model::ycocgRev;
+}
 inline bool isYuv(const Format& format) { return interface::isYcc(format.model); }
 
 // How a picture file that holds red, green and blue, or grey, of the given sample type says it.

@@ -136,7 +136,11 @@ Layouts of video, of any matrix, by their usual names: i420 yv12 nv12, i422 yv16
 Pixels of 16 bits: rgb565 bgr565 rgb555 bgr555 rgb444 bgr444. The channel named first is in the LOW bits, so that what
 others call rgb565le is bgr565 here; their names with le are understood, too:
   zorcc convert clip.y4m clip.raw --to rgb565le --dither
-  zorcc convert --size 320x240 --format bgr565 frame.raw frame.png)");
+  zorcc convert --size 320x240 --format bgr565 frame.raw frame.png
+YCoCg: ycocg444p in bytes; ycocg444p16s from 8-bit or 16-bit RGB and ycocg444p32s from 16-bit RGB, signed; the same with
+ycocgr, which is exactly reversible. Say --to rgb48 on the way back where 16-bit planes hold 16-bit RGB:
+  zorcc convert deep.png deep.raw --to ycocgr444p16s
+  zorcc convert --size 640x480 --format ycocgr444p16s deep.raw same.png --to rgb48)");
     command->callback([&o] { convert(o.convert); });
 
     command =

@@ -8,7 +8,7 @@ namespace zorcc::ZORCC_TIER {
 namespace {
 
 template <ToRgb k> class DotProductsToRgb {
-    // Weights beyond 16 bits are those of R and B. They are products of a coefficient and a small factor, by which the
+    // Weights may pass 16 bits. They are products of a coefficient and a small factor, by which the
     // sample is multiplied first.
     static constexpr int factorOf(int weight)
     {
@@ -35,9 +35,9 @@ public:
         Unsaturated<rows> rgb;
         for (int half = 0; half < 2; ++half) {
             const s16v uv = ycc.chroma[half], multiples = uv * fillPair16(factorB, factorR);
-            const s32v g = mulAddPairs(fill32(k.constantG), uv, fillPair16(-k.g1, -k.g2 % factorR));
+            const s32v g = mulAddPairs(fill32(k.constantG), uv, fillPair16(-k.g1 % factorB, -k.g2 % factorR));
             const s32v chroma[3] = {mulAddPairs(fill32(k.constantR), multiples, fillPair16(0, k.r / factorR)),
-                                    mulAddPairs(g, multiples, fillPair16(0, -k.g2 / factorR)),
+                                    mulAddPairs(g, multiples, fillPair16(-k.g1 / factorB, -k.g2 / factorR)),
                                     mulAddPairs(fill32(k.constantB), multiples, fillPair16(k.b / factorB, 0))};
             for (int row = 0; row < rows; ++row)
                 for (int c = 0; c < 3; ++c) {
