@@ -10,8 +10,6 @@ namespace zorcc::ZORCC_TIER {
 
 namespace {
 
-using Unchanged = decltype([](const Pixels<3>& rgb) { return rgb; });
-
 // An odd last pixel has no chroma at all.
 template <class Packed> struct LumaRemainder : Packed {
     void storeRemainder(int x, int, const YccPixels& rest) const { this->at(0, x)[Packed::luma] = rest.channel[0][0]; }
