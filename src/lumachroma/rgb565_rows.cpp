@@ -10,8 +10,6 @@ namespace zorcc::ZORCC_TIER {
 
 namespace {
 
-using Unchanged = decltype([](const Pixels<3>& rgb) { return rgb; });
-
 // 4:2:0 of any size: an odd last row and an odd last column have chroma of their own. Whole blocks first, then the row
 // as 4:2:2, the column as 4:4:4.
 template <class Formula, class Destination> void rows420(const Image& from, const Image& to, ZorSize size)

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "pixels/layouts.h"
+#include "simd/bit_fields.h"
 
 namespace zorcc {
 
@@ -100,6 +101,35 @@ private:
 
 template <FieldBits bits> using Rgb16 = PackedBits<bits, Order::asStored>;
 template <FieldBits bits> using Bgr16 = PackedBits<bits, Order::reversed>;
+
+// The formula of a change of layout.
+struct Unchanged {
+    [[gnu::always_inline]] Pixels<3> operator()(const Pixels<3>& rgb) const { return rgb; }
+};
+
+// ---- to interleaved bytes, without channels between them ---
+
+template <FieldBits bits> struct Words : Lines<Line{{2}}> {
+    [[gnu::always_inline]] ThirdsOfPixels load(int x) const
+    {
+        constexpr int green = bits.outer + bits.green;
+        return fieldsAsBytes<WordFields{{bits.outer, green, green + bits.outer}, {bits.outer, bits.green, bits.outer}}>(
+            at(0, x));
+    }
+};
+
+struct ThirdsOfC3 : Lines<Line{{3}}> {
+    [[gnu::always_inline]] void store(int x, const ThirdsOfPixels& p) const
+    {
+        for (int k = 0; k < 3; ++k) zorcc::ZORCC_TIER::store(at(0, x) + k * vectorBytes, p.third[k]);
+    }
+};
+
+template <FieldBits bits> struct OnThisTier<Rgb16<bits>, Unchanged, C3<>> {
+    using Source = Words<bits>;
+    using Formula = decltype([](const ThirdsOfPixels& p) { return p; });
+    using Destination = ThirdsOfC3;
+};
 
 } // namespace
 } // namespace zorcc::ZORCC_TIER

@@ -4,6 +4,7 @@
 #include "simd/order.h"
 
 #include "lines.h"
+#include "simd/bit_fields.h"
 #include "simd/interleave.h"
 
 namespace zorcc::ZORCC_TIER {
@@ -114,6 +115,18 @@ constexpr auto besideFourth = [](int i) { return i % 4 == 3 ? 3 * lanesOf<V> + i
         CHANNELS(V, 6, fromColumns<V>,                                                                                 \
                  interleaveColumns3(out, load<Vectors<V, 3>>(in).of, load<Vectors<V, 3>>(in + 3 * bytes).of))
 
+// Fields of words, the first one lowest, as the top bits of bytes.
+#define BITS(a, b, c)                                                                                                  \
+    memory<uint8_t, uint16_t, 2 * bytes, 3 * bytes>(                                                                   \
+        "fieldsAsBytes",                                                                                               \
+        [](const uint8_t* in, uint8_t* out) {                                                                          \
+            store(out, fieldsAsBytes<WordFields{{a, a + b, a + b + c}, {a, b, c}}>(in));                               \
+        },                                                                                                             \
+        [](int i, const uint16_t* words) {                                                                             \
+            constexpr int begin[] = {0, a, a + b}, count[] = {a, b, c};                                                \
+            return (words[i / 3] >> begin[i % 3] & ((1 << count[i % 3]) - 1)) << (8 - count[i % 3]);                   \
+        })
+
 constexpr Operation operations[] = {
     MOVES(u8v, bytes, bytes, same, store(out, load(in))),
     MOVES(u8v, bytes, bytes, same, storeNonTemporal(out, load(in)), fenceStores()),
@@ -141,6 +154,8 @@ constexpr Operation operations[] = {
     CHANNELS(u8v, 2, inBlocks, storeBlocks(out, load<Vectors<u8v, 2>>(in).of)),
     MOVES(u8v, bytes, bytes, fromHalves, store(out, loadHalves(in, in + half))),
     MOVES(u8v, half, bytes, fromDoubledQuarters, store(out, loadDoubledQuarters(in, in + half / 2))),
+    BITS(5, 6, 5),
+    BITS(4, 4, 4),
     MOVES(u8v, bytes, bytes, toHalves, storeHalves(out, out + half, load(in))),
     MOVES(u8v, bytes, half, toEvenQuarters, storeEvenQuarters(out, out + half / 2, load(in))),
 };
