@@ -16,8 +16,8 @@ enum class Model { mosaic, grey, rgb, yuv, bt601, bt709, bt709full, anyYcc, ycoc
 
 struct ModelProperties {
     Model model;
-    std::string_view channels; // one letter each: M of a mosaic, L of grey and of HLS, U and V for Cb and Cr, O and G
-                               // for Co and Cg, A for alpha
+    std::string_view channels;  // one letter each: M of a mosaic, L of grey and of HLS, U and V for Cb and Cr, O and G
+                                // for Co and Cg, A for alpha
     std::string_view matrix;    // as names of formats and the tool's options say it; empty without luma and chroma
     std::string_view name = {}; // in names of formats, in place of the letters
 };
