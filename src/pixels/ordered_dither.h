@@ -69,25 +69,28 @@ template <int bits> constexpr bool isExact()
 }
 static_assert(isExact<4>() && isExact<5>() && isExact<6>());
 
-// A row of places, as vectors load it: a block that begins at any of its columns.
+// A row of places as the blocks that begin at each of its columns: bytes in the order of pixels or, where even and odd
+// columns are apart, the even ones first; factors in the order of zipped bytes.
 struct Row {
-    uint8_t upper[16 + side], lower[16 + side], curved[16 + side];
-    uint16_t factor[8 + side];
+    alignas(16) uint8_t upper[side][16], lower[side][16], curved[side][16];
+    alignas(16) uint16_t factor[side][2][8];
 
-    constexpr explicit Row(const Place (&row)[side]) : upper{}, lower{}, curved{}, factor{}
+    constexpr Row(const Place (&row)[side], bool apart) : upper{}, lower{}, curved{}, factor{}
     {
-        for (int x = 0; x < 16 + side; ++x) {
-            upper[x] = static_cast<uint8_t>(row[x % side].bias / 256);
-            lower[x] = static_cast<uint8_t>(row[x % side].bias % 256);
-            curved[x] = row[x % side].isCurved ? 0xff : 0;
-        }
-        for (int x = 0; x < 8 + side; ++x) factor[x] = static_cast<uint16_t>(row[x % side].factor);
+        for (int x = 0; x < side; ++x)
+            for (int i = 0; i < 16; ++i) {
+                const Place& place = row[(x + (apart ? 2 * i + i / 8 : i)) % side];
+                upper[x][i] = static_cast<uint8_t>(place.bias / 256);
+                lower[x][i] = static_cast<uint8_t>(place.bias % 256);
+                curved[x][i] = place.isCurved ? 0xff : 0;
+                factor[x][i / 8][i % 8] = static_cast<uint16_t>(place.factor);
+            }
     }
 };
 
-template <int bits>
-static constexpr Row rows[side] = {Row(places<bits>[0]), Row(places<bits>[1]), Row(places<bits>[2]),
-                                   Row(places<bits>[3])};
+template <int bits, bool apart>
+static constexpr Row rows[side] = {Row(places<bits>[0], apart), Row(places<bits>[1], apart),
+                                   Row(places<bits>[2], apart), Row(places<bits>[3], apart)};
 
 } // namespace zorcc::dither
 
@@ -117,28 +120,24 @@ private:
     template <int rows, Columns columns>
     [[gnu::always_inline]] Fields<rows, columns> fieldsOf(const Pixels<3, rows, columns>& rgb) const
     {
+        constexpr bool apart = columns == Columns::evenThenOdd;
         Fields<rows, columns> fields;
         for (int row = 0; row < rows; ++row)
-            for (int c = 0; c < 3; ++c) {
-                const dither::Row& places =
-                    c == 1 ? dither::rows<bits.green>[y + row] : dither::rows<bits.outer>[y + row];
-                quantise<columns>(c == 1 && bits.green == 6, places, rgb.c[row][c], fields.c[row][c]);
-            }
+            for (int c = 0; c < 3; ++c)
+                quantise(c == 1 && bits.green == 6,
+                         c == 1 ? dither::rows<bits.green, apart>[y + row] : dither::rows<bits.outer, apart>[y + row],
+                         rgb.c[row][c], fields.c[row][c]);
         return fields;
     }
 
-    template <Columns columns>
     [[gnu::always_inline]] void quantise(bool mayBeCurved, const dither::Row& row, u8v v, u16v (&fields)[2]) const
     {
-        const auto inPlace = [](auto pattern) {
-            return columns == Columns::inOrder ? pattern : decltype(pattern)(unzipHalves(pattern));
-        };
-        u8v lower = inPlace(fillBlock(loadBlock(row.lower + x)));
-        if (mayBeCurved) lower = addSaturate(lower, v & inPlace(fillBlock(loadBlock(row.curved + x))));
-        const u8v upper = addSaturate(v, inPlace(fillBlock(loadBlock(row.upper + x))));
-        const u64v factors = (u64v)inPlace((u16v)fillBlock(loadBlock(row.factor + x)));
-        fields[0] = mulHigh((u16v)zipLow(lower, upper), (u16v)zipLow(factors, factors));
-        fields[1] = mulHigh((u16v)zipHigh(lower, upper), (u16v)zipHigh(factors, factors));
+        const auto block = [](const auto& bytes) { return fillBlock(loadBlock(bytes)); };
+        u8v lower = block(row.lower[x]);
+        if (mayBeCurved) lower = addSaturate(lower, v & block(row.curved[x]));
+        const u8v upper = addSaturate(v, block(row.upper[x]));
+        fields[0] = mulHigh((u16v)zipLow(lower, upper), (u16v)block(row.factor[x][0]));
+        fields[1] = mulHigh((u16v)zipHigh(lower, upper), (u16v)block(row.factor[x][1]));
     }
 };
 
