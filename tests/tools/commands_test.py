@@ -32,17 +32,21 @@ class Call(unittest.TestCase):
     def test_every_function_there_and_back(self):
         """Each function's result, converted back or compared as it is, is the picture it came from."""
         write_pnm("smooth.ppm", 64, 48, smooth(64, 48))
+        zorcc("convert smooth.ppm deep.png --to rgb48")
         rows = [line.split()[:3] for line in zorcc("list").splitlines()]
         made = {destination for _, source, destination in rows if not re.search("565|555|444", source)}
         for name, source, destination in rows:
-            if source.startswith("bayer") or not re.search(r"(RGB|BGR|5[56]5)To|To(RGB|BGR)", name):
+            if source.startswith("bayer") or not re.search(r"(RGB|BGR|5[56]5)To|To(RGB|BGR|SBGR)", name):
+                continue
+            if "Gamma" in name:  # takes linear light
                 continue
             with self.subTest(name):
                 if source.startswith(("rgb", "bgr")):
                     zorcc("call", name, "smooth.ppm", "result.yuv")
-                    zorcc(f"convert --size 64x48 --format {destination} result.yuv result.png --to rgb24")
+                    zorcc(f"convert --size 64x48 --format {destination} result.yuv result.png",
+                          "--to", "rgb48" if "SBGR" in name else "rgb24")
                 elif source in made:
-                    zorcc("convert smooth.ppm source.yuv --to", source)
+                    zorcc("convert", "deep.png" if "SBGR" in name else "smooth.ppm", "source.yuv", "--to", source)
                     zorcc(f"call {name} --size 64x48 source.yuv result.png")
                 else:
                     # No function makes the format: what is grey must come out grey.
@@ -52,7 +56,7 @@ class Call(unittest.TestCase):
                     self.assertAlmostEqual(sum(greys) / len(greys), 128, delta=8)
                     self.assertLessEqual(max(greys) - min(greys), 16 if "Dither" in name else 0)
                     continue
-                floor = 27 if "444" in name else 32 if re.search("5[56]5", name) else 40
+                floor = 27 if "444" in name else 32 if re.search("5[56]5", name) else 38
                 self.assertGreater(compare("smooth.ppm", "result.png")["all"][0], floor)
 
     def test_known_pixels(self):
@@ -262,7 +266,7 @@ class Convert(unittest.TestCase):
         deep_pictures = [("deep.png", "64x48")]
         mosaic = os.path.join(PICTURES, "rose_bayer_rggb_768x512_16bit.pgm")
         if os.path.exists(mosaic):
-            zorcc("demosaic", mosaic, "rose.png --grid rggb")
+            zorcc("demosaic", mosaic, *"rose.png --grid rggb".split())
             deep_pictures.append(("rose.png", "768x512"))
         trials = [("chart.png", "64x48", "ycocgr444p16s", "")]
         trials += [(*deep, "ycocgr444p16s", " --to rgb48") for deep in deep_pictures]
