@@ -62,8 +62,8 @@ void fillSweep(TestImage& image, int sweep)
 auto formulaOf(const Case& c)
 {
     const interface::Format &source = *functionOf(c).source, &destination = *functionOf(c).destination;
-    return std::tuple(c.reference, source.sample, source.subsampled(), destination.log2X(), destination.log2Y(),
-                      destination.fieldBits, destination.channels, functionOf(c).dithers);
+    return std::tuple(c.reference, source.sample, source.subsampled(), destination.sample, destination.log2X(),
+                      destination.log2Y(), destination.fieldBits, destination.channels, functionOf(c).dithers);
 }
 
 // The first function of each formula on integers that have samples of their own for every channel.
