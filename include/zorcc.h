@@ -49,9 +49,13 @@
 #include "zorcc/yuv.h"            /* RGB and YUV */
 
 /* Colour models */
-#include "zorcc/hls.h"   /* RGB and HLS */
-#include "zorcc/hlspl.h" /* BGR and HLS, planar */
-#include "zorcc/hsv.h"   /* RGB and HSV */
+#include "zorcc/hls.h"      /* RGB and HLS */
+#include "zorcc/hlspl.h"    /* BGR and HLS, planar */
+#include "zorcc/hsv.h"      /* RGB and HSV */
+#include "zorcc/lab.h"      /* BGR and CIE L*a*b* */
+#include "zorcc/luv.h"      /* RGB and CIE L*u*v* */
+#include "zorcc/photoycc.h" /* RGB and PhotoYCC */
+#include "zorcc/xyz.h"      /* RGB and CIE XYZ */
 
 /* Number of levels */
 #include "zorcc/reduce.h" /* bit-depth reduction */

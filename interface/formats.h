@@ -12,29 +12,41 @@ namespace zorcc::interface {
 // ---- colour models --------------------------------------------------------------------------------------------------
 
 // The Y'CbCr models differ in their matrix; anyYcc is that of conversions which only move samples.
-enum class Model { mosaic, grey, rgb, yuv, bt601, bt709, bt709full, anyYcc, ycocg, ycocgRev, hls, hsv };
+enum class Model {
+    mosaic,
+    grey,
+    rgb,
+    yuv,
+    bt601,
+    bt709,
+    bt709full,
+    anyYcc,
+    ycocg,
+    ycocgRev,
+    hls,
+    hsv,
+    xyz,
+    luv,
+    lab,
+    photoycc
+};
 
 struct ModelProperties {
     Model model;
-    std::string_view channels;  // one letter each: M of a mosaic, L of grey and of HLS, U and V for Cb and Cr, O and G
-                                // for Co and Cg, A for alpha
+    // One letter each: M of a mosaic, L of grey and of lightness, U and V for Cb and Cr, O and G for Co and Cg, 1
+    // and 2 for C1 and C2 of PhotoYCC, A for alpha.
+    std::string_view channels;
     std::string_view matrix;    // as names of formats and the tool's options say it; empty without luma and chroma
-    std::string_view name = {}; // in names of formats, in place of the letters
+    std::string_view name = ""; // in names of formats, where the channels do not say it
 };
 
 inline constexpr ModelProperties models[] = {
-    {Model::mosaic, "M", ""},
-    {Model::grey, "L", ""},
-    {Model::rgb, "RGBA", ""},
+    {Model::mosaic, "M", "", "bayer"}, {Model::grey, "L", "", "grey"},     {Model::rgb, "RGBA", ""},
     {Model::yuv, "YUVA", "yuv"}, // analogue-television Y'UV
-    {Model::bt601, "YUVA", "bt601"},
-    {Model::bt709, "YUVA", "bt709"},
-    {Model::bt709full, "YUVA", "bt709full"},
-    {Model::anyYcc, "YUVA", "any"},
-    {Model::ycocg, "YOG", "", "ycocg"},
-    {Model::ycocgRev, "YOG", "", "ycocgr"},
-    {Model::hls, "HLSA", ""},
-    {Model::hsv, "HSVA", ""},
+    {Model::bt601, "YUVA", "bt601"},   {Model::bt709, "YUVA", "bt709"},    {Model::bt709full, "YUVA", "bt709full"},
+    {Model::anyYcc, "YUVA", "any"},    {Model::ycocg, "YOG", "", "ycocg"}, {Model::ycocgRev, "YOG", "", "ycocgr"},
+    {Model::hls, "HLSA", "", "hls"},   {Model::hsv, "HSVA", "", "hsv"},    {Model::xyz, "XYZA", "", "xyz"},
+    {Model::luv, "LUVA", "", "luv"},   {Model::lab, "Lab", "", "lab"},     {Model::photoycc, "Y12A", "", "photoycc"},
 };
 
 constexpr const ModelProperties& propertiesOf(Model model)
@@ -170,10 +182,9 @@ constexpr Text nameOf(const Shape& s)
     if (s.model == Model::anyYcc && s.layout == Layout::planar)
         return text += s.log2Y > 1 ? "i410" : s.log2X > 1 ? "i411" : s.log2Y ? "i420" : "i422";
     if (s.model == Model::anyYcc && !s.chromaFirst && !s.reversed) return text += "yuy2";
-    if (s.channels == 1) {
-        text += s.model == Model::mosaic ? "bayer" : "grey";
-    } else if (const std::string_view name = propertiesOf(s.model).name; !name.empty()) {
+    if (const std::string_view name = propertiesOf(s.model).name; !name.empty()) {
         text += name;
+        if (s.channels == 4) text += 'a';
     } else {
         const Text channels = channelsOf(s);
         for (char c : std::string_view(channels)) text += static_cast<char>(c - 'A' + 'a');

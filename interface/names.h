@@ -55,8 +55,8 @@ private:
 
 constexpr Name parse(std::string_view text)
 {
-    constexpr std::string_view words[] = {"RGB",   "BGR",   "SBGR",  "YUV", "YCbCr",
-                                          "YCrCb", "CbYCr", "YCoCg", "HLS", "HSV"};
+    constexpr std::string_view words[] = {"RGB",   "BGR", "SBGR", "YUV", "YCbCr", "YCrCb", "CbYCr",
+                                          "YCoCg", "HLS", "HSV",  "XYZ", "LUV",   "Lab",   "YCC"};
     constexpr std::string_view packings[] = {"422", "420", "411", "1620", "565", "555", "444"};
     constexpr std::string_view variants[] = {"709CSC", "709HDTV", "Filter", "Interlace", "Rev"};
     constexpr std::string_view curves[] = {"Gamma"}; // variants that follow the formats without a break
@@ -121,6 +121,10 @@ constexpr Model modelOf(const Name& name, const Name::Side& side)
     if (side.model == "YCoCg") return name.variant == "Rev" ? Model::ycocgRev : Model::ycocg;
     if (side.model == "HLS") return Model::hls;
     if (side.model == "HSV") return Model::hsv;
+    if (side.model == "XYZ") return Model::xyz;
+    if (side.model == "LUV") return Model::luv;
+    if (side.model == "Lab") return Model::lab;
+    if (side.model == "YCC") return Model::photoycc;
     if (!isRgb(name.source) && !isRgb(name.destination)) return Model::anyYcc;
     if (side.model == "YUV") return Model::yuv;
     return name.variant == "709CSC" ? Model::bt709 : name.variant == "709HDTV" ? Model::bt709full : Model::bt601;

@@ -3,7 +3,7 @@
 // a common factor. Linear in the samples up to here, so that values out of range need no limit.
 #pragma once
 
-#include "simd/floats.h"
+#include "simd/cube_root.h"
 
 namespace zorcc::ZORCC_TIER {
 namespace {
@@ -29,14 +29,12 @@ ZORCC_INLINE void storeLab(const Lab& lab, const LabLines& to, int i)
 }
 
 // Where t is above 0.008856 its cube root, otherwise the line that continues it; both less a constant, as only
-// differences matter: root(max) + slope * min. The exponent of y is a third of that of t, of the other sign, so that
-// u = t y^3 lies between 0.893 and 1.108; t y^2 times a polynomial for u^(-2/3), through its values at the Chebyshev
-// nodes, is within 2e-4 of the root.
+// differences matter: root(max) + slope * min. t y^2 times a polynomial for u^(-2/3), u = t y^3, through its values at
+// the Chebyshev nodes, is within 2e-4 of the root.
 ZORCC_INLINE f32v labCurve(f32v t)
 {
     const f32v knee = fillFloat(0.008856f), above = max(t, knee);
-    const s32v third = (s32v)mulHigh((u16v)above, (u16v)fill16(21845)); // in halves, which is near enough
-    const f32v y = (f32v)(fill32(0x54a14000) - third);
+    const f32v y = inverseCubeRoot(above);
     const f32v root = above * y * y, u = root * y;
     return root * ((u * 0.5588924f - 1.7887134f) * u + 2.2298227f) + min(t, knee) * 7.787037f;
 }

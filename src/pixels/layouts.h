@@ -54,6 +54,35 @@ template <class S = uint8_t, Order order = Order::asStored> using C3 = Interleav
 template <class S = uint8_t, Order order = Order::asStored> using C4 = Interleaved<S, 4, 4, order>;
 template <class S = uint8_t, Order order = Order::asStored> using AC4 = Interleaved<S, 4, 3, order>;
 
+// Three interleaved channels of 16 bits, as many pixels at a time as there are bytes in a vector.
+struct WideC3 : C3<uint16_t> {
+    using Base = C3<uint16_t>::Base;
+    static constexpr int half = C3<uint16_t>::pixelsAtOnce, pixelsAtOnce = 2 * half;
+
+    [[gnu::always_inline]] Pairs<3> load(int x) const
+    {
+        const Samples<uint16_t> first = C3<uint16_t>::load(x), second = C3<uint16_t>::load(x + half);
+        Pairs<3> p;
+        for (int c = 0; c < 3; ++c) {
+            u8v v[2];
+            toBlocks({(u8v)first.c[0][c], (u8v)second.c[0][c]}, v);
+            p.c[c] = {{(u16v)v[0], (u16v)v[1]}};
+        }
+        return p;
+    }
+
+    [[gnu::always_inline]] void store(int x, const Pairs<3>& p) const
+    {
+        Samples<uint16_t> part[2];
+        for (int c = 0; c < 3; ++c) {
+            u8v v[2];
+            fromBlocks({(u8v)p.c[c].v[0], (u8v)p.c[c].v[1]}, v);
+            for (int k = 0; k < 2; ++k) part[k].c[0][c] = (u16v)v[k];
+        }
+        for (int k = 0; k < 2; ++k) C3<uint16_t>::store(x + k * half, part[k]);
+    }
+};
+
 // A plane for each channel.
 template <class S, Order order, Line... planes> struct Planes : Lines<planes...> {
     using Base = Lines<planes...>;

@@ -25,6 +25,16 @@ template <int channels, int rows = 1, Columns columns = Columns::inOrder, class 
 
 template <class Sample, int channels = 3> using Samples = Pixels<channels, 1, Columns::inOrder, Sample>;
 
+// As many samples of 16 bits as a vector has bytes, in the order of zipped bytes.
+struct Pair16 {
+    u16v v[2];
+};
+
+// Channels of these.
+template <int channels> struct Pairs {
+    Pair16 c[channels];
+};
+
 template <int channels, int rows>
 ZORCC_INLINE Pixels<channels, rows> inOrder(const Pixels<channels, rows, Columns::evenThenOdd>& pixels)
 {

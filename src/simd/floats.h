@@ -50,22 +50,53 @@ template <int sign> ZORCC_INLINE s32v addWhereBothWithin(s32v count, f32v a, f32
 #endif
 }
 
-// v / divisor, rounded as a division does, for 60 and 360: v times the reciprocal in two terms, of which the second
-// makes up for what the first lacks, is the quotient for every significand. Only where the second term may have lost
-// digits (below 2^-64), or where there are no digits (infinity, NaN), it takes a division.
+// A constant to divide by, and its reciprocal in two terms.
+struct Divisor {
+    float value, most, rest;
+
+    constexpr explicit Divisor(float v)
+        : value(v), most(static_cast<float>(1.0 / double{v})), rest(static_cast<float>(1.0 / double{v} - double{most}))
+    {
+    }
+};
+
+// v / divisor, rounded as a division does, for 3, 60, 116, 185.12712, 250.13359, 255, 360 and 903.3: v times the
+// reciprocal in two terms, of which the second makes up for what the first lacks, is the quotient for every significand
+// as long as the second term loses no digits: v is 0 or, without its sign, from 2^-60 to 2^120.
+ZORCC_INLINE f32v divideModerate(f32v v, Divisor divisor)
+{
+#if defined(ZORCC_TIER_avx512)
+    return (f32v)_mm512_fmadd_ps(reg(v), reg(fillFloat(divisor.most)), reg(v * divisor.rest));
+#else
+    return v / divisor.value;
+#endif
+}
+
+// By one divisor where the mask is set, otherwise by the other.
+ZORCC_INLINE f32v divideByEither(s32v mask, f32v v, Divisor one, Divisor other)
+{
+    const auto term = [&](float a, float b) { return select(mask, fillFloat(a), fillFloat(b)); };
+#if defined(ZORCC_TIER_avx512)
+    return (f32v)_mm512_fmadd_ps(reg(v), reg(term(one.most, other.most)), reg(v * term(one.rest, other.rest)));
+#else
+    return v / term(one.value, other.value);
+#endif
+}
+
+// The same for any v. Where digits may have been lost (quotients below 2^-64), or where there are none (infinity, NaN),
+// it takes a division.
 template <int divisor> ZORCC_INLINE f32v divideBy(f32v v)
 {
-    static_assert(divisor == 60 || divisor == 360);
+    constexpr Divisor by(divisor);
 #if defined(ZORCC_TIER_avx512)
-    constexpr float most = static_cast<float>(1.0 / divisor), rest = static_cast<float>(1.0 / divisor - double{most});
     constexpr uint32_t least = 0x1f800000, infinity = 0x7f800000; // bits of 2^-64
-    const __m512 quotient = _mm512_fmadd_ps(reg(v), reg(fillFloat(most)), reg(v * rest));
+    const f32v quotient = divideModerate(v, by);
     const u32v bits = (u32v)quotient; // of negative ones, which are rare, beyond infinity's
     const __mmask16 notZero = _mm512_test_epi32_mask(reg(bits), reg(bits));
     if (!_mm512_mask_cmpge_epu32_mask(notZero, reg(bits - least), reg(u32v{} + (infinity - least)))) [[likely]]
-        return (f32v)quotient;
+        return quotient;
 #endif
-    return v / float{divisor};
+    return v / by.value;
 }
 
 // ---- neighbours in a sequence of vectors ----------------------------------------------------------------------------

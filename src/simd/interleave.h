@@ -30,6 +30,19 @@ ZORCC_INLINE void toBlocks(const u8v (&memory)[2], u8v (&v)[2])
 #endif
 }
 
+// To two vectors that follow each other in memory.
+ZORCC_INLINE void fromBlocks(const u8v (&v)[2], u8v (&memory)[2])
+{
+#if defined(ZORCC_TIER_avx512)
+    const __m512i first = _mm512_setr_epi64(0, 1, 8, 9, 2, 3, 10, 11),
+                  second = _mm512_setr_epi64(4, 5, 12, 13, 6, 7, 14, 15);
+    memory[0] = (u8v)_mm512_permutex2var_epi64(reg(v[0]), first, reg(v[1]));
+    memory[1] = (u8v)_mm512_permutex2var_epi64(reg(v[0]), second, reg(v[1]));
+#else
+    toBlocks(v, memory);
+#endif
+}
+
 #if !defined(ZORCC_TIER_avx512) // which loads and stores whole vectors and permutes them
 template <int count> ZORCC_INLINE u8v loadBlocks(const uint8_t* p, int k)
 {
@@ -61,16 +74,14 @@ template <int count> ZORCC_INLINE void loadBlocks(const uint8_t* p, u8v (&v)[cou
 
 template <int count> ZORCC_INLINE void storeBlocks(uint8_t* p, const u8v (&v)[count])
 {
-    for (int k = 0; k < count; ++k) {
 #if defined(ZORCC_TIER_avx512)
-        static_assert(count == 2);
-        const __m512i quads =
-            _mm512_setr_epi64(4 * k, 4 * k + 1, 8 + 4 * k, 9 + 4 * k, 4 * k + 2, 4 * k + 3, 10 + 4 * k, 11 + 4 * k);
-        store(p + 64 * k, (u8v)_mm512_permutex2var_epi64(reg(v[0]), quads, reg(v[1])));
+    static_assert(count == 2);
+    u8v memory[2];
+    fromBlocks(v, memory);
+    for (int k = 0; k < 2; ++k) store(p + 64 * k, memory[k]);
 #else
-        storeBlocks<count>(p, k, v[k]);
+    for (int k = 0; k < count; ++k) storeBlocks<count>(p, k, v[k]);
 #endif
-    }
 }
 
 // ---- halves: the lower eight bytes of all blocks at one place, the upper eight at another ---------------------------

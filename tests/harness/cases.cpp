@@ -6,8 +6,10 @@
 #include "tests/harness/random.h"
 #include "tests/reference/cbycr422.h"
 #include "tests/reference/chromasampling.h"
+#include "tests/reference/cie.h"
 #include "tests/reference/hexcone.h"
 #include "tests/reference/lumachroma.h"
+#include "tests/reference/photoycc.h"
 #include "tests/reference/reduce.h"
 #include "tests/reference/ycocg.h"
 
@@ -162,6 +164,26 @@ constexpr Case hsv[] = {
     {"zoriHSVToRGB_*", hsvToRgb},
 };
 
+constexpr Case xyz[] = {
+    {.name = "zoriRGBToXYZ_*", .reference = rgbToXyz, .defined = isLinear},
+    {.name = "zoriXYZToRGB_*", .reference = xyzToRgb, .defined = isLinear},
+};
+
+constexpr Case luv[] = {
+    {.name = "zoriRGBToLUV_*", .reference = rgbToLuv, .defined = isLinear},
+    {.name = "zoriLUVToRGB_*", .reference = luvToRgb, .defined = isLuv},
+};
+
+constexpr Case lab[] = {
+    {"zoriBGRToLab_*", rgbToLab},
+    {"zoriLabToBGR_*", labToRgb},
+};
+
+constexpr Case photoycc[] = {
+    {.name = "zoriRGBToYCC_*", .reference = rgbToPhotoYcc, .defined = isLinear},
+    {.name = "zoriYCCToRGB_*", .reference = photoYccToRgb, .defined = isLinear},
+};
+
 constexpr Case reduce[] = {{.name = "zoriReduceBits_*", .imageReference = reduceBits, .arguments = anyReduction}};
 
 constexpr Case bayer[] = {
@@ -182,6 +204,10 @@ constexpr Family table[] = {
     {"hlspl", "HLS and HSV", hlspl},
     {"hls", "HLS and HSV", hls},
     {"hsv", "HLS and HSV", hsv},
+    {"xyz", "CIE XYZ, LUV and Lab", xyz},
+    {"luv", "CIE XYZ, LUV and Lab", luv},
+    {"lab", "CIE XYZ, LUV and Lab", lab},
+    {"photoycc", "PhotoYCC", photoycc},
     {"reduce", "Bit-depth reduction", reduce},
     {"bayer", "Demosaicing", bayer},
     {"demosaicahd", "Demosaicing", demosaicahd},

@@ -2,17 +2,15 @@
 #include "tests/reference/hexcone.h"
 
 #include <algorithm>
-#include <array>
-#include <cmath>
 #include <tuple>
+
+#include "tests/reference/colours.h"
 
 namespace zorcc::reference {
 
 using interface::Sample;
 
 namespace {
-
-using Three = std::array<float, 3>;
 
 // The constants of a sample type.
 struct Type {
@@ -22,19 +20,6 @@ constexpr Type type8 = {255, 0.7083333f, 1.4117647f, 0.003921569f, 42.5f};
 constexpr Type type16 = {65535, 182.04167f, 0.005493248f, 1.5259022e-5f, 10922.5f};
 
 const Type& typeOf(const Pixels& pixels) { return pixels.sample() == Sample::u8 ? type8 : type16; }
-
-// Stores convert(pixel) for every pixel; integers are truncated.
-template <class Convert> void eachColour(const Pixels& source, Pixels& destination, Convert convert)
-{
-    eachPixel(source.size(), [&](int x, int y) {
-        const Three from{source.level(0, x, y), source.level(1, x, y), source.level(2, x, y)};
-        const Three to = convert(from, x);
-        for (int c = 0; c < 3; ++c) destination.putLevel(c, x, y, to[c]);
-    });
-}
-
-// Ties to even.
-Three rounded(const Three& v) { return {std::nearbyint(v[0]), std::nearbyint(v[1]), std::nearbyint(v[2])}; }
 
 Three hlsOf(const Three& rgb, const Type& type, bool isFloat)
 {

@@ -4,6 +4,7 @@
 
 #include "demosaic/demosaicahd_lab.h"
 #include "lines.h"
+#include "simd/cube_root.h"
 #include "simd/lookup.h"
 #include "simd/samples.h"
 
@@ -60,6 +61,10 @@ constexpr auto floatOf = [](int i, const auto& v) { return floats.of[widened(i, 
         operation<u32v>(                                                                                               \
             "divideBy " #d ", all digits", [](u32v v) { return divideBy<d>((f32v)moderate(v)); },                      \
             each([](uint32_t v) { return __builtin_bit_cast(float, moderate(v)) / d; }))
+#define MODERATE_QUOTIENTS(d)                                                                                          \
+    operation<u32v>(                                                                                                   \
+        "divideModerate by " #d, [](u32v v) { return divideModerate((f32v)moderate(v), Divisor(d)); },                 \
+        each([](uint32_t v) { return __builtin_bit_cast(float, moderate(v)) / float{d}; }))
 #define COUNTS(sign)                                                                                                   \
     ZORCC_OPERATION(addWhereBothWithin<sign>, each([](uint32_t n, float a, float x, float b, float y) {                \
                         return a <= x && b <= y ? n + sign : n;                                                        \
@@ -75,7 +80,15 @@ constexpr Operation operations[] = {
     ZORCC_OPERATION(abs, each([](float v) { return __builtin_fabsf(v); }), f32v),
     ZORCC_OF_TWO(SELECTED, f32v, s32v),
     ZORCC_OF_TWO(COUNTS, 1, -1),
-    ZORCC_OF_TWO(QUOTIENTS, 60, 360),
+    ZORCC_OF_THREE(QUOTIENTS, 3, 60, 360),
+    ZORCC_OF_FOUR(MODERATE_QUOTIENTS, 3, 255, 185.12712f, 250.13359f),
+    operation<s32v, u32v>(
+        "divideByEither",
+        [](s32v x, u32v v) { return divideByEither(x < 0, (f32v)moderate(v), Divisor(116), Divisor(903.3f)); },
+        each([](int x, uint32_t v) { return __builtin_bit_cast(float, moderate(v)) / (x < 0 ? 116 : 903.3f); })),
+    operation<f32v>(
+        "cubeRoot", [](f32v v) { return cubeRoot(finite(v)); },
+        each([](float v) { return zorcc::cubeRoot(finite(v)); })),
     ZORCC_OPERATION(leftOf, left, f32v, f32v),
     ZORCC_OPERATION(rightOf, right, f32v, f32v),
     ZORCC_OF_THREE(WIDENED, u8v, u16v, s16v),

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "operation.h"
+#include "simd/cube_root.h"
 #include "tests/harness/guarded.h"
 #include "tests/harness/tiers.h"
 
@@ -81,6 +82,20 @@ TEST(LabCurve, Within2e4OfTheTrueOne)
             }
         EXPECT_LE(worst, 2e-4) << nameOf(tier);
     }
+}
+
+// Every float where the formulas of the CIE take a root of a colour.
+TEST(CubeRoot, WithinTwoUnitsInTheLastPlace)
+{
+    double worst = 0;
+    const auto last = std::bit_cast<std::uint32_t>(1.1f);
+    for (auto bits = std::bit_cast<std::uint32_t>(0.008856f) + 1; bits <= last; ++bits) {
+        const float t = std::bit_cast<float>(bits);
+        const double root = std::cbrt(double{t});
+        const double unit = root < 0.25 ? 0x1p-26 : root < 0.5 ? 0x1p-25 : root < 1 ? 0x1p-24 : 0x1p-23;
+        worst = std::max(worst, std::abs(cubeRoot(t) - root) / unit);
+    }
+    EXPECT_LE(worst, 1.82);
 }
 
 } // namespace

@@ -151,6 +151,9 @@ constexpr Operation operations[] = {
                                          toBlocks({load(in), load(in + bytes)}, v);
                                      }))),
     CHANNELS(u8v, 2, inMemory, store(out, Vectors<u8v, 2>([=](auto& v) { loadBlocks(in, v); }))),
+    CHANNELS(u8v, 2, inBlocks, store(out, Vectors<u8v, 2>([=](auto& v) {
+                                         fromBlocks({load(in), load(in + bytes)}, v);
+                                     }))),
     CHANNELS(u8v, 2, inBlocks, storeBlocks(out, load<Vectors<u8v, 2>>(in).of)),
     MOVES(u8v, bytes, bytes, fromHalves, store(out, loadHalves(in, in + half))),
     MOVES(u8v, half, bytes, fromDoubledQuarters, store(out, loadDoubledQuarters(in, in + half / 2))),

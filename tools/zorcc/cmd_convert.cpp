@@ -7,6 +7,7 @@
 #include "io/file_kind.h"
 #include "io/writer.h"
 #include "progress.h"
+#include "srgb.h"
 
 namespace zorcc::tool {
 
@@ -52,7 +53,9 @@ const Format& ditheredSource() { return withModel(interface::formats::yuv444p, i
 void convert(const ConvertOptions& options)
 {
     fileKindToWrite(options.out); // reports a bad name before any work
-    const Format* const asked = options.to.empty() ? nullptr : &formatNamed(options.to);
+    // A format, or a model whose format depends on the samples of the input.
+    const bool ofModel = formatOfModel(options.to, interface::formats::rgb24);
+    const Format* const asked = options.to.empty() || ofModel ? nullptr : &formatNamed(options.to);
     const auto reader = openInput(options.in, nullptr, OddSizes::roundUp);
     const auto writer = openWriter(options.out, reader->tags());
     Stats stats{options.timing.repeat}, preparationStats{options.timing.repeat};
@@ -61,15 +64,19 @@ void convert(const ConvertOptions& options)
     writeAll(*reader, *writer, [&](Picture picture) {
         if (!conversion || from != &picture.format()) {
             from = &picture.format();
-            const Format& to = asked ? *asked : usualFormat(options.out, *from);
+            const Format& to = ofModel ? *formatOfModel(options.to, *from)
+                               : asked ? *asked
+                                       : usualFormat(options.out, *from);
             if (options.deinterlace) preparation = findDeinterlacing(*from, to);
             if (options.dither && isRgb(*from)) preparation = findConversion(*from, ditheredSource());
             const Matrix own = options.in.matrix ? options.in.matrix : ownMatrix(*from);
             conversion = findConversion(preparation ? *preparation->target : *from,
                                         byMatrix(to, own.value_or(interface::Model::yuv)), own, options.dither);
         }
+        if (options.linear && isRgb(*from)) picture = linearFromSrgb(std::move(picture));
         if (preparation) picture = (*preparation)(std::move(picture), preparationStats);
-        return (*conversion)(std::move(picture), stats);
+        picture = (*conversion)(std::move(picture), stats);
+        return options.linear && isRgb(*conversion->target) ? srgbFromLinear(std::move(picture)) : std::move(picture);
     });
     if (!options.timing.stats) return;
     if (preparation) std::cout << preparationStats.line();

@@ -33,6 +33,7 @@ struct ConvertOptions {
     Input in;
     std::string out, to;
     bool deinterlace = false, dither = false;
+    bool linear = false; // RGB is sRGB in files, and linear for the functions
     Timing timing;
 };
 

@@ -57,7 +57,14 @@ template <class From, class To> void copy(const Channel& from, const Channel& to
     }
 }
 
-bool isScalable(Sample sample) { return sample != Sample::s32; }
+// Whether samples of one type are those of another times the ratio of their ranges. L*u*v* in floats is not in 0..1,
+// the a* and b* of words are 255 times those of bytes, and YCoCg has a range for each type of RGB.
+bool isScalable(const Format& from, const Format& to)
+{
+    const auto either = [&](Sample sample) { return from.sample == sample || to.sample == sample; };
+    return !either(Sample::s32) && from.model != interface::Model::lab && !isYCoCg(from) &&
+           !(from.model == interface::Model::luv && either(Sample::f32));
+}
 
 // Calls visit(T{}) with the C++ type of a sample.
 template <class Visit> void withType(Sample sample, Visit visit)
@@ -164,6 +171,20 @@ const Format& formatNamed(const std::string& name)
     throw UsageError("unknown format " + name + "; known:" + known);
 }
 
+const Format* formatOfModel(const std::string& name, const Format& from)
+{
+    const Format* deep = nullptr;
+    for (const interface::Function& function : interface::functions()) {
+        const Format& format = *function.destination;
+        if (isRgb(format) || isYuv(format) || interface::propertiesOf(format.model).name != name ||
+            format.layout != Layout::interleaved || format.channels.size() != 3)
+            continue;
+        if (format.sample == from.sample) return &format;
+        if (format.sample == Sample::u16) deep = &format;
+    }
+    return deep;
+}
+
 const Format& pictureFormat(bool grey, bool alpha, Sample sample)
 {
     using namespace interface::formats;
@@ -225,7 +246,7 @@ std::optional<int> rearrangementCost(const Format& from, const Format& to)
     cost += 2 * (from.layout != to.layout);
     if (to.layout == Layout::packedBits) return cost + 32; // loses most of all
     if (from.sample != to.sample) {
-        if (!isScalable(from.sample) || !isScalable(to.sample)) return {};
+        if (!isScalable(from, to)) return {};
         const int bytes = interface::sampleBytes(from.sample), bytesAfter = interface::sampleBytes(to.sample);
         cost += bytes > bytesAfter ? 16 : bytes < bytesAfter ? 8 : 4;
     }

@@ -13,16 +13,17 @@ namespace zorcc::tool {
 // channel named first is in the low bits. Throws UsageError for other names.
 const Format& formatNamed(const std::string& name);
 
+// The interleaved format of three channels, of a colour model that is neither RGB nor luma and chroma with a matrix, by
+// the model's name: xyz, luv, lab, photoycc, hls, hsv. Of samples like those of `from` where there is one, otherwise of
+// 16 bits. Null where the name is no such model's.
+const Format* formatOfModel(const std::string& name, const Format& from);
+
 inline bool isGrey(const Format& format) { return format.channels == "L"; }
 inline bool hasAlpha(const Format& format) { return format.channels.find('A') != std::string_view::npos; }
 inline bool isDeep(const Format& format) { return format.sample != Sample::u8; }
 inline bool isRgb(const Format& format)
 {
     return format.model == interface::Model::rgb || format.model == interface::Model::grey;
-}
-inline bool isHexcone(const Format& format)
-{
-    return format.model == interface::Model::hls || format.model == interface::Model::hsv;
 }
 inline bool isYCoCg(const Format& format)
 {

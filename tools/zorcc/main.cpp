@@ -107,7 +107,10 @@ Examples:
     command = app.add_subcommand("convert", "Convert a file, with the function that suits the two formats");
     addInput(command, o.convert.in, "");
     command->add_option("OUT", o.convert.out, "result; for several pictures .y4m, .yuv, or frame_%03d.png")->required();
-    command->add_option("--to", o.convert.to, "pixel format of OUT, such as yuv420p, yuv422p, yuv444p, yuyv, rgb24")
+    command
+        ->add_option("--to", o.convert.to,
+                     "pixel format of OUT, such as yuv420p, yuv422p, yuv444p, yuyv, rgb24, or a model: "
+                     "xyz, luv, lab, photoycc, hls, hsv")
         ->type_name("NAME");
     command
         ->add_option("--matrix", o.convert.in.matrix,
@@ -118,6 +121,8 @@ Examples:
                       "smooth each 4:2:0 picture vertically, so that its two fields no longer show as combs");
     command->add_flag("--dither", o.convert.dither,
                       "into 16-bit pixels by ordered dithering, in place of cutting down");
+    command->add_flag("--linear", o.convert.linear,
+                      "RGB in files is sRGB: make it linear before it is converted, and encode RGB results");
     addTiming(command, o.convert.timing);
     command->footer(
         R"(Without --to, RGB into .y4m or .yuv becomes yuv420p and YUV into a picture file rgb24. All pictures of IN are
@@ -133,6 +138,11 @@ Examples:
 Layouts of video, of any matrix, by their usual names: i420 yv12 nv12, i422 yv16 yuy2 uyvy yvyu, i411 nv11, i410:
   zorcc convert clip.y4m clip.yuv --to nv12
   zorcc convert --size 720x576 --format nv12 clip.yuv clip.y4m --deinterlace
+Models: --to xyz, luv, lab, photoycc, hls or hsv makes a headerless file with samples like those of IN: of 8 bits xyz24,
+of 16 xyz48, of a PFM file xyzf32, and so on; Lab has lab24 and lab48 alone. RGB counts as linear, as the files mostly are
+not: --linear makes sRGB files so.
+  zorcc convert photo.png photo.raw --to lab --linear
+  zorcc convert --size 640x480 --format lab24 photo.raw photo.png --linear
 Pixels of 16 bits: rgb565 bgr565 rgb555 bgr555 rgb444 bgr444. The channel named first is in the LOW bits, so that what
 others call rgb565le is bgr565 here; their names with le are understood, too:
   zorcc convert clip.y4m clip.raw --to rgb565le --dither

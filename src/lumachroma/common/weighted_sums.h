@@ -45,6 +45,13 @@ constexpr int minOf(int a, int b, int c = 0) { return -maxOf(-a, -b, -c); }
 constexpr bool sumFits16(int a, int b) { return maxOf(a, b) <= 32767 && minOf(a, b) >= -32768; }
 constexpr bool fits8(int k) { return k >= -128 && k <= 127; }
 
+// As much of k as a byte multiply-add has room for beside another coefficient.
+constexpr int partBeside(int other, int k)
+{
+    const int most = other > 0 ? 128 - other : 127, least = other < 0 ? -128 - other : -128;
+    return k > most ? most : k < least ? least : k;
+}
+
 // H + floor((L + constant % 256) / 256) + floor(constant / 256) for 16-bit L in low..high, modulo 65536.
 // Where L passes the signed range it is moved into the unsigned one by a multiple of 256.
 template <int low, int high, int constant> ZORCC_INLINE u16v combine(u16v h, s16v l)
@@ -63,17 +70,20 @@ template <int low, int high, int constant> ZORCC_INLINE u16v combine(u16v h, s16
 //
 // With every coefficient as 256 high + low the sum is 256 H + L, so that its floor is H + floor(L / 256): two sums of
 // byte products. H may need all of 16 unsigned bits; to keep its two terms within the signed ones of a byte
-// multiply-add, the high byte of G is divided between both pairs.
+// multiply-add, the high byte of G is divided between both pairs, and so is the low one where that must be.
 template <Weights w, int constant = 0> ZORCC_INLINE u16v weigh(u8v rg, u8v bg)
 {
     constexpr int r = highOf(w.r), b = highOf(w.b), g = highOf(w.g);
-    constexpr int gWithR = g > 0 && r > 0 && g > 128 - r ? 128 - r : g, gWithB = g - gWithR;
+    constexpr int gWithR = partBeside(r, g), gWithB = g - gWithR;
     constexpr int rLow = lowOf(w.r), gLow = lowOf(w.g), bLow = lowOf(w.b);
+    constexpr int gLowWithR = partBeside(rLow, gLow), gLowWithB = gLow - gLowWithR;
     static_assert(fits8(r) && fits8(b) && fits8(gWithR) && fits8(gWithB));
-    static_assert(sumFits16(r, gWithR) && sumFits16(b, gWithB) && sumFits16(rLow, gLow));
+    static_assert(sumFits16(r, gWithR) && sumFits16(b, gWithB));
+    static_assert(sumFits16(rLow, gLowWithR) && sumFits16(bLow, gLowWithB));
 
     const u16v high = (u16v)mulAddPairs(rg, fillPair8(r, gWithR)) + (u16v)mulAddPairs(bg, fillPair8(b, gWithB));
-    const u16v low = (u16v)mulAddPairs(rg, fillPair8(rLow, gLow)) + (u16v)mulAddPairs(bg, fillPair8(bLow, 0));
+    const u16v low =
+        (u16v)mulAddPairs(rg, fillPair8(rLow, gLowWithR)) + (u16v)mulAddPairs(bg, fillPair8(bLow, gLowWithB));
     return combine<minOf(rLow, gLow, bLow), maxOf(rLow, gLow, bLow), constant>(high, (s16v)low);
 }
 

@@ -52,6 +52,15 @@ private:
 
 // ---- chroma of every pixel ------------------------------------------------------------------------------------------
 
+// R or B less the whole of luma, by weights in units of 1 / (1 << bits): `c` is the chroma channel that drives it, `yc`
+// luma and chroma zipped, `yRest` what luma's weight has beside its whole. Whole units are counted from 128, which
+// keeps the rest small.
+template <int yRest, int weight, int constant, int bits = 16> ZORCC_INLINE s16v fromOneChroma(u8v yc, s16v c)
+{
+    constexpr int one = 1 << bits, whole = (weight + one / 2) >> bits, rest = weight - one * whole;
+    return times<whole>(c - 128) + (weighPair<yRest, rest, constant + 128 * one * whole>(yc) >> (bits - 8));
+}
+
 // Every channel is whole units of luma and chroma, added in 16 bits, and a rest of less than 16 bits in 8.8 fixed
 // point.
 template <ToRgb k> class FullChromaToRgb {
@@ -78,17 +87,9 @@ private:
             const WideRgb offset = ChromaOffsets<k>::of(uv);
             return {{y + offset.c[0], y + offset.c[1], y + offset.c[2]}};
         } else {
-            return {{y + fromOneChroma<k.r, k.constantR>(yv, v), y + fromBothChroma(yv, uv, u, v),
-                     y + fromOneChroma<k.b, k.constantB>(yu, u)}};
+            return {{y + fromOneChroma<yRest, k.r, k.constantR>(yv, v), y + fromBothChroma(yv, uv, u, v),
+                     y + fromOneChroma<yRest, k.b, k.constantB>(yu, u)}};
         }
-    }
-
-    // R or B less the whole of luma: `c` is the chroma channel that drives it. Whole units are counted from 128, which
-    // keeps the rest small.
-    template <int weight, int constant> ZORCC_INLINE s16v fromOneChroma(u8v yc, s16v c)
-    {
-        constexpr int whole = wholeOf(weight), rest = restOf(weight);
-        return times<whole>(c - 128) + (weighPair<yRest, rest, constant + 128 * 65536 * whole>(yc) >> 8);
     }
 
     // G likewise.

@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: MIT
+// CIE 1976 L*a*b*, with white D65, from linear RGB bytes and back. Single precision, every operation in the order in
+// which the model defines it; rounded to nearest, ties to even, and saturated.
+#pragma once
+
+#include "colormodels/common/cie.h"
+
+namespace zorcc::cie {
+
+// What takes RGB bytes by the matrix to ratios to white: 1 / 255 of the reciprocals of (0.950456, 1, 1.088754), and the
+// other way round.
+inline constexpr float toRatio[] = {0.0041259914f, 0.003921569f, 0.0036018905f};
+inline constexpr float fromRatio[] = {242.366f, 255, 277.632f};
+
+// Samples of L*, a* and b*: L* is multiplied, a* and b* are raised by 128 and multiplied.
+struct LabCode {
+    float lightness, colour;
+};
+template <class Sample> inline constexpr LabCode labCode;
+template <> inline constexpr LabCode labCode<uint8_t> = {2.55f, 1};
+template <> inline constexpr LabCode labCode<uint16_t> = {655.35f, 255};
+
+// Back.
+template <class Sample> inline constexpr LabCode labDecode;
+template <> inline constexpr LabCode labDecode<uint8_t> = {0.39215687f, 1};
+template <> inline constexpr LabCode labDecode<uint16_t> = {0.0015259022f, 0.003921569f};
+
+} // namespace zorcc::cie
+
+namespace zorcc::ZORCC_TIER {
+namespace {
+
+// To samples of this type.
+template <class Sample> struct RgbToLabFloats {
+    [[gnu::always_inline]] Samples<float> operator()(const Samples<float>& rgb) const
+    {
+        constexpr cie::LabCode code = cie::labCode<Sample>;
+        const auto [x, y, z] = RgbToXyzFloats{}(rgb).c[0];
+        const f32v ratioY = y * cie::toRatio[1], rootY = cubeRoot(ratioY);
+        const s32v isAbove = ratioY > cie::threshold;
+        const f32v fx = curve(x * cie::toRatio[0]), fy = select(isAbove, rootY, line(ratioY)),
+                   fz = curve(z * cie::toRatio[2]);
+        return {{{lightness(isAbove, ratioY, rootY) * code.lightness, ((fx - fy) * 500 + 128) * code.colour,
+                  ((fy - fz) * 200 + 128) * code.colour}}};
+    }
+
+private:
+    ZORCC_INLINE f32v line(f32v ratio) { return ratio * 7.787f + 0.137931034f; }
+    ZORCC_INLINE f32v curve(f32v ratio) { return select(ratio > cie::threshold, cubeRoot(ratio), line(ratio)); }
+};
+
+template <class Sample> using RgbToLab = OnIntegers<Sample, RgbToLabFloats<Sample>, RoundedToEven>;
+
+// From samples of this type. The cube stands for the line, too.
+template <class Sample> struct LabToRgbFloats {
+    [[gnu::always_inline]] Samples<float> operator()(const Samples<float>& lab) const
+    {
+        constexpr cie::LabCode code = cie::labDecode<Sample>;
+        const f32v a = lab.c[0][1] * code.colour - 128, b = lab.c[0][2] * code.colour - 128;
+        const f32v fy = (lab.c[0][0] * code.lightness + 16) * 0.00862069f, fx = fy + a * 0.002f, fz = fy - b * 0.005f;
+        return XyzToRgbFloats{}(
+            {{{cube(fx) * cie::fromRatio[0], cube(fy) * cie::fromRatio[1], cube(fz) * cie::fromRatio[2]}}});
+    }
+
+private:
+    ZORCC_INLINE f32v cube(f32v v) { return v * v * v; }
+};
+
+template <class Sample> using LabToRgb = OnIntegers<uint8_t, LabToRgbFloats<Sample>, RoundedToEven>;
+
+} // namespace
+} // namespace zorcc::ZORCC_TIER

@@ -1,0 +1,159 @@
+// SPDX-License-Identifier: MIT
+// CIE 1976 L*u*v*, with white D65, from linear RGB and back. Single precision, every operation in the order in which
+// the model defines it, every division exact.
+#pragma once
+
+#include "colormodels/common/cie.h"
+#include "colormodels/common/ranges.h"
+
+namespace zorcc::cie {
+
+// The chromaticity of white, and what v' is raised by where its size is less than `least`.
+struct LuvWhite {
+    float u, v, least;
+};
+inline constexpr LuvWhite luvWhite = {0.197839f, 0.468342f, 1.1920929e-7f};
+inline constexpr LuvWhite luvWhiteOfIntegers = {0.19783941f, 0.4683422f, 1.1920929e-5f}; // to RGB
+
+} // namespace zorcc::cie
+
+namespace zorcc::ZORCC_TIER {
+namespace {
+
+// ---- from RGB -------------------------------------------------------------------------------------------------------
+
+// u' and v'.
+struct Chromaticity {
+    f32v u, v;
+
+    // Of integers, which are all 0 where the divisor is.
+    ZORCC_INLINE Chromaticity ofIntegers(f32v x, f32v y, f32v z)
+    {
+        const f32v d = max(divisor(x, y, z), fillFloat(0x1p-64f));
+        return {x * 4 / d, y * 9 / d};
+    }
+
+    ZORCC_INLINE Chromaticity of(f32v x, f32v y, f32v z)
+    {
+        const f32v d = divisor(x, y, z), none = {};
+        return {select(d == 0, none, x * 4 / d), select(d == 0, none, y * 9 / d)};
+    }
+
+private:
+    ZORCC_INLINE f32v divisor(f32v x, f32v y, f32v z) { return x + y * 15 + z * 3; }
+};
+
+ZORCC_INLINE Samples<float> luvOf(f32v l, const Chromaticity& c)
+{
+    return {{{l, l * 13 * (c.u - cie::luvWhite.u), l * 13 * (c.v - cie::luvWhite.v)}}};
+}
+
+template <class Sample> struct RgbToLuv;
+
+template <> struct RgbToLuv<float> {
+    [[gnu::always_inline]] Samples<float> operator()(const Samples<float>& rgb) const
+    {
+        const auto [x, y, z] = RgbToXyzFloats{}(rgb).c[0];
+        return luvOf(lightness(y > cie::threshold, y, cubeRoot(y)), Chromaticity::of(x, y, z));
+    }
+};
+
+// L* in units of 1/655.35; u* and v* raised to be above 0. The last is rounded half up, the others half to even.
+template <> struct RgbToLuv<uint16_t> {
+    [[gnu::always_inline]] Samples<uint16_t> operator()(const Samples<uint16_t>& rgb) const
+    {
+        const auto formula = [](f32v r, f32v g, f32v b) __attribute__((always_inline))
+        {
+            const auto [x, y, z] = RgbToXyzFloats{}({{{r, g, b}}}).c[0];
+            const f32v unit = y * Range<uint16_t>::toUnit;
+            const auto [l, u, v] =
+                luvOf(lightness(y > 580.378f, unit, cubeRoot(unit)), Chromaticity::ofIntegers(x, y, z)).c[0];
+            return Integers<3>{{roundToEven(l * 655.35f), roundToEven((u + 134) * 185.12712f),
+                                truncate((v + 140) * 250.13359f + 0.5f)}};
+        };
+        return throughFloats<uint16_t>(formula, rgb.c[0][0], rgb.c[0][1], rgb.c[0][2]);
+    }
+};
+
+template <> struct RgbToLuv<int16_t> : SignedSamples<RgbToLuv> {
+};
+
+// Lightness is that of Y rounded to a byte or, where that is below 32, to a quarter of a unit, and is rounded to a byte
+// or a quarter itself. Its 384 values have no tie that the error of a cube root could decide.
+template <> struct RgbToLuv<uint8_t> {
+    [[gnu::always_inline]] Samples<uint8_t> operator()(const Samples<uint8_t>& rgb) const
+    {
+        const auto formula = [](f32v r, f32v g, f32v b) __attribute__((always_inline))
+        {
+            constexpr Divisor full(255);
+            const auto [x, y, z] = RgbToXyzFloats{}({{{r, g, b}}}).c[0];
+            const f32v one = f32v{} + 1;
+            const s32v isBright = y + 0.5f >= 32;
+            const f32v scale = select(isBright, one, one * 4), unit = select(isBright, one, one * 0.25f);
+            const f32v level = toFloat(truncate(y * scale + 0.5f)) * unit * Range<uint8_t>::toUnit;
+            const f32v exact = lightness(level > cie::threshold, level, cubeRoot(level)) * 2.55f;
+            const f32v l = toFloat(truncate(exact * scale + 0.5f)) * unit;
+            const auto [u, v] =
+                Chromaticity::ofIntegers(divideModerate(x, full), divideModerate(y, full), divideModerate(z, full));
+            // 13 of 1/2.55 of 255 of 354 units, and of 262; the codes of u* = v* = 0 with the half that rounds.
+            return Integers<3>{{truncate(l + 0.5f), truncate(l * 3.6723163f * (u - cie::luvWhite.u) + 97.02543f),
+                                truncate(l * 4.961832f * (v - cie::luvWhite.v) + 136.75955f)}};
+        };
+        return throughFloats<uint8_t>(formula, rgb.c[0][0], rgb.c[0][1], rgb.c[0][2]);
+    }
+};
+
+// ---- to RGB ---------------------------------------------------------------------------------------------------------
+
+// Before limits. `third` is the way to divide by 3.
+template <const cie::LuvWhite& white, class Third>
+ZORCC_INLINE Samples<float> rgbOfLuv(f32v l, f32v u, f32v v, Third third)
+{
+    const s32v isAbove = l >= 7.9996247f; // 903.3 thresholds
+    const f32v ratio = divideByEither(isAbove, select(isAbove, l + 16, l), Divisor(116), Divisor(903.3f));
+    const f32v y = select(isAbove, ratio * ratio * ratio, ratio), thirteen = l * 13;
+    const f32v u1 = u / thirteen + white.u, v0 = v / thirteen + white.v;
+    const f32v v1 = select(abs(v0) < white.least, v0 + 9e-5f, v0);
+    const f32v q = y / v1, x = q * 2.25f * u1, z = q * 3 - y * 5 - third(x);
+    const Samples<float> rgb = XyzToRgbFloats{}({{{x, y, z}}});
+    const s32v isBlack = l < 9e-5f;
+    const f32v none = {};
+    return {
+        {{select(isBlack, none, rgb.c[0][0]), select(isBlack, none, rgb.c[0][1]), select(isBlack, none, rgb.c[0][2])}}};
+}
+
+struct LuvToRgbFloats {
+    [[gnu::always_inline]] Samples<float> operator()(const Samples<float>& luv) const
+    {
+        const auto [l, u, v] = luv.c[0];
+        return rgbOfLuv<cie::luvWhite>(l, u, v, [](f32v x) { return divideBy<3>(x); });
+    }
+};
+
+// From the codes of integers, to the range of the type.
+template <class Sample> struct LuvCodesToRgb {
+    [[gnu::always_inline]] Samples<float> operator()(const Samples<float>& codes) const
+    {
+        const auto [l, u, v] = codes.c[0];
+        const auto third = [](f32v x) { return divideModerate(x, Divisor(3)); };
+        Samples<float> rgb;
+        if constexpr (sizeof(Sample) == 1)
+            rgb =
+                rgbOfLuv<cie::luvWhiteOfIntegers>(l * 0.39215687f, u * 1.38823533f - 134, v * 1.02745104f - 140, third);
+        else
+            rgb = rgbOfLuv<cie::luvWhiteOfIntegers>(l * 0.0015259022f, divideModerate(u, Divisor(185.12712f)) - 134,
+                                                    divideModerate(v, Divisor(250.13359f)) - 140, third);
+        for (f32v& channel : rgb.c[0]) channel = min(channel, f32v{} + 1) * Range<Sample>::max;
+        return rgb;
+    }
+};
+
+template <class Sample> struct LuvToRgb : OnIntegers<Sample, LuvCodesToRgb<Sample>, RoundedToEven> {
+};
+template <> struct LuvToRgb<float> : WithinUnit<LuvToRgbFloats> {
+};
+template <> struct LuvToRgb<int16_t> : SignedSamples<LuvToRgb> {
+};
+
+} // namespace
+} // namespace zorcc::ZORCC_TIER
