@@ -46,6 +46,8 @@ constexpr Twins twins[] = {
     {"zoriYCoCgToSBGR_Rev_32s16s_P3C3R", "zoriYCoCgToRGB_8u_P3C3R"},
     {"zoriBGRToYCbCr411_8u_C3P3R", "zoriBGRToYCbCr420_8u_C3P3R"},
     {"zoriRGBToCbYCr422Gamma_8u_C3C2R", "zoriRGBToCbYCr422_8u_C3C2R"},
+    {"zoriRGBToYCC_16u_C3R", "zoriRGBToYCC_8u_C3R"},
+    {"zoriYCCToRGB_16u_C3R", "zoriYCCToRGB_8u_C3R"},
 };
 
 void selectBestTier() { setActiveTier(bestTier()); }
