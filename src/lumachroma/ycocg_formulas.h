@@ -95,22 +95,22 @@ struct ToYCoCgBytes {
 
 // To samples of twice as many bits. The plain form is made in the lanes of the source, where it fits.
 template <class Form, class Wide> struct ToWideYCoCg {
-    template <class Sample> [[gnu::always_inline]] Halves<Wide> operator()(const Samples<Sample>& rgb) const
+    template <class Sample> [[gnu::always_inline]] WideSamples<Wide> operator()(const Samples<Sample>& rgb) const
     {
-        Halves<Wide> ycc;
+        WideSamples<Wide> ycc;
         if constexpr (std::is_same_v<Form, PlainYCoCg>) {
             const auto narrow = Form::fromRgb(rgb.c[0][0], rgb.c[0][1], rgb.c[0][2]);
             constexpr int back = sizeof(Sample) == 1 ? -127 : 1;
             for (int c = 0; c < 3; ++c) {
-                toHalves(narrow.c[c], ycc.c[c]);
-                for (int k = 0; k < 2 && c > 0; ++k) ycc.c[c][k] += back;
+                toHalves(narrow.c[c], ycc.c[c].half);
+                for (int k = 0; k < 2 && c > 0; ++k) ycc.c[c].half[k] += back;
             }
         } else {
-            Halves<Wide> wide;
-            for (int c = 0; c < 3; ++c) toHalves(rgb.c[0][c], wide.c[c]);
+            WideSamples<Wide> wide;
+            for (int c = 0; c < 3; ++c) toHalves(rgb.c[0][c], wide.c[c].half);
             for (int k = 0; k < 2; ++k) {
-                const auto result = Form::fromRgb(wide.c[0][k], wide.c[1][k], wide.c[2][k]);
-                for (int c = 0; c < 3; ++c) ycc.c[c][k] = result.c[c];
+                const auto result = Form::fromRgb(wide.c[0].half[k], wide.c[1].half[k], wide.c[2].half[k]);
+                for (int c = 0; c < 3; ++c) ycc.c[c].half[k] = result.c[c];
             }
         }
         return ycc;
@@ -125,11 +125,11 @@ template <class Form> struct FromYCoCg {
     }
 
     // Words to bytes, saturated; 32 bits to the low 16.
-    [[gnu::always_inline]] Pixels<3> operator()(const Halves<int16_t>& ycc) const
+    [[gnu::always_inline]] Pixels<3> operator()(const WideSamples<int16_t>& ycc) const
     {
         return through(ycc, [](s16v lo, s16v hi) { return packUnsigned(lo, hi); });
     }
-    [[gnu::always_inline]] Samples<int16_t> operator()(const Halves<int32_t>& ycc) const
+    [[gnu::always_inline]] Samples<int16_t> operator()(const WideSamples<int32_t>& ycc) const
     {
         return through(ycc, lowHalves);
     }
@@ -137,19 +137,20 @@ template <class Form> struct FromYCoCg {
     // Bytes with chroma around 128.
     [[gnu::always_inline]] Pixels<3> operator()(const Pixels<3>& ycc) const
     {
-        Halves<int16_t> wide;
+        WideSamples<int16_t> wide;
         for (int c = 0; c < 3; ++c) {
-            toHalves(ycc.c[0][c], wide.c[c]);
-            for (int k = 0; k < 2 && c > 0; ++k) wide.c[c][k] -= 128;
+            toHalves(ycc.c[0][c], wide.c[c].half);
+            for (int k = 0; k < 2 && c > 0; ++k) wide.c[c].half[k] -= 128;
         }
         return operator()(wide);
     }
 
 private:
-    template <class Wide, class Pack> [[gnu::always_inline]] static auto through(const Halves<Wide>& ycc, Pack pack)
+    template <class Wide, class Pack>
+    [[gnu::always_inline]] static auto through(const WideSamples<Wide>& ycc, Pack pack)
     {
-        const auto lo = Form::toRgb(ycc.c[0][0], ycc.c[1][0], ycc.c[2][0]),
-                   hi = Form::toRgb(ycc.c[0][1], ycc.c[1][1], ycc.c[2][1]);
+        const auto lo = Form::toRgb(ycc.c[0].half[0], ycc.c[1].half[0], ycc.c[2].half[0]),
+                   hi = Form::toRgb(ycc.c[0].half[1], ycc.c[1].half[1], ycc.c[2].half[1]);
         using Sample = std::conditional_t<sizeof(Wide) == 2, uint8_t, int16_t>;
         Samples<Sample> rgb;
         for (int c = 0; c < 3; ++c) rgb.c[0][c] = pack(lo.c[c], hi.c[c]);

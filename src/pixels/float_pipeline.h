@@ -10,9 +10,9 @@ namespace {
 
 template <int count> using Integers = Widened<count>;
 
-ZORCC_INLINE Widened<4> widen(const Pair16& pair)
+ZORCC_INLINE Widened<4> widen(const WideChannel<uint16_t>& wide)
 {
-    const Widened<2> first = widen(pair.v[0]), second = widen(pair.v[1]);
+    const Widened<2> first = widen(wide.half[0]), second = widen(wide.half[1]);
     return {{first.part[0], first.part[1], second.part[0], second.part[1]}};
 }
 
@@ -25,7 +25,7 @@ template <class Sample, int parts> ZORCC_INLINE auto narrowParts(const Widened<p
     if constexpr (parts == partsOf<Sample>)
         return narrow<Sample>(wide);
     else
-        return Pair16{
+        return WideChannel<uint16_t>{
             {narrow<uint16_t>({{wide.part[0], wide.part[1]}}), narrow<uint16_t>({{wide.part[2], wide.part[3]}})}};
 }
 
@@ -35,11 +35,12 @@ template <class Sample, int count> ZORCC_INLINE Samples<Sample, count> channelsO
     for (int i = 0; i < count; ++i) samples.c[0][i] = v[i];
     return samples;
 }
-template <class Sample, int count> ZORCC_INLINE Pairs<count> channelsOf(const Pair16 (&v)[count])
+template <class Sample, int count>
+ZORCC_INLINE WideSamples<uint16_t, count> channelsOf(const WideChannel<uint16_t> (&v)[count])
 {
-    Pairs<count> pairs;
-    for (int i = 0; i < count; ++i) pairs.c[i] = v[i];
-    return pairs;
+    WideSamples<uint16_t, count> samples;
+    for (int i = 0; i < count; ++i) samples.c[i] = v[i];
+    return samples;
 }
 
 // Widens samples, calls the formula for each part of them with floats, and narrows the integers that it returns to
@@ -86,7 +87,7 @@ template <class Sample, class Formula, class Conversion> struct OnIntegers {
     {
         return of(from.c[0]);
     }
-    [[gnu::always_inline]] auto operator()(const Pairs<3>& from) const { return of(from.c); }
+    [[gnu::always_inline]] auto operator()(const WideSamples<uint16_t>& from) const { return of(from.c); }
 };
 
 // Signed 16-bit samples by the formula of unsigned ones, as their value plus 32768.

@@ -54,35 +54,6 @@ template <class S = uint8_t, Order order = Order::asStored> using C3 = Interleav
 template <class S = uint8_t, Order order = Order::asStored> using C4 = Interleaved<S, 4, 4, order>;
 template <class S = uint8_t, Order order = Order::asStored> using AC4 = Interleaved<S, 4, 3, order>;
 
-// Three interleaved channels of 16 bits, as many pixels at a time as there are bytes in a vector.
-struct WideC3 : C3<uint16_t> {
-    using Base = C3<uint16_t>::Base;
-    static constexpr int half = C3<uint16_t>::pixelsAtOnce, pixelsAtOnce = 2 * half;
-
-    [[gnu::always_inline]] Pairs<3> load(int x) const
-    {
-        const Samples<uint16_t> first = C3<uint16_t>::load(x), second = C3<uint16_t>::load(x + half);
-        Pairs<3> p;
-        for (int c = 0; c < 3; ++c) {
-            u8v v[2];
-            toBlocks({(u8v)first.c[0][c], (u8v)second.c[0][c]}, v);
-            p.c[c] = {{(u16v)v[0], (u16v)v[1]}};
-        }
-        return p;
-    }
-
-    [[gnu::always_inline]] void store(int x, const Pairs<3>& p) const
-    {
-        Samples<uint16_t> part[2];
-        for (int c = 0; c < 3; ++c) {
-            u8v v[2];
-            fromBlocks({(u8v)p.c[c].v[0], (u8v)p.c[c].v[1]}, v);
-            for (int k = 0; k < 2; ++k) part[k].c[0][c] = (u16v)v[k];
-        }
-        for (int k = 0; k < 2; ++k) C3<uint16_t>::store(x + k * half, part[k]);
-    }
-};
-
 // A plane for each channel.
 template <class S, Order order, Line... planes> struct Planes : Lines<planes...> {
     using Base = Lines<planes...>;
@@ -114,38 +85,62 @@ using P3 = Planes<S, order, planeOf<S, 0>, planeOf<S, 1>, planeOf<S, 2>>;
 template <class S = uint8_t, Order order = Order::asStored>
 using AP4 = Planes<S, order, planeOf<S, 0>, planeOf<S, 1>, planeOf<S, 2>, planeOf<S, 3>>;
 
-// Samples of twice as many bits as those that they are made from, or that are made from them: for as many pixels as
-// those fill a vector with, two vectors, which a zip makes and a pack takes.
-template <class S> struct Halves {
-    Vec<S> c[3][2];
+using Bgr = C3<uint8_t, Order::reversed>;
+using Bgra = C4<uint8_t, Order::reversed>;
+using Bgrx = AC4<uint8_t, Order::reversed>; // alpha ignored, or left as it is
+
+// ---- samples that have twice as many bits as those on the other side ---
+
+// Three interleaved channels.
+struct WideC3 : C3<uint16_t> {
+    using Base = C3<uint16_t>::Base;
+    static constexpr int half = C3<uint16_t>::pixelsAtOnce, pixelsAtOnce = 2 * half;
+
+    [[gnu::always_inline]] WideSamples<uint16_t> load(int x) const
+    {
+        const Samples<uint16_t> first = C3<uint16_t>::load(x), second = C3<uint16_t>::load(x + half);
+        WideSamples<uint16_t> p;
+        for (int c = 0; c < 3; ++c) {
+            u8v v[2];
+            toBlocks({(u8v)first.c[0][c], (u8v)second.c[0][c]}, v);
+            p.c[c] = {{(u16v)v[0], (u16v)v[1]}};
+        }
+        return p;
+    }
+
+    [[gnu::always_inline]] void store(int x, const WideSamples<uint16_t>& p) const
+    {
+        Samples<uint16_t> part[2];
+        for (int c = 0; c < 3; ++c) {
+            u8v v[2];
+            fromBlocks({(u8v)p.c[c].half[0], (u8v)p.c[c].half[1]}, v);
+            for (int k = 0; k < 2; ++k) part[k].c[0][c] = (u16v)v[k];
+        }
+        for (int k = 0; k < 2; ++k) C3<uint16_t>::store(x + k * half, part[k]);
+    }
 };
 
-// Three planes of such samples.
+// Three planes.
 template <class S> struct WideP3 : Lines<planeOf<S, 0>, planeOf<S, 1>, planeOf<S, 2>> {
     using Sample = S;
     static constexpr int pixelsAtOnce = 2 * vectorBytes / int{sizeof(S)};
 
-    [[gnu::always_inline]] Halves<S> load(int x) const
+    [[gnu::always_inline]] WideSamples<S> load(int x) const
     {
-        Halves<S> p;
+        WideSamples<S> p;
         this->each([&](int c) {
             u8v v[2];
             loadBlocks(this->at(c, x), v);
-            p.c[c][0] = (Vec<S>)v[0];
-            p.c[c][1] = (Vec<S>)v[1];
+            p.c[c] = {{(Vec<S>)v[0], (Vec<S>)v[1]}};
         });
         return p;
     }
 
-    [[gnu::always_inline]] void store(int x, const Halves<S>& p) const
+    [[gnu::always_inline]] void store(int x, const WideSamples<S>& p) const
     {
-        this->each([&](int c) { storeBlocks(this->at(c, x), {(u8v)p.c[c][0], (u8v)p.c[c][1]}); });
+        this->each([&](int c) { storeBlocks(this->at(c, x), {(u8v)p.c[c].half[0], (u8v)p.c[c].half[1]}); });
     }
 };
-
-using Bgr = C3<uint8_t, Order::reversed>;
-using Bgra = C4<uint8_t, Order::reversed>;
-using Bgrx = AC4<uint8_t, Order::reversed>; // alpha ignored, or left as it is
 
 // ---- 8 bits; two or four columns, or the four pixels of a 2 x 2 block, share chroma ---
 

@@ -25,14 +25,13 @@ template <int channels, int rows = 1, Columns columns = Columns::inOrder, class 
 
 template <class Sample, int channels = 3> using Samples = Pixels<channels, 1, Columns::inOrder, Sample>;
 
-// As many samples of 16 bits as a vector has bytes, in the order of zipped bytes.
-struct Pair16 {
-    u16v v[2];
+// Samples of twice as many bits as those that they are made from, or that are made from them: for as many pixels as
+// those fill a vector with, two vectors of each channel, which a zip makes and a pack takes.
+template <class S> struct WideChannel {
+    Vec<S> half[2];
 };
-
-// Channels of these.
-template <int channels> struct Pairs {
-    Pair16 c[channels];
+template <class S, int channels = 3> struct WideSamples {
+    WideChannel<S> c[channels];
 };
 
 template <int channels, int rows>
