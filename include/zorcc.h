@@ -5,7 +5,7 @@
  * This header includes everything; each family of functions also has a header of its own, listed below, which says what
  * its functions compute. What follows holds for all of them unless a family says otherwise.
  *
- * Names: zori<Operation>_<sample types>_<layouts>R. Sample types: 8u, 16u, 16s, 32f (two joined: source, destination).
+ * Names: zori<Operation>_<sample types>_<layouts>R. Sample types: 8u, 8s, 16u, 16s, 32f (two joined: source, destination).
  * Layouts (two joined: source, destination):
  *   C1, C2, C3, C4  that many samples a pixel, interleaved, channel 0 at the lowest address
  *   AC4             four samples a pixel; the fourth is alpha: ignored in a source, left as it is in a destination (its
@@ -47,9 +47,13 @@
 #include "zorcc/yuv.h"            /* RGB and YUV */
 
 /* Colour models */
-#include "zorcc/hls.h"   /* RGB and HLS */
-#include "zorcc/hlspl.h" /* BGR and HLS, planar */
-#include "zorcc/hsv.h"   /* RGB and HSV */
+#include "zorcc/gamma.h"   /* gamma correction (ITU-R BT.709) */
+#include "zorcc/gray.h"    /* grey of colour */
+#include "zorcc/hls.h"     /* RGB and HLS */
+#include "zorcc/hlspl.h"   /* BGR and HLS, planar */
+#include "zorcc/hsv.h"     /* RGB and HSV */
+#include "zorcc/tonemap.h" /* tone mapping of floats to 8 bits */
+#include "zorcc/twist.h"   /* colour twist by a matrix */
 
 /* Number of levels */
 #include "zorcc/reduce.h" /* bit-depth reduction */

@@ -95,6 +95,20 @@ const Target targets[] = {
     {"zoriRGBToHLS_32f_C3R", cachedSize, Tier::ssse3, 1, "OpenCV RGB2HLS"},
     {"zoriHLSToRGB_32f_C3R", cachedSize, Tier::avx512, 2, "OpenCV HLS2RGB"},
     {"zoriHLSToRGB_32f_C3R", cachedSize, Tier::ssse3, 1, "OpenCV HLS2RGB"},
+    {"zoriRGBToGray_8u_C3C1R", cachedSize, Tier::avx512, 3, "libyuv RAWToJ400"},
+    {"zoriRGBToGray_8u_C3C1R", cachedSize, Tier::avx2, 1.1, "libyuv RAWToJ400"},
+    {"zoriRGBToGray_32f_C3C1R", cachedSize, Tier::avx512, 1.5, "OpenCV RGB2GRAY"},
+    {"zoriRGBToGray_32f_C3C1R", cachedSize, Tier::avx2, 1.1, "OpenCV RGB2GRAY"},
+    {"zoriColorTwist32f_8u_C3R", cachedSize, Tier::avx512, 1.1, "OpenCV transform"},
+    {"zoriColorTwist32f_8u_C3R", cachedSize, Tier::avx2, 1.1, "OpenCV transform"},
+    {"zoriColorTwist_32f_C3R", cachedSize, Tier::avx512, 1, "OpenCV transform"},
+    {"zoriColorTwist_32f_C3R", cachedSize, Tier::avx2, 1, "OpenCV transform"},
+    {"zoriGammaFwd_8u_C3R", cachedSize, Tier::avx512, 15, "OpenCV LUT"},
+    {"zoriGammaFwd_8u_C3R", cachedSize, Tier::avx2, 3, "OpenCV LUT"},
+    {"zoriGammaFwd_16u_C3R", cachedSize, Tier::avx2, 4, "C library pow"},
+    {"zoriGammaFwd_32f_C3R", cachedSize, Tier::avx512, 5, "C library pow"},
+    {"zoriGammaFwd_32f_C3R", cachedSize, Tier::avx2, 5, "C library pow"},
+    {"zoriGammaInv_32f_C3R", cachedSize, Tier::avx2, 5, "C library pow"},
     {"zoriCFAToRGB_8u_C1C3R", frameSize, Tier::avx512, 5, "OpenCV BayerRGGB2RGB_EA"},
     {"zoriCFAToRGB_8u_C1C3R", frameSize, Tier::ssse3, 1.5, "OpenCV BayerRGGB2RGB_EA"},
     {"zoriCFAToRGB_16u_C1C3R", frameSize, Tier::avx512, 8, "OpenCV BayerRGGB2RGB_EA"},
@@ -104,6 +118,10 @@ const Target targets[] = {
     {"zoriDemosaicAHD_16u_C1C3R", frameSize, Tier::avx512, 8, "LibRaw AHD"},
     {"zoriDemosaicAHD_16u_C1C3R", frameSize, Tier::ssse3, 3, "LibRaw AHD"},
 };
+
+// Words through a table of the curve, on AVX2.
+constexpr double tableSpeed = 250; // Mpx/s
+bool usesTable(const interface::Function& function) { return function.name.starts_with("zoriGammaFwd_16u_C3R"); }
 
 // Conversions that only move samples: on the best tier multiples of a memcpy beyond the caches, on the lowest multiples
 // of any peer that is held to the same instructions.
@@ -119,7 +137,12 @@ constexpr double ssse3Ratio = 0.5;
 constexpr double ssse3Speed = 1000;
 bool isSlow(const interface::Function& function) { return function.name.starts_with("zoriDemosaicAHD"); }
 
-bool usesFloats(const interface::Function& function) { return function.family == "HLS and HSV"; }
+bool usesFloats(const interface::Function& function)
+{
+    const bool ofBytes = function.source->sample == interface::Sample::u8;
+    return function.family == "HLS and HSV" || function.takesTwist ||
+           (!ofBytes && (function.family == "Gamma correction" || function.family == "Grey and tone mapping"));
+}
 
 bool same(ZorSize a, ZorSize b) { return a.width == b.width && a.height == b.height; }
 
@@ -166,6 +189,8 @@ bool checkTargets(const std::vector<Result>& results)
             if (peer.name == "memcpy" && same(result.size, frameSize) && movesSamples(*result.function))
                 judge.judge(result, bestTier(), result.ours.at(bestTier()) / peer.speed, moveRatio, "x memcpy");
         }
+        if (same(result.size, frameSize) && usesTable(*result.function) && result.ours.contains(Tier::avx2))
+            judge.judge(result, Tier::avx2, result.ours.at(Tier::avx2), tableSpeed, "Mpx/s");
         if (same(result.size, cachedSize) && result.name == result.function->name && !usesFloats(*result.function) &&
             !isSlow(*result.function))
             judge.judge(result, Tier::ssse3, result.ours.at(Tier::ssse3), ssse3Speed, "Mpx/s");

@@ -3,6 +3,8 @@
 // the type's own range.
 #pragma once
 
+#include <limits>
+
 #include "pixels/rows.h"
 
 namespace zorcc::ZORCC_TIER {
@@ -12,6 +14,13 @@ template <int count> using Integers = Widened<count>;
 
 template <class V> ZORCC_INLINE auto asFloats(const V& samples) { return toFloat(widen(samples)); }
 template <int parts> ZORCC_INLINE const Floats<parts>& asFloats(const Floats<parts>& floats) { return floats; }
+
+// To the nearest integer, ties to even, for a `narrow` to saturate. What is beyond 32 bits is saturated first; NaN gives
+// the least integer, and so the least sample.
+template <class Sample> ZORCC_INLINE s32v roundSaturated(f32v v)
+{
+    return roundToEven(min(fillFloat(std::numeric_limits<Sample>::max()), v));
+}
 
 // Widens vectors of samples, calls the formula for each part of them with floats, and narrows the integers that it
 // returns to samples, saturated. Inputs that are floats already are in zip order (simd/floats.h).
