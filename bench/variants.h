@@ -25,6 +25,13 @@ inline std::span<const Variant> variantsOf(const interface::Function& function)
         {"jjn", {.levels = 4, .method = zorDitherMethodJarvisJudiceNinke}},
         {"stucki", {.levels = 4, .method = zorDitherMethodStucki}},
     };
+    // No matrix that is a special case.
+    static constexpr float matrix[4][4] = {{0.39f, 0.77f, -0.19f, 0.01f},
+                                           {0.35f, -0.69f, 0.17f, 0.02f},
+                                           {-0.27f, 0.53f, 0.13f, 0.03f},
+                                           {0.1f, 0.2f, 0.3f, 1}};
+    static constexpr Variant twisted[] = {{"", {.twist = matrix}}};
+    if (function.takesTwist) return twisted;
     return function.family == "Bit-depth reduction" ? std::span<const Variant>(reductions) : usual;
 }
 

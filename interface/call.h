@@ -2,6 +2,7 @@
 // Calls any exported conversion in one way. Its parameters are
 //
 //     images, size, arguments                                      most functions
+//     image, size, arguments                                       those in place
 //     source, region, size, step, destination, step, arguments     those that convert a region
 //
 // An image is a pointer and a step, both again for a second plane, or an array of planes and a step for all or an array
@@ -38,6 +39,11 @@ struct Extra {
     std::optional<ZorRect> region = std::nullopt; // of the source; all of it if there is none
     void* scratch = nullptr;
     int scratchStep = 0;
+    const float (*twist)[4] = identity; // rows
+    const float* weights = nullptr;     // of the channels in a grey; null: those of luma
+    float vMin = 0, vMax = 1;           // of a curve on floats
+
+    static constexpr float identity[4][4] = {{1, 0, 0, 0}, {0, 1, 0, 0}, {0, 0, 1, 0}, {0, 0, 0, 1}};
 };
 
 // The names of arguments, as the table has them.
@@ -51,6 +57,10 @@ inline constexpr auto grid = &Extra::grid;
 inline constexpr auto interpolation = &Extra::interpolation;
 inline constexpr auto scratch = &Extra::scratch;
 inline constexpr auto scratchStep = &Extra::scratchStep;
+inline constexpr auto twist = &Extra::twist;
+inline constexpr auto weights = &Extra::weights;
+inline constexpr auto vMin = &Extra::vMin;
+inline constexpr auto vMax = &Extra::vMax;
 } // namespace arguments
 
 struct Call {
@@ -62,6 +72,7 @@ struct Call {
 
 // What a signature says about its images.
 struct Signature {
+    bool inPlace;                       // one image is source and destination
     bool steps;                         // takes steps at all; otherwise rows follow each other without gaps
     bool sourceArray, destinationArray; // takes an array of plane pointers
     bool sourceSteps, destinationSteps; // takes a step for every plane; otherwise one step serves all
@@ -77,7 +88,8 @@ constexpr Signature signatureOf(const Name& name)
     const auto stepOfEachPlane = [&](const Name::Side& side) {
         return name.steps && isPlanar(side) && shapeOf(name, side).log2X > 0;
     };
-    return {name.steps,
+    return {name.inPlace,
+            name.steps,
             array(name.source),
             array(name.destination),
             stepOfEachPlane(name.source),
@@ -120,6 +132,7 @@ template <class T> constexpr Sample sampleOfType()
 {
     using S = std::remove_const_t<T>;
     if (std::is_same_v<S, std::uint8_t>) return Sample::u8;
+    if (std::is_same_v<S, std::int8_t>) return Sample::s8;
     if (std::is_same_v<S, std::uint16_t>) return Sample::u16;
     if (std::is_same_v<S, std::int16_t>) return Sample::s16;
     return std::is_same_v<S, float> ? Sample::f32 : Sample::s32;
@@ -198,6 +211,7 @@ template <class... T, ZorStatus (*function)(T...), auto... arguments> struct Bou
     {
         constexpr Sample samples[] = {sampleOfType<SampleOf<T>>()...};
         Signature s{};
+        s.inPlace = parameters[0].ofDestination;
         for (std::size_t i = 0; i < firstArgument; ++i) {
             const Parameter& p = parameters[i];
             s.steps |= p.takes == Takes::step || p.takes == Takes::steps;
@@ -206,6 +220,10 @@ template <class... T, ZorStatus (*function)(T...), auto... arguments> struct Bou
                 p.takes == Takes::steps || (p.takes == Takes::plane && p.number > 0);
             if (p.takes == Takes::plane || p.takes == Takes::planes)
                 (p.ofDestination ? s.destination : s.source) = samples[i];
+        }
+        if (s.inPlace) {
+            s.sourceArray = s.destinationArray;
+            s.source = s.destination;
         }
         return s;
     }

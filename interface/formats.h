@@ -60,11 +60,11 @@ constexpr bool isYcc(Model model) { return !propertiesOf(model).matrix.empty(); 
 
 // ---- samples and planes ---------------------------------------------------------------------------------------------
 
-enum class Sample { u8, u16, s16, s32, f32 };
+enum class Sample { u8, s8, u16, s16, s32, f32 };
 
 constexpr int sampleBytes(Sample sample)
 {
-    return sample == Sample::u8 ? 1 : sample == Sample::u16 || sample == Sample::s16 ? 2 : 4;
+    return sample == Sample::u8 || sample == Sample::s8 ? 1 : sample == Sample::u16 || sample == Sample::s16 ? 2 : 4;
 }
 
 enum class Layout {
@@ -166,11 +166,13 @@ constexpr std::string_view arrangementOf(const Shape& s)
 {
     if (s.layout == Layout::packedBits) return s.fieldBits == 565 ? "565" : s.fieldBits == 555 ? "555" : "444";
     if (s.layout == Layout::packed422) return "";
-    if (s.layout == Layout::planar && s.sample != Sample::u8) return s.sample == Sample::s16 ? "444p16s" : "444p32s";
-    if (s.layout == Layout::planar) return s.log2X > 1 ? "411p" : s.log2Y ? "420p" : s.log2X ? "422p" : "444p";
-    constexpr std::string_view single[] = {"8", "16", "16s", "32s", "f32"}; // by sample type
-    constexpr std::string_view three[] = {"24", "48", "48s", "96s", "f32"};
-    constexpr std::string_view four[] = {"", "64", "64s", "128s", "f32"};
+    if (s.log2X > 0) return s.log2X > 1 ? "411p" : s.log2Y ? "420p" : "422p";
+    constexpr std::string_view planes[] = {"444p",    "444p8s",  "444p16",
+                                           "444p16s", "444p32s", "444pf32"}; // by sample type
+    if (s.layout == Layout::planar) return planes[static_cast<int>(s.sample)];
+    constexpr std::string_view single[] = {"8", "8s", "16", "16s", "32s", "f32"};
+    constexpr std::string_view three[] = {"24", "24s", "48", "48s", "96s", "f32"};
+    constexpr std::string_view four[] = {"", "32s", "64", "64s", "128s", "f32"};
     return (s.channels == 1 ? single : s.channels == 3 ? three : four)[static_cast<int>(s.sample)];
 }
 

@@ -31,6 +31,8 @@ template <class Bound, class NameOf> constexpr Function describe(std::string_vie
             Bound::signature(),
             Bound::takes(arguments::slice),
             Bound::takes(arguments::scratch),
+            Bound::takes(arguments::twist),
+            Bound::takes(arguments::vMin),
             Bound::call};
 }
 

@@ -22,7 +22,7 @@ struct Function {
     const Format* destination;
     Alpha alpha;
     Signature signature;
-    bool takesSlice, takesScratch;
+    bool takesSlice, takesScratch, takesTwist, takesRange;
     ZorStatus (*bound)(const Call&);
 
     ZorStatus operator()(const Image& from, const Image& to, ZorSize size, const Extra& extra = {}) const

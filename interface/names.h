@@ -18,7 +18,8 @@ struct Name {
     Side source, destination;
     std::string_view variant;
     bool dither = false;
-    bool steps = false; // there are steps between rows; otherwise they follow each other without gaps
+    bool inPlace = false; // one image is source and destination
+    bool steps = false;   // there are steps between rows; otherwise they follow each other without gaps
 };
 
 // Reads a name from its beginning on.
@@ -55,20 +56,25 @@ private:
 
 constexpr Name parse(std::string_view text)
 {
-    constexpr std::string_view words[] = {"RGB",   "BGR", "SBGR", "YUV", "YCbCr", "YCrCb", "CbYCr",
-                                          "YCoCg", "HLS", "HSV",  "XYZ", "LUV",   "Lab",   "YCC"};
+    constexpr std::string_view words[] = {"RGB", "BGR", "SBGR", "YUV", "YCbCr", "YCrCb", "CbYCr", "YCoCg",
+                                          "HLS", "HSV", "XYZ",  "LUV", "Lab",   "YCC",   "Gray"};
     constexpr std::string_view packings[] = {"422", "420", "411", "1620", "565", "555", "444"};
     constexpr std::string_view variants[] = {"709CSC", "709HDTV", "Filter", "Interlace", "Rev"};
     constexpr std::string_view curves[] = {"Gamma"}; // variants that follow the formats without a break
-    constexpr std::string_view samples[] = {"8u", "16u", "16s", "32s", "32f"};
+    constexpr std::string_view samples[] = {"8u", "8s", "16u", "16s", "32s", "32f"};
     constexpr std::string_view layouts[] = {"AC4", "AP4", "C1", "C2", "C3", "C4", "P2", "P3", "P4"};
 
     NameReader name(text);
     Name n;
     Name::Side &from = n.source, &to = n.destination;
     name.expect(name.read("zori"));
-    if (name.read("ReduceBits")) { // keeps the model, whichever it is
+    constexpr std::string_view ofAnyModel[] = {"ReduceBits", "ColorTwist32f", "ColorTwist", "GammaFwd",
+                                               "GammaInv",   "ToneMapLinear", "ToneMapMean"};
+    if (!name.readOneOf(ofAnyModel).empty()) { // keep the model, whichever it is
         from.model = to.model = "RGB";
+    } else if (name.read("ColorToGray")) {
+        from.model = "RGB";
+        to.model = "Gray";
     } else if (name.read("CFAToRGB") || name.read("DemosaicAHD")) {
         from.model = "CFA";
         to.model = "RGB";
@@ -91,8 +97,10 @@ constexpr Name parse(std::string_view text)
     from.sample = name.readOneOf(samples);
     to.sample = name.readOneOf(samples, from.sample);
     name.expect(!from.sample.empty() && name.read("_"));
+    n.inPlace = name.read("I");
     from.layout = name.readOneOf(layouts);
     to.layout = name.readOneOf(layouts, from.layout);
+    n.inPlace |= name.read("I");
     n.steps = name.read("R");
     name.expect(!from.layout.empty() && name.atEnd());
     return n;
@@ -107,6 +115,7 @@ constexpr bool isPlanar(const Name::Side& side) { return side.layout.find('P') !
 constexpr Sample sampleOf(const Name::Side& side)
 {
     return side.sample == "8u"    ? Sample::u8
+           : side.sample == "8s"  ? Sample::s8
            : side.sample == "16u" ? Sample::u16
            : side.sample == "16s" ? Sample::s16
            : side.sample == "32s" ? Sample::s32
@@ -117,6 +126,7 @@ constexpr Sample sampleOf(const Name::Side& side)
 constexpr Model modelOf(const Name& name, const Name::Side& side)
 {
     if (isMosaic(side)) return Model::mosaic;
+    if (side.model == "Gray") return Model::grey;
     if (isRgb(side)) return side.layout == "C1" ? Model::grey : Model::rgb;
     if (side.model == "YCoCg") return name.variant == "Rev" ? Model::ycocgRev : Model::ycocg;
     if (side.model == "HLS") return Model::hls;

@@ -182,6 +182,9 @@ const Row rows[] = {
     {"zoriYCbCr420ToBGR_709CSC_8u_P3C3R", "H420ToRGB24", ::libyuv::H420ToRGB24},
     {"zoriCbYCr422ToBGR_709HDTV_8u_C2C4R", "UYVYToARGB", ::libyuv::UYVYToARGB},
 
+    {"zoriRGBToGray_8u_C3C1R", "RAWToJ400", ::libyuv::RAWToJ400},
+    {"zoriRGBToGray_8u_AC4C1R", "ABGRToJ400", ::libyuv::ABGRToJ400},
+
     // Its 16-bit pixels have B lowest.
     {"zoriYCbCr420ToRGB565_8u16u_P3C3R", "I420ToRGB565", ::libyuv::I420ToRGB565},
     {"zoriYCbCr420ToBGR565_8u16u_P3C3R", "I420ToRGB565", ::libyuv::I420ToRGB565},

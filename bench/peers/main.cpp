@@ -35,6 +35,7 @@ std::vector<Library> libraries()
 #ifdef ZORCC_PEER_ZIMG
     all.push_back(zimg());
 #endif
+    all.push_back(libM());
     all.push_back(ourselves());
 #ifdef ZORCC_PEER_LIBRAW
     all.push_back(libRaw());

@@ -49,6 +49,49 @@ const Row rows[] = {
     {"zoriLabToBGR_8u_C3R", "Lab2LBGR", cv::COLOR_Lab2LBGR},
     {"zoriCFAToRGB_8u_C1C3R", "BayerRGGB2RGB_EA", cv::COLOR_BayerRGGB2RGB_EA},
     {"zoriCFAToRGB_16u_C1C3R", "BayerRGGB2RGB_EA", cv::COLOR_BayerRGGB2RGB_EA},
+    {"zoriRGBToGray_8u_C3C1R", "RGB2GRAY", cv::COLOR_RGB2GRAY},
+    {"zoriRGBToGray_16u_C3C1R", "RGB2GRAY", cv::COLOR_RGB2GRAY},
+    {"zoriRGBToGray_32f_C3C1R", "RGB2GRAY", cv::COLOR_RGB2GRAY},
+};
+
+// Operations with an argument, which is a matrix.
+struct WithMatrix {
+    std::string_view function;
+    const char* name;
+    cv::Mat (*argumentOf)(const Job& job);
+    void (*run)(const cv::Mat& from, const cv::Mat& to, const cv::Mat& argument);
+};
+
+cv::Mat twistOf(const Job& job)
+{
+    const int rows = job.function.source->plane[0].samples;
+    cv::Mat twist(rows, 4, CV_32F);
+    for (int k = 0; k < rows; ++k)
+        for (int j = 0; j < 4; ++j) twist.at<float>(k, j) = job.arguments.twist[k][j];
+    return twist;
+}
+
+// What the function makes of all bytes.
+cv::Mat curveOf(const Job& job)
+{
+    cv::Mat curve(1, 256, CV_8U), bytes(1, 3 * 256, CV_8U);
+    for (int i = 0; i < 3 * 256; ++i) bytes.at<uint8_t>(i) = static_cast<uint8_t>(i / 3);
+    const Image image{{bytes.data}, {3 * 256}};
+    job.function(image, image, {256, 1});
+    for (int i = 0; i < 256; ++i) curve.at<uint8_t>(i) = bytes.at<uint8_t>(3 * i);
+    return curve;
+}
+
+void transform(const cv::Mat& from, const cv::Mat& to, const cv::Mat& twist) { cv::transform(from, to, twist); }
+void lookUp(const cv::Mat& from, const cv::Mat& to, const cv::Mat& curve) { cv::LUT(from, curve, to); }
+
+const WithMatrix withMatrices[] = {
+    {"zoriColorTwist32f_8u_C3R", "transform", twistOf, transform},
+    {"zoriColorTwist32f_16u_C3R", "transform", twistOf, transform},
+    {"zoriColorTwist_32f_C3R", "transform", twistOf, transform},
+    {"zoriColorTwist_32f_C4R", "transform", twistOf, transform},
+    {"zoriGammaFwd_8u_C3R", "LUT", curveOf, lookUp},
+    {"zoriGammaInv_8u_C3R", "LUT", curveOf, lookUp},
 };
 
 // A matrix over our memory. It takes planar 4:2:0 as one matrix half as high again, the planes one after another.
@@ -75,16 +118,23 @@ Library openCV()
 {
     cv::setNumThreads(1);
     Library library{"OpenCV " CV_VERSION, {}};
-    for (const Row& row : rows) {
-        auto prepare = [code = row.code](const Job& job) -> Work {
-            const cv::Mat from = matrix(*job.function.source, job.source, job.size);
-            const cv::Mat to = matrix(*job.function.destination, job.destination, job.size);
-            return [=] { cv::cvtColor(from, to, code); };
-        };
-        const std::string name = std::string("OpenCV ") + row.name;
-        library.peers.push_back({row.function, name, prepare, useEverything, false});
-        library.peers.push_back({row.function, name + ", SSE3 only", prepare, useSSE3Only, true});
-    }
+    const auto add = [&](std::string_view function, const char* operation, const auto& prepare) {
+        const std::string name = std::string("OpenCV ") + operation;
+        library.peers.push_back({function, name, prepare, useEverything, false});
+        library.peers.push_back({function, name + ", SSE3 only", prepare, useSSE3Only, true});
+    };
+    const auto fromOf = [](const Job& job) { return matrix(*job.function.source, job.source, job.size); };
+    const auto toOf = [](const Job& job) { return matrix(*job.function.destination, job.destination, job.size); };
+    for (const Row& row : rows)
+        add(row.function, row.name, [=, code = row.code](const Job& job) -> Work {
+            return [=, from = fromOf(job), to = toOf(job)] { cv::cvtColor(from, to, code); };
+        });
+    for (const WithMatrix& row : withMatrices)
+        add(row.function, row.name, [=, &row](const Job& job) -> Work {
+            return [run = row.run, from = fromOf(job), to = toOf(job), argument = row.argumentOf(job)] {
+                run(from, to, argument);
+            };
+        });
     return library;
 }
 

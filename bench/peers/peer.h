@@ -43,6 +43,9 @@ Library openCV();
 Library zimg();
 Library libRaw();
 
+// Formulas as a loop over the C library's mathematical functions.
+Library libM();
+
 // Our own functions, to be compared with each other.
 Library ourselves();
 

@@ -139,6 +139,20 @@ const Target targets[] = {
     // Words have twice the bytes.
     {"zoriRGBToYCC_16u_C3R", cachedSize, Tier::avx512, 0.8 / 2, "zorcc twin"},
     {"zoriYCCToRGB_16u_C3R", cachedSize, Tier::avx512, 0.8 / 2, "zorcc twin"},
+    {"zoriRGBToGray_8u_C3C1R", cachedSize, Tier::avx512, 3, "libyuv RAWToJ400"},
+    {"zoriRGBToGray_8u_C3C1R", cachedSize, Tier::avx2, 1.1, "libyuv RAWToJ400"},
+    {"zoriRGBToGray_32f_C3C1R", cachedSize, Tier::avx512, 1.5, "OpenCV RGB2GRAY"},
+    {"zoriRGBToGray_32f_C3C1R", cachedSize, Tier::avx2, 1.1, "OpenCV RGB2GRAY"},
+    {"zoriColorTwist32f_8u_C3R", cachedSize, Tier::avx512, 1.1, "OpenCV transform"},
+    {"zoriColorTwist32f_8u_C3R", cachedSize, Tier::avx2, 1.1, "OpenCV transform"},
+    {"zoriColorTwist_32f_C3R", cachedSize, Tier::avx512, 1, "OpenCV transform"},
+    {"zoriColorTwist_32f_C3R", cachedSize, Tier::avx2, 1, "OpenCV transform"},
+    {"zoriGammaFwd_8u_C3R", cachedSize, Tier::avx512, 15, "OpenCV LUT"},
+    {"zoriGammaFwd_8u_C3R", cachedSize, Tier::avx2, 3, "OpenCV LUT"},
+    {"zoriGammaFwd_16u_C3R", cachedSize, Tier::avx2, 4, "C library pow"},
+    {"zoriGammaFwd_32f_C3R", cachedSize, Tier::avx512, 5, "C library pow"},
+    {"zoriGammaFwd_32f_C3R", cachedSize, Tier::avx2, 5, "C library pow"},
+    {"zoriGammaInv_32f_C3R", cachedSize, Tier::avx2, 5, "C library pow"},
     {"zoriCFAToRGB_8u_C1C3R", frameSize, Tier::avx512, 5, "OpenCV BayerRGGB2RGB_EA"},
     {"zoriCFAToRGB_8u_C1C3R", frameSize, Tier::ssse3, 1.5, "OpenCV BayerRGGB2RGB_EA"},
     {"zoriCFAToRGB_16u_C1C3R", frameSize, Tier::avx512, 8, "OpenCV BayerRGGB2RGB_EA"},
@@ -148,6 +162,10 @@ const Target targets[] = {
     {"zoriDemosaicAHD_16u_C1C3R", frameSize, Tier::avx512, 8, "LibRaw AHD"},
     {"zoriDemosaicAHD_16u_C1C3R", frameSize, Tier::ssse3, 3, "LibRaw AHD"},
 };
+
+// Words through a table of the curve, on AVX2.
+constexpr double tableSpeed = 250; // Mpx/s
+bool usesTable(const interface::Function& function) { return function.name.starts_with("zoriGammaFwd_16u_C3R"); }
 
 // Conversions that only move samples: on the best tier multiples of a memcpy beyond the caches, on the lowest multiples
 // of any peer that is held to the same instructions.
@@ -165,8 +183,10 @@ bool isSlow(const interface::Function& function) { return function.name.starts_w
 
 bool usesFloats(const interface::Function& function)
 {
+    const bool ofBytes = function.source->sample == interface::Sample::u8;
     return function.family == "HLS and HSV" || function.family == "CIE XYZ, LUV and Lab" ||
-           function.family == "PhotoYCC";
+           function.family == "PhotoYCC" || function.takesTwist ||
+           (!ofBytes && (function.family == "Gamma correction" || function.family == "Grey and tone mapping"));
 }
 
 // Of bytes from and to PhotoYCC, which has no peer, on the AVX2 tier.
@@ -220,6 +240,8 @@ bool checkTargets(const std::vector<Result>& results)
         }
         if (same(result.size, cachedSize) && isPhotoYccOfBytes(result.name) && result.ours.contains(Tier::avx2))
             judge.judge(result, Tier::avx2, result.ours.at(Tier::avx2), photoYccSpeed, "Mpx/s");
+        if (same(result.size, frameSize) && usesTable(*result.function) && result.ours.contains(Tier::avx2))
+            judge.judge(result, Tier::avx2, result.ours.at(Tier::avx2), tableSpeed, "Mpx/s");
         if (same(result.size, cachedSize) && result.name == result.function->name && !usesFloats(*result.function) &&
             !isSlow(*result.function))
             judge.judge(result, Tier::ssse3, result.ours.at(Tier::ssse3), ssse3Speed, "Mpx/s");

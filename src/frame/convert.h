@@ -74,6 +74,9 @@ template <class Sample> Image planarCrCb(const Sample* const* plane, const int* 
     return {{bytesOf(plane[0]), bytesOf(plane[2]), bytesOf(plane[1])}, {step[0], step[2], step[1]}, 3, true};
 }
 
+// A step in bytes as one of whole floats, rounded towards zero.
+constexpr int wholeFloats(int step) { return step / 4 * 4; }
+
 // ---- images without steps: rows follow each other without gaps ------------------------------------------------------
 
 inline Image contiguousC3(const uint8_t* pixels, int width) { return interleaved(pixels, ptrdiff_t{3} * width); }

@@ -3,6 +3,8 @@
 // the type's own range.
 #pragma once
 
+#include <limits>
+
 #include "pixels/rows.h"
 
 namespace zorcc::ZORCC_TIER {
@@ -41,6 +43,13 @@ ZORCC_INLINE WideSamples<uint16_t, count> channelsOf(const WideChannel<uint16_t>
     WideSamples<uint16_t, count> samples;
     for (int i = 0; i < count; ++i) samples.c[i] = v[i];
     return samples;
+}
+
+// To the nearest integer, ties to even, for a `narrow` to saturate. What is beyond 32 bits is saturated first; NaN
+// gives the least integer, and so the least sample.
+template <class Sample> ZORCC_INLINE s32v roundSaturated(f32v v)
+{
+    return roundToEven(min(fillFloat(std::numeric_limits<Sample>::max()), v));
 }
 
 // Widens samples, calls the formula for each part of them with floats, and narrows the integers that it returns to

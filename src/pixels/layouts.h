@@ -80,6 +80,7 @@ template <class S, Order order, Line... planes> struct Planes : Lines<planes...>
 };
 
 template <class S, int p> inline constexpr Line planeOf{{sizeof(S)}, p};
+template <class S = uint8_t> using C1 = Planes<S, Order::asStored, planeOf<S, 0>>;
 template <class S = uint8_t, Order order = Order::asStored>
 using P3 = Planes<S, order, planeOf<S, 0>, planeOf<S, 1>, planeOf<S, 2>>;
 template <class S = uint8_t, Order order = Order::asStored>

@@ -134,5 +134,23 @@ private:
     }
 };
 
+// Four interleaved samples a pixel, of which the fourth stays as it is.
+template <class S> struct ColourSequence : Sequences<vectorBytes / int{sizeof(S)}, Line{{4 * int{sizeof(S)}}}> {
+    using Base = Sequences<vectorBytes / int{sizeof(S)}, Line{{4 * int{sizeof(S)}}}>;
+
+    [[gnu::always_inline]] void store(int x, const Vectors<4>& v) const
+    {
+        constexpr Block fourth = [] {
+            Block mask{};
+            for (size_t i = 0; i < 16; ++i) mask.byte[i] = i / sizeof(S) % 4 == 3 ? 0xff : 0;
+            return mask;
+        }();
+        const Vectors<4> old = this->load(x);
+        Base::store(x, collect<4>([&](auto k) __attribute__((always_inline)) {
+                        return select(fillBlock(fourth), old.v[k], v.v[k]);
+                    }));
+    }
+};
+
 } // namespace
 } // namespace zorcc::ZORCC_TIER

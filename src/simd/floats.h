@@ -165,6 +165,13 @@ ZORCC_INLINE Widened<4> widen(u8v v)
 #endif
 }
 
+ZORCC_INLINE Widened<4> widen(s8v v) // with its sign
+{
+    Widened<4> wide = widen((u8v)v ^ 0x80);
+    for (s32v& part : wide.part) part -= 128;
+    return wide;
+}
+
 ZORCC_INLINE Widened<2> widen(u16v v)
 {
     const u16v none = {};
@@ -182,6 +189,11 @@ template <class Sample> Vec<Sample> narrow(const Widened<partsOf<Sample>>& v) = 
 template <> inline __attribute__((always_inline)) u8v narrow<uint8_t>(const Widened<4>& v)
 {
     return packUnsigned(packSigned(v.part[0], v.part[1]), packSigned(v.part[2], v.part[3]));
+}
+
+template <> inline __attribute__((always_inline)) s8v narrow<int8_t>(const Widened<4>& v)
+{
+    return packSigned(packSigned(v.part[0], v.part[1]), packSigned(v.part[2], v.part[3]));
 }
 
 template <> inline __attribute__((always_inline)) s16v narrow<int16_t>(const Widened<2>& v)

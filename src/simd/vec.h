@@ -137,6 +137,8 @@ ZORCC_INLINE u16v averageUp(u16v a, u16v b) { return (u16v)ZORCC_MM(avg_epu16)(r
 ZORCC_INLINE u8v addSaturate(u8v a, u8v b) { return (u8v)ZORCC_MM(adds_epu8)(reg(a), reg(b)); }
 ZORCC_INLINE u8v subSaturate(u8v a, u8v b) { return (u8v)ZORCC_MM(subs_epu8)(reg(a), reg(b)); }
 
+ZORCC_INLINE s8v subSaturate(s8v a, s8v b) { return (s8v)ZORCC_MM(subs_epi8)(reg(a), reg(b)); }
+
 ZORCC_INLINE u16v addSaturate(u16v a, u16v b) { return (u16v)ZORCC_MM(adds_epu16)(reg(a), reg(b)); }
 ZORCC_INLINE u16v subSaturate(u16v a, u16v b) { return (u16v)ZORCC_MM(subs_epu16)(reg(a), reg(b)); }
 

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <bit>
 #include <climits>
+#include <cmath>
 #include <functional>
 #include <vector>
 
@@ -52,14 +53,21 @@ std::vector<Fault> faultsOf(const reference::Case& c, const Function& function)
     };
 
     const auto& signature = function.signature;
-    addImage(&Call::source, signature.sourceArray);
+    if (function.takesRange)
+        faults.push_back({zorStatusBadRange,
+                          [](Call& call, ZorSize bad) { call.extra.vMax = bad.width < 0 ? NAN : call.extra.vMin; }});
+    if (!signature.inPlace) addImage(&Call::source, signature.sourceArray);
     if (c.checks == Checks::stepsFirst) addPlanes(&Call::source, signature.sourceArray, function.source->planes);
     addImage(&Call::destination, signature.destinationArray);
     if (c.checks == Checks::sizeFirst || c.checks == Checks::stepsLast) addSize();
-    if (c.checks != Checks::stepsFirst) addPlanes(&Call::source, signature.sourceArray, function.source->planes);
+    if (c.checks != Checks::stepsFirst && !signature.inPlace)
+        addPlanes(&Call::source, signature.sourceArray, function.source->planes);
     addPlanes(&Call::destination, signature.destinationArray, function.destination->planes);
+    if (function.takesTwist)
+        faults.push_back({zorStatusNullPointer, [](Call& call, ZorSize) { call.extra.twist = nullptr; }});
+    if (c.checks == Checks::pointersSizeSteps) addSize();
     if (reference::checksSteps(c)) {
-        addStep(&Call::source);
+        if (!signature.inPlace) addStep(&Call::source);
         addStep(&Call::destination);
     }
     if (c.checks == Checks::pointersFirst || c.checks == Checks::stepsFirst) addSize();

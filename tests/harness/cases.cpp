@@ -3,14 +3,19 @@
 
 #include <fnmatch.h>
 
+#include <iterator>
+
 #include "tests/harness/random.h"
 #include "tests/reference/cbycr422.h"
 #include "tests/reference/chromasampling.h"
 #include "tests/reference/cie.h"
+#include "tests/reference/gamma.h"
+#include "tests/reference/gray.h"
 #include "tests/reference/hexcone.h"
 #include "tests/reference/lumachroma.h"
 #include "tests/reference/photoycc.h"
 #include "tests/reference/reduce.h"
+#include "tests/reference/twist.h"
 #include "tests/reference/ycocg.h"
 
 namespace zorcc::test {
@@ -40,6 +45,41 @@ Extra anyReduction(const Function& function, std::uint32_t seed)
 Extra anyGrid(const Function&, std::uint32_t seed)
 {
     return {.grid = static_cast<int>(seed % 4), .interpolation = static_cast<int>(seed)};
+}
+
+// For the first seeds one matrix each, then any.
+Extra anyTwist(const Function& function, std::uint32_t seed)
+{
+    if (seed < twistCount) return {.twist = twists[seed]};
+    thread_local float matrix[4][4];
+    Random random(~seed);
+    const int bytes = interface::sampleBytes(function.source->sample);
+    const float white = bytes == 1 ? 255 : bytes == 2 ? 65535 : 1;
+    for (auto& row : matrix)
+        for (float& t : row) t = static_cast<float>(random() * 0x1p-30 - 2) * (&t == row + 3 ? white / 4 : 0.5f);
+    return {.twist = matrix};
+}
+
+// Fractions of 1, and what weights are not meant to be.
+Extra anyWeights(const Function&, std::uint32_t seed)
+{
+    static constexpr float special[][3] = {{1, 0, 0},          {0, 0, 1},          {1, 1, 1},
+                                           {0.5f, 0.5f, 0.5f}, {-0.25f, 1, 0.25f}, {1.0f / 3, 1.0f / 3, 1.0f / 3},
+                                           {20, -3, 17}};
+    if (seed % 3 == 0) return {};
+    if (seed % 3 == 1) return {.weights = special[seed / 3 % std::size(special)]};
+    thread_local float weights[3];
+    Random random(~seed);
+    float rest = 1;
+    for (float& w : weights) rest -= w = rest * static_cast<float>(random() * 0x1p-32);
+    return {.weights = weights};
+}
+
+Extra anyRange(const Function&, std::uint32_t seed)
+{
+    constexpr float ranges[][2] = {{0, 1}, {0.25f, 0.75f}, {-1, 3}, {0, 1e-3f}, {0, 255}, {-1e30f, 2e30f}};
+    const auto [vMin, vMax] = ranges[seed % std::size(ranges)];
+    return {.vMin = vMin, .vMax = vMax};
 }
 
 // ---- rules ----------------------------------------------------------------------------------------------------------
@@ -184,6 +224,33 @@ constexpr Case photoycc[] = {
     {.name = "zoriYCCToRGB_*", .reference = photoYccToRgb, .defined = isLinear},
 };
 
+constexpr Case twistRules[] = {{.name = "zoriColorTwist*",
+                                .checks = Checks::pointersSizeSteps,
+                                .imageReference = twist,
+                                .arguments = anyTwist,
+                                .anyNaN = true}};
+
+constexpr Case gammaRule(std::string_view name, ImageReference reference)
+{
+    return {.name = name,
+            .checks = Checks::pointersSizeSteps,
+            .imageReference = reference,
+            .arguments = anyRange,
+            .ulps = 1,
+            .anyNaN = true};
+}
+constexpr Case gammaRules[] = {gammaRule("zoriGammaFwd_*", gammaForward), gammaRule("zoriGammaInv_*", gammaInverse)};
+
+constexpr Case gray[] = {
+    {.name = "zoriRGBToGray_*", .imageReference = toGray, .anyNaN = true},
+    {.name = "zoriColorToGray_*", .imageReference = toGray, .arguments = anyWeights, .anyNaN = true},
+};
+
+constexpr Case tonemap[] = {
+    {.name = "zoriToneMapLinear_*", .reference = toneMapLinear, .outcome = outcomeOfLinear},
+    {.name = "zoriToneMapMean_*", .reference = toneMapMean, .outcome = outcomeOfMean},
+};
+
 constexpr Case reduce[] = {{.name = "zoriReduceBits_*", .imageReference = reduceBits, .arguments = anyReduction}};
 
 constexpr Case bayer[] = {
@@ -208,6 +275,10 @@ constexpr Family table[] = {
     {"luv", "CIE XYZ, LUV and Lab", luv},
     {"lab", "CIE XYZ, LUV and Lab", lab},
     {"photoycc", "PhotoYCC", photoycc},
+    {"twist", "Colour twist", twistRules},
+    {"gamma", "Gamma correction", gammaRules},
+    {"gray", "Grey and tone mapping", gray},
+    {"tonemap", "Grey and tone mapping", tonemap},
     {"reduce", "Bit-depth reduction", reduce},
     {"bayer", "Demosaicing", bayer},
     {"demosaicahd", "Demosaicing", demosaicahd},

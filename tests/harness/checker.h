@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cfenv>
 #include <functional>
 #include <optional>
 #include <string>
@@ -21,7 +22,8 @@ struct Trial {
     Contents contents = Contents::random;
     std::uint32_t seed = 1;
     std::optional<ZorRect> region = std::nullopt; // of the source, where the function takes one
-    bool inPlace = false; // the source is the destination, too; their formats must have the same shape
+    bool inPlace = false;            // the source is the destination, too; their formats must have the same shape
+    int roundingMode = FE_TONEAREST; // of the caller; must be the same after the call
 };
 
 // Keeps its memory from one check to the next.
@@ -50,6 +52,8 @@ private:
     std::string heading(const Trial& trial, Tier tier) const;
     testing::AssertionResult runOn(Tier tier, const Trial& trial);
     void expectAsOnFirstTier(Tier tier);
+    void acceptNearFloats(const TestImage& image);
+    ZorStatus expectedStatus(ZorSize size) const;
 };
 
 } // namespace zorcc::test

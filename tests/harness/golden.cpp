@@ -59,13 +59,19 @@ void expectGolden(const GoldenColours& golden)
     for (const std::string_view name : golden.functions) {
         const interface::Function* const function = interface::findFunction(name);
         ASSERT_TRUE(function) << name;
+        const bool inPlace = function->signature.inPlace;
         const ZorSize size{golden.width, 2}, used{golden.width & (function->destination->log2Y() > 0 ? ~1 : ~0), 2};
         Images images(*function, size, used);
-        Pixels from(*function->source, images.source.image(), used);
-        eachSample(from, golden.source, count, [&](int c, int x, int y, double value) { from.put(c, x, y, value); });
+        Pixels from(*function->source, (inPlace ? images.destination : images.source).image(), used);
+        const auto fillSource = [&] {
+            eachSample(from, golden.source, count,
+                       [&](int c, int x, int y, double value) { from.put(c, x, y, value); });
+        };
+        fillSource();
         for (const Tier tier : tiersHere()) {
             const OnTier chosen(tier);
             images.destination.fillPattern(1);
+            if (inPlace) fillSource();
             ASSERT_EQ((*function)(images.source.image(), images.destination.image(), size), zorStatusOk) << name;
             const Pixels to(*function->destination, images.destination.image(), used);
             eachSample(to, golden.destination, count, [&](int c, int x, int y, double value) {

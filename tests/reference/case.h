@@ -18,6 +18,9 @@ using Reference = void (*)(const Pixels& source, Pixels& destination);
 using ImageReference = void (*)(const interface::Function& function, const Pixels& source, Pixels& destination,
                                 const interface::Extra& extra);
 
+// What becomes of a call with good arguments by what the source holds.
+using Outcome = ZorStatus (*)(const Pixels& source);
+
 // Arguments beside images and size for a trial: the same seed gives the same ones.
 using Arguments = interface::Extra (*)(const interface::Function& function, std::uint32_t seed);
 
@@ -31,11 +34,12 @@ enum class OddSize {
 
 // In which order arguments are checked.
 enum class Checks {
-    sizeFirst,     // images, size, planes of arrays, grid of a mosaic
-    pointersFirst, // images and planes, size
-    pointersOnly,  // the same without the size: one below 1 converts nothing
-    stepsFirst,    // image after image with its planes, steps, size
-    stepsLast      // images, size, steps
+    sizeFirst,        // images, size, planes of arrays, grid of a mosaic
+    pointersFirst,    // images and planes, size
+    pointersOnly,     // the same without the size: one below 1 converts nothing
+    stepsFirst,       // image after image with its planes, steps, size
+    stepsLast,        // images, size, steps
+    pointersSizeSteps // images and planes, a matrix, size, steps
 };
 
 struct Case {
@@ -49,10 +53,17 @@ struct Case {
     Demosaic demosaic = nullptr; // given: in place of both; converts a region of a larger image
     // Whether the formula says what becomes of a pixel of floats; null: of every one.
     bool (*defined)(const float* pixel) = nullptr;
+    // How far floats may be from the reference, in units of its last place; on all tiers they must be the same.
+    int ulps = 0;
+    bool anyNaN = false;       // the bits of what is no number do not count
+    Outcome outcome = nullptr; // null: always the status of the size
 };
 
 // Whether steps below 1 are refused.
-inline bool checksSteps(const Case& c) { return c.checks == Checks::stepsFirst || c.checks == Checks::stepsLast; }
+inline bool checksSteps(const Case& c)
+{
+    return c.checks == Checks::stepsFirst || c.checks == Checks::stepsLast || c.checks == Checks::pointersSizeSteps;
+}
 
 inline ZorStatus statusOf(const Case& c, ZorSize size)
 {

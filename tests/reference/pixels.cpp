@@ -11,10 +11,12 @@ using namespace interface;
 
 Pixels::Pixels(const Format& format, const Image& image, ZorSize size)
     : imageSize(size), sampleType(format.sample),
-      whiteLevel(sampleType == Sample::f32                                         ? 1
-                 : sampleType == Sample::u8 || format.layout == Layout::packedBits ? 255
-                                                                                   : 65535),
-      offset(sampleType == Sample::s16 ? -32768.0f : 0)
+      whiteLevel(sampleType == Sample::f32                                             ? 1
+                 : sampleBytes(sampleType) == 1 || format.layout == Layout::packedBits ? 255
+                                                                                       : 65535),
+      offset(sampleType == Sample::s16  ? -32768.0f
+             : sampleType == Sample::s8 ? -128.0f
+                                        : 0)
 {
     const std::string_view names = propertiesOf(format.model).channels;
     for (int c = 0; c < static_cast<int>(names.size()); ++c) {

@@ -21,6 +21,8 @@ template <class Body> inline auto withType(interface::Sample sample, Body body)
     switch (sample) {
     case interface::Sample::u8:
         return body(std::uint8_t{});
+    case interface::Sample::s8:
+        return body(std::int8_t{});
     case interface::Sample::u16:
         return body(std::uint16_t{});
     case interface::Sample::s16:

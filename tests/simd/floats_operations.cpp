@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
-// Single precision, and its neighbours: samples to 32 bits and back, and tables by an index.
+// Floating point, and its neighbours: samples to 32 bits and back, and tables by an index.
 #include "simd/floats.h"
 
 #include "demosaic/demosaicahd_lab.h"
 #include "lines.h"
 #include "simd/cube_root.h"
+#include "simd/doubles.h"
 #include "simd/lookup.h"
 #include "simd/samples.h"
 
@@ -39,6 +40,32 @@ template <class T> ZORCC_INLINE Vec<T> narrowTo(auto... part) { return narrow<T>
 
 constexpr Table<uint8_t> bytes = {{7, 250, 0, 31, 128, 99, 255, 64}};
 constexpr Table<float> floats = {{0, 120, -120, 240, -360, 0.5f, 1.5f, -3}};
+struct AllBytes {
+    uint8_t of[256];
+};
+constexpr AllBytes allBytes = [] { // each once, in no simple order
+    AllBytes all{};
+    for (int i = 0; i < 256; ++i) all.of[i] = static_cast<uint8_t>(i * (i + 1) / 2);
+    return all;
+}();
+constexpr ByteTable byteTable(allBytes.of);
+ZORCC_INLINE u8v lookUpAll(u8v index)
+{
+    u8v two[] = {index, ~index};
+    lookUp(byteTable, two);
+    return two[0] ^ (two[1] << 1);
+}
+constexpr auto byteOf = each([](int i) { return allBytes.of[i] ^ allBytes.of[255 - i] << 1; });
+
+// Digits that single precision has not.
+ZORCC_INLINE f32v thirds(f32v v)
+{
+    Doubles d = toDoubles(finite(v));
+    for (f64v& half : d.half) half = half / 3 + half;
+    return toFloat(d);
+}
+constexpr auto third = each([](float v) { return static_cast<float>(finite(double{v}) / 3 + finite(double{v})); });
+
 template <auto& table, class V> ZORCC_INLINE auto lookUpIn(V index) { return lookUp(table, (V)(index & 7)); }
 constexpr auto floatOf = [](int i, const auto& v) { return floats.of[widened(i, v) & 7]; };
 
@@ -91,12 +118,15 @@ constexpr Operation operations[] = {
         each([](float v) { return zorcc::cubeRoot(finite(v)); })),
     ZORCC_OPERATION(leftOf, left, f32v, f32v),
     ZORCC_OPERATION(rightOf, right, f32v, f32v),
-    ZORCC_OF_THREE(WIDENED, u8v, u16v, s16v),
+    ZORCC_OF_FOUR(WIDENED, u8v, s8v, u16v, s16v),
     ZORCC_OPERATION(narrowTo<uint8_t>, narrowed<uint8_t>, s32v, s32v, s32v, s32v),
+    ZORCC_OPERATION(narrowTo<int8_t>, narrowed<int8_t>, s32v, s32v, s32v, s32v),
     ZORCC_OPERATION(narrowTo<int16_t>, narrowed<int16_t>, s32v, s32v),
     ZORCC_OPERATION(narrowTo<uint16_t>, narrowed<uint16_t>, s32v, s32v),
     ZORCC_OF_TWO(INTEGERS, uint8_t, uint16_t),
     ZORCC_OF_THREE(SAMPLES, uint8_t, uint16_t, int16_t),
+    ZORCC_OPERATION(thirds, third, f32v),
+    ZORCC_OPERATION(lookUpAll, byteOf, u8v),
     ZORCC_OPERATION(lookUpIn<bytes>, each([](int i) { return bytes.of[i & 7]; }), u8v),
     ZORCC_OPERATION(lookUpIn<bytes>, each([](int i) { return 257 * bytes.of[i & 7]; }), u16v),
     ZORCC_OPERATION(lookUpIn<floats>, each([](int i) { return floats.of[i & 7]; }), s32v),

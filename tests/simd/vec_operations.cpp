@@ -60,6 +60,7 @@ constexpr ByteTable scrambled = [] {
 
 constexpr Operation operations[] = {
     ZORCC_OF_TWO(ARITHMETIC, u8v, u16v),
+    ZORCC_OPERATION(subSaturate, each([](int a, int b) { return saturated<int8_t>(a - b); }), s8v, s8v),
     ZORCC_OPERATION(mulAddPairs, sumOfPair, u8v, s8v),
     ZORCC_OPERATION(mulAddPairs, sumOfProducts, s16v, s16v),
     operation<u32v, s16v, s16v>(

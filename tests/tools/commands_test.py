@@ -38,7 +38,7 @@ class Call(unittest.TestCase):
         for name, source, destination in rows:
             if source.startswith("bayer") or not re.search(r"(RGB|BGR|5[56]5)To|To(RGB|BGR|SBGR)", name):
                 continue
-            if "Gamma" in name:  # takes linear light
+            if "ToGray" in name or "Gamma" in name:  # grey; takes linear light
                 continue
             with self.subTest(name):
                 if source.startswith(("rgb", "bgr")):
@@ -99,6 +99,7 @@ class Stats(unittest.TestCase):
         for line, function in (("call zoriDemosaicAHD_8u_C1C3R grey.pgm c.png --stats", "zoriDemosaicAHD_8u_C1C3R"),
                                ("demosaic grey.pgm c.png --method gradient --verbose", "zoriCFAToRGB_8u_C1C3R"),
                                ("reduce c.png r.png -v", "zoriReduceBits_8u_C3R"),
+                               ("twist c.png r.png --matrix swap -v", "zoriColorTwist32f_8u_C3R"),
                                ("convert c.png c.y4m --stats", "zoriRGBToYUV420_8u_C3P3R")):
             self.assertRegex(zorcc(line, "--repeat", 3),
                              rf"^{function}: 1 picture of 32x20, [0-9.]+ megapixels/s \(best of 3\)\n$")
@@ -160,6 +161,52 @@ class Demosaic(unittest.TestCase):
         results = {(zorcc(line, "m.pgm", "out.ppm"), read("out.ppm")) for line in (
             "demosaic", "demosaic --grid RGGB --method ahd", "call zoriDemosaicAHD_8u_C1C3R")}
         self.assertEqual(len(results), 1)
+
+
+class ColourModels(unittest.TestCase):
+    """twist, gamma, grey, tonemap: the function of the file's samples, alpha, names of matrices."""
+
+    def test_twist(self):
+        write_png("alpha.png", [[(200, 100, 50, 7)]], 8, RGB_ALPHA)
+        for matrix, expected in (("identity", [200, 100, 50, 7]), ("swap", [50, 100, 200, 7]),
+                                 ("sepia", [165, 147, 114, 7]), ("saturation=0", [124, 124, 124, 7]),
+                                 ("saturation=1", [200, 100, 50, 7]), ("saturation=2", [255, 76, 0, 7]),
+                                 ("-1 0 0 1; 0 -1 0 1;0  0 -1 1", [55, 155, 205, 7])):
+            zorcc("twist alpha.png out.png --matrix", matrix)
+            self.assertEqual(read_png("out.png"), (8, RGB_ALPHA, expected), matrix)
+        write_png("deep.png", [[(20000, 10000, 5000)]], 16, RGB)
+        zorcc("twist deep.png out.png --matrix", "1 0 0 0.5; 0 0 0 1; 0 1 1 0")
+        self.assertEqual(read_png("out.png")[2], [52768, 65535, 15000])  # 52767.5
+        write("in.pfm", b"PF\n1 1\n-1.0\n" + struct.pack("<3f", -3.0, 0.5, 2.0))
+        zorcc("twist in.pfm out.pfm --matrix", "0 0 1 1; 1 0 0 0; 0 1 0 0")
+        self.assertEqual(struct.unpack("<3f", read("out.pfm")[-12:]), (3, -3, 0.5))
+
+    def test_gamma(self):
+        write_png("in.png", [[(1, 128, 255, 9)]], 8, RGB_ALPHA)
+        zorcc("gamma in.png out.png")
+        self.assertEqual(read_png("out.png")[2], [4, 180, 255, 9])  # 1.099 * 0.50196^0.45 - 0.099 = 0.7068
+        zorcc("gamma out.png back.png --inverse")
+        self.assertEqual(read_png("back.png")[2], [1, 128, 255, 9])
+        write_png("deep.png", [[(1000,), (65535,)]], 16, GREY)
+        zorcc("gamma deep.png out.png")
+        self.assertEqual(read_png("out.png"), (16, RGB, [4500] * 3 + [65535] * 3))
+
+    def test_grey(self):
+        write_png("in.png", [[(200, 100, 50, 9), (255, 255, 255, 0)]], 8, RGB_ALPHA)
+        zorcc("grey in.png out.png")
+        self.assertEqual(read_png("out.png"), (8, GREY, [124, 255]))
+        zorcc("grey in.png out.png --weights 0.5,0.25,0.25")
+        self.assertEqual(read_png("out.png")[2], [138, 255])  # 137.5
+        write("in.pfm", b"PF\n1 1\n-1.0\n" + struct.pack("<3f", 1.0, 0.0, 0.0))
+        zorcc("grey in.pfm out.pfm --weights 0.25,1,1")
+        self.assertEqual(struct.unpack("<f", read("out.pfm")[-4:]), (0.25,))
+
+    def test_tonemap(self):
+        write("in.pfm", b"Pf\n4 1\n-1.0\n" + struct.pack("<4f", 0, 2, 4, 510))
+        zorcc("tonemap in.pfm out.png")
+        self.assertEqual(read_png("out.png"), (8, GREY, [0, 1, 2, 255]))
+        zorcc("tonemap in.pfm out.png --mean")  # twice the mean is 258
+        self.assertEqual(read_png("out.png")[2], [0, 1, 3, 255])
 
 
 class Convert(unittest.TestCase):
@@ -420,6 +467,7 @@ class CompareAndSheet(unittest.TestCase):
 class Help(unittest.TestCase):
     def test_help_and_version(self):
         self.assertIn("libzorccn8.so.6.1", zorcc("--version"))
-        for command in ("list", "call", "convert", "reduce", "demosaic", "chart", "compare", "sheet"):
+        for command in ("list", "call", "convert", "reduce", "demosaic", "twist", "gamma", "grey", "tonemap", "chart",
+                        "compare", "sheet"):
             self.assertIn(command, zorcc("--help"))
             self.assertRegex(zorcc(command, "--help"), r"Examples?:\n  zorcc " + command)

@@ -101,6 +101,9 @@ FAILING = {
     "good.y4m: has only 1 picture": "compare good.y4m two.y4m",
     "good.png: the file holds rgb24, but a mosaic is a grey PGM": "demosaic good.png out.png",
     "tiny.pgm: zoriDemosaicAHD_8u_C1C3R: the picture is too small": "demosaic tiny.pgm out.png",
+    "good.y4m: the file holds yuv420p: convert it to RGB": (
+        "twist good.y4m out.png --matrix swap", "grey good.y4m out.png", "gamma good.y4m out.png"),
+    "good.png: the file holds rgb24, but tone mapping takes a grey PFM": "tonemap good.png out.png",
     "out.png: ": f"chart out.png --size {HUGE}x{HUGE}",
     "nothing_of_the_kind: ": "list nothing_of_the_kind",
 }
@@ -121,7 +124,8 @@ MISUSED = {
        for command, option, values in (
            ("convert", "quality", "3"), ("convert", "repeat", "0"), ("convert", "threads", "0 many"),
            ("reduce", "levels", "1"), ("reduce", "noise", "101"), ("reduce", "dither", "best"),
-           ("demosaic", "grid", "rgb"), ("demosaic", "method", "best"))},
+           ("demosaic", "grid", "rgb"), ("demosaic", "method", "best"), ("grey", "weights", "1,2 1,2,x"),
+           ("twist", "matrix", "sepi saturation= 1;2;3"))},
     "no function zoriNothing": "call zoriNothing good.png out.png",
     "name one file, or 3": f"call {C3} good.png y.pgm u.pgm",
 }

@@ -1,11 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include <iostream>
-
 #include "commands.h"
-#include "conversion.h"
 #include "error.h"
-#include "io/writer.h"
-#include "progress.h"
+#include "file_run.h"
 
 namespace zorcc::tool {
 
@@ -25,19 +21,12 @@ const Function& functionFor(const Format& format)
 
 void reduce(const ReduceOptions& options)
 {
-    const auto reader = openReader(options.in);
-    const auto writer = openWriter(options.out, reader->tags());
     const interface::Extra arguments {
         .noise = options.noise, .levels = options.levels, .method = options.dither
     };
-    Stats stats{options.timing.repeat};
-    writeAll(*reader, *writer, [&](const Picture& picture) {
-        const Function& function = functionFor(picture.format());
-        Picture result = run(function, picture, stats, arguments);
-        if (function.alpha == interface::Alpha::keep) copyAlpha(picture, result);
-        return result;
+    runOnFile(options.in, options.out, options.timing, [&](const Format& format) {
+        return Work{functionFor(format), arguments};
     });
-    if (options.timing.stats) std::cout << stats.line();
 }
 
 } // namespace zorcc::tool

@@ -51,6 +51,29 @@ struct DemosaicOptions {
     Timing timing;
 };
 
+struct TwistOptions {
+    std::string in, out, matrix;
+    Timing timing;
+};
+
+struct GammaOptions {
+    std::string in, out;
+    bool inverse = false;
+    Timing timing;
+};
+
+struct GreyOptions {
+    std::string in, out;
+    std::vector<float> weights; // of red, green and blue; none: those of luma
+    Timing timing;
+};
+
+struct TonemapOptions {
+    std::string in, out;
+    bool mean = false; // white is twice the mean, not the maximum
+    Timing timing;
+};
+
 void list(const std::string& pattern);
 void call(const CallOptions& options);
 void convert(const ConvertOptions& options);
@@ -58,6 +81,10 @@ void reduce(const ReduceOptions& options);
 void chart(const std::string& out, ZorSize size);
 void compare(const std::string& a, const std::string& b);
 void demosaic(const DemosaicOptions& options);
+void twist(const TwistOptions& options);
+void gamma(const GammaOptions& options);
+void grey(const GreyOptions& options);
+void tonemap(const TonemapOptions& options);
 void sheet(const std::string& out, const std::vector<std::string>& in);
 
 // The input of call and convert; a headerless one is of the format `usual` if the user names none.

@@ -15,11 +15,13 @@ namespace {
 
 template <class T> constexpr double fullScale = 1;
 template <> constexpr double fullScale<std::uint8_t> = 255;
+template <> constexpr double fullScale<std::int8_t> = 255;
 template <> constexpr double fullScale<std::uint16_t> = 65535;
 template <> constexpr double fullScale<std::int16_t> = 65535;
 
 // What stands for 0.
 template <class T> constexpr double zeroOf = 0;
+template <> constexpr double zeroOf<std::int8_t> = -128;
 template <> constexpr double zeroOf<std::int16_t> = -32768;
 
 // No value of an integer type lies halfway between two of another (255 and 65535 / 255 are odd): no tie to break.
@@ -71,6 +73,8 @@ template <class Visit> void withType(Sample sample, Visit visit)
 {
     if (sample == Sample::u8)
         visit(std::uint8_t{});
+    else if (sample == Sample::s8)
+        visit(std::int8_t{});
     else if (sample == Sample::f32)
         visit(float{});
     else if (sample == Sample::s16)

@@ -52,7 +52,7 @@ const Format& planarYuv(const Format& format);
 
 // What it costs to rearrange pictures of one format into another: 0 for the same, more the more is moved, added or
 // lost; no value where rearrangement is not enough. It may change the order and layout of channels, repeat grey,
-// add opaque alpha or drop alpha, scale between 8 bits, 16 bits (signed ones from -32768) and 0..1 floats, cut
+// add opaque alpha or drop alpha, scale between 8 bits, 16 bits (signed ones from the least) and 0..1 floats, cut
 // channels down to packed bits, and expand those with zeros below.
 std::optional<int> rearrangementCost(const Format& from, const Format& to);
 

@@ -76,6 +76,10 @@ struct Options {
     ConvertOptions convert;
     ReduceOptions reduce;
     DemosaicOptions demosaic;
+    TwistOptions twist;
+    GammaOptions gamma;
+    GreyOptions grey;
+    TonemapOptions tonemap;
     std::string chartOut, sheetOut, compareA, compareB;
     ZorSize chartSize = {1280, 720};
     std::vector<std::string> sheetIn;
@@ -200,6 +204,49 @@ Examples:
     addTiming(command, o.demosaic.timing);
     command->footer("Example:\n  zorcc demosaic raw.pgm picture.png --grid rggb --method ahd");
     command->callback([&o] { demosaic(o.demosaic); });
+
+    const auto addFiles = [&command](auto& options, const std::string& in) {
+        command->add_option("IN", options.in, in)->required();
+        command->add_option("OUT", options.out, "result")->required();
+        addTiming(command, options.timing);
+    };
+    const std::string pictureFile = "PNG, JPEG, PPM, PGM or PFM file";
+
+    command = app.add_subcommand("twist", "Multiply every pixel by a matrix");
+    addFiles(o.twist, pictureFile);
+    command
+        ->add_option("--matrix", o.twist.matrix,
+                     "sepia, swap (red and blue), saturation=S, identity; or three rows of four numbers")
+        ->type_name("MATRIX")
+        ->required();
+    command->footer(
+        R"(Each row makes one of R, G and B of R, G, B and a constant, of which 1 is white. The depth of the file and its alpha
+stay as they are. Saturation 0 is grey, 1 the picture as it is.
+Examples:
+  zorcc twist photo.png sepia.png --matrix sepia
+  zorcc twist photo.png negative.png --matrix '-1 0 0 1; 0 -1 0 1; 0 0 -1 1')");
+    command->callback([&o] { twist(o.twist); });
+
+    command = app.add_subcommand("gamma", "Gamma correction by the curve of ITU-R BT.709, of linear light");
+    addFiles(o.gamma, pictureFile);
+    command->add_flag("--inverse", o.gamma.inverse, "from a corrected picture back to linear light");
+    command->footer("Examples:\n  zorcc gamma linear.pfm photo.pfm\n  zorcc gamma photo.png linear.png --inverse");
+    command->callback([&o] { gamma(o.gamma); });
+
+    command = app.add_subcommand("grey", "Grey of a colour picture");
+    addFiles(o.grey, pictureFile);
+    command->add_option("--weights", o.grey.weights, "of red, green and blue, with a sum of 1; luma if not given")
+        ->type_name("R,G,B")
+        ->delimiter(',')
+        ->expected(3);
+    command->footer("Examples:\n  zorcc grey photo.png grey.png\n  zorcc grey photo.png red.pgm --weights 1,0,0");
+    command->callback([&o] { grey(o.grey); });
+
+    command = app.add_subcommand("tonemap", "Scale a grey picture of floats to 8 bits");
+    addFiles(o.tonemap, "grey PFM file");
+    command->add_flag("--mean", o.tonemap.mean, "twice the mean becomes white, and what is brighter; not the maximum");
+    command->footer("Example:\n  zorcc tonemap deep.pfm photo.png");
+    command->callback([&o] { tonemap(o.tonemap); });
 
     command = app.add_subcommand("chart", "Draw the test picture");
     command->add_option("OUT", o.chartOut, "PNG, JPEG, PPM or PFM file")->required();

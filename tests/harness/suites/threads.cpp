@@ -35,14 +35,18 @@ TEST_P(Threads, CallsAtTheSameTime)
         auto& [source, destination] = images.emplace_back(function, size);
         fill(source, Contents::random, caller);
         destination.fillPattern(caller);
+        if (function.signature.inPlace) fill(destination, Contents::random, caller);
         destination.copyToShadow();
         reference::convert(GetParam(), function, source.image(), destination.shadow(), size);
     }
     std::vector<std::thread> threads;
-    for (const Images& own : images)
-        threads.emplace_back([&] {
-            for (int i = 0; i < calls; ++i)
-                static_cast<void>(function(own.source.image(), own.destination.image(), size));
+    for (std::uint32_t caller = 0; caller < callers; ++caller)
+        threads.emplace_back([&, caller] {
+            auto& [source, destination] = images[caller];
+            for (int i = 0; i < calls; ++i) {
+                if (function.signature.inPlace) fill(destination, Contents::random, caller);
+                static_cast<void>(function(source.image(), destination.image(), size));
+            }
         });
     for (std::thread& thread : threads) thread.join();
     for (const Images& own : images) EXPECT_EQ(own.destination.difference(), std::nullopt);

@@ -2,7 +2,7 @@
 // Interleaved RGB to luma and chroma by the dot products of AVX-512: every sum as it is written down, in 32 bits.
 #pragma once
 
-#include "simd/avx512/pixel_quads.h"
+#include "pixels/avx512/in_quads.h"
 
 namespace zorcc::ZORCC_TIER {
 namespace {
@@ -55,16 +55,6 @@ template <Weights y, int yBias, Weights u, Weights v, int bias, Order order> str
     SumsOfColumns sumsOfColumns;
     GatherColumns gather;
     GatherChroma gatherChroma;
-};
-
-// Interleaved bytes, pixels in lanes.
-template <class Layout> struct InQuads : Layout::Base {
-    using Base = typename Layout::Base;
-
-    [[gnu::always_inline]] PixelQuads<1> load(int x) const
-    {
-        return loadQuads<Layout::line[0].unit.bytes>(this->at(0, x));
-    }
 };
 
 // Whether a sum over so many pixels never leaves 0..255: bytes are gathered without saturation.

@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+#include "file_run.h"
+
+#include <iostream>
+
+#include "error.h"
+#include "io/writer.h"
+#include "progress.h"
+
+namespace zorcc::tool {
+
+void runOnFile(const std::string& in, const std::string& out, const Timing& timing,
+               const std::function<Work(const Format& format)>& choose)
+{
+    const auto reader = openReader(in);
+    const auto writer = openWriter(out, reader->tags());
+    Stats stats{timing.repeat};
+    writeAll(*reader, *writer, [&](Picture picture) {
+        const auto [function, arguments] = choose(picture.format());
+        const ZorSize size = picture.visible();
+        const Picture source = rearranged(std::move(picture), *function.source, size);
+        Picture result = run(function, source, stats, arguments);
+        if (function.alpha == interface::Alpha::keep) copyAlpha(source, result);
+        return result;
+    });
+    if (timing.stats) std::cout << stats.line();
+}
+
+const Function& colourFunction(const std::string& operation, const Format& format, const std::string& result)
+{
+    const std::string type = format.sample == Sample::f32 ? "32f" : format.sample == Sample::u16 ? "16u" : "8u";
+    const std::string layout = hasAlpha(format) ? "AC4" : "C3";
+    const Function* const function =
+        interface::findFunction("zori" + operation + "_" + type + "_" + layout + result + "R");
+    if (!function || !isRgb(format)) throw Cause("the file holds " + std::string(format.name) + ": convert it to RGB");
+    return *function;
+}
+
+} // namespace zorcc::tool

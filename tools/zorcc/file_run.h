@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+// One function of the library on all pictures of a file.
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "commands.h"
+#include "conversion.h"
+
+namespace zorcc::tool {
+
+struct Work {
+    const Function& function;
+    interface::Extra arguments = opaque;
+};
+
+// `choose` says what to do with pictures of a format; they are rearranged to what the function takes. Alpha that it
+// leaves alone is that of the source. Prints the time if that is asked for.
+void runOnFile(const std::string& in, const std::string& out, const Timing& timing,
+               const std::function<Work(const Format& format)>& choose);
+
+// The function zori<operation>_<sample type>_<layout>R for pictures as files hold them, of three channels, or of four
+// where they have alpha: "32f" for floats, "16u" for words, "8u" for bytes. Throws Cause unless they are grey or RGB.
+const Function& colourFunction(const std::string& operation, const Format& format, const std::string& result = "");
+
+} // namespace zorcc::tool
