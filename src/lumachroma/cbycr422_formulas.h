@@ -2,8 +2,9 @@
 // The formulas between RGB and packed 4:2:2 with chroma first, or with Cr before Cb, by ITU-R BT.601, studio range.
 #pragma once
 
+#include "colormodels/common/transfer_curve.h"
 #include "lumachroma/bt601_formulas.h"
-#include "lumachroma/transfer_curve.h"
+#include "simd/lookup.h"
 #include "simd/order.h"
 
 namespace zorcc::bt601 {
@@ -109,10 +110,9 @@ template <class Formula = RgbToCbYCr422Filtered> struct OfLinear {
 
     [[gnu::always_inline]] auto operator()(RgbAndPrevious p) const
     {
-        for (int c = 0; c < 3; ++c) {
-            p.rgb.c[0][c] = lookUp(toVideoLevels, p.rgb.c[0][c]);
-            p.previous[c] = toVideoLevels.of[p.previous[c]];
-        }
+        static constexpr ByteTable table(bytesOf<Forward>.of);
+        lookUp(table, p.rgb.c[0]);
+        for (uint8_t& byte : p.previous) byte = bytesOf<Forward>.of[byte];
         return formula(p);
     }
 

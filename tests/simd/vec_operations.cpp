@@ -1,7 +1,5 @@
 // SPDX-License-Identifier: MIT
 // Arithmetic, order of values, and elements of other sizes.
-#include "simd/byte_table.h"
-
 #include "lines.h"
 
 namespace zorcc::ZORCC_TIER {
@@ -52,12 +50,6 @@ constexpr auto shuffled = [](int i, const auto& v, int index) {
         "shiftBytes " #count, [](u8v v) { return shiftBytes<count>(v); },                                              \
         each([](int a) { return count < 0 ? a << -(count) : a >> (count); }))
 
-constexpr ByteTable scrambled = [] {
-    ByteTable table{};
-    for (int i = 0; i < 256; ++i) table.of[i] = static_cast<uint8_t>(167 * i + 89);
-    return table;
-}();
-
 constexpr Operation operations[] = {
     ZORCC_OF_TWO(ARITHMETIC, u8v, u16v),
     ZORCC_OPERATION(subSaturate, each([](int a, int b) { return saturated<int8_t>(a - b); }), s8v, s8v),
@@ -90,9 +82,6 @@ constexpr Operation operations[] = {
         [](int i, const auto& v) { return shuffled(i, v, places.byte[i % 16]); }),
     operation<>(
         "fillBlock", [] { return fillBlock(places); }, [](int i) { return places.byte[i % 16]; }),
-    operation<u8v>(
-        "lookUp of bytes", [](u8v v) { return lookUp(scrambled, v); },
-        each([](int index) { return (167 * index + 89) % 256; })),
     ZORCC_OPERATION(addOneWhere, oneMore, s16v, u16v, u16v),
     ZORCC_OPERATION(addOneWhere, oneMore, u8v, s8v, s8v),
 };
