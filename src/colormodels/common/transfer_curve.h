@@ -3,6 +3,8 @@
 // definition, and as bytes.
 #pragma once
 
+#include <initializer_list>
+
 #include "colormodels/common/power.h"
 
 namespace zorcc::ZORCC_TIER {
