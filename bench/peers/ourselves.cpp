@@ -1,6 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include <cstring>
-
 #include "bench/peers/peer.h"
 #include "simd/tier.h"
 
@@ -16,13 +14,17 @@ template <ZorDitherMethod method> Work prepare(const Job& job)
     return [=] { job.function(job.source, job.destination, job.size, arguments); };
 }
 
-// The function that cuts down where this one dithers.
-Work prepareUndithered(const Job& job)
+// Another function on the same pixels, which has a part of this one's name replaced.
+Work prepareSister(const Job& job, std::string_view part, std::string_view replacement)
 {
     std::string name(job.function.name);
-    name.erase(name.find("Dither"), std::strlen("Dither"));
-    return [=, twin = interface::findFunction(name)] { (*twin)(job.source, job.destination, job.size); };
+    name.replace(name.find(part), part.size(), replacement);
+    return [=, sister = interface::findFunction(name)] { (*sister)(job.source, job.destination, job.size); };
 }
+
+// The function that cuts down where this one dithers; the one on bytes.
+Work prepareUndithered(const Job& job) { return prepareSister(job, "Dither", ""); }
+Work prepareBytes(const Job& job) { return prepareSister(job, "_16u_", "_8u_"); }
 
 void selectBestTier() { setActiveTier(bestTier()); }
 
@@ -35,7 +37,9 @@ Library ourselves()
     Library library{"",
                     {{"zoriReduceBits_8u_C1R none", "zorcc ordered", ordered, selectBestTier},
                      {"zoriReduceBits_8u_C1R jjn", "zorcc fs", fs, selectBestTier},
-                     {"zoriReduceBits_8u_C1R stucki", "zorcc fs", fs, selectBestTier}}};
+                     {"zoriReduceBits_8u_C1R stucki", "zorcc fs", fs, selectBestTier},
+                     {"zoriRGBToYCC_16u_C3R", "zorcc 8u", prepareBytes, selectBestTier},
+                     {"zoriYCCToRGB_16u_C3R", "zorcc 8u", prepareBytes, selectBestTier}}};
     for (const interface::Function& function : interface::functions())
         if (function.dithers)
             library.peers.push_back({function.name, "zorcc undithered", prepareUndithered, selectBestTier});

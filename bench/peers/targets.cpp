@@ -95,6 +95,29 @@ const Target targets[] = {
     {"zoriRGBToHLS_32f_C3R", cachedSize, Tier::ssse3, 1, "OpenCV RGB2HLS"},
     {"zoriHLSToRGB_32f_C3R", cachedSize, Tier::avx512, 2, "OpenCV HLS2RGB"},
     {"zoriHLSToRGB_32f_C3R", cachedSize, Tier::ssse3, 1, "OpenCV HLS2RGB"},
+    {"zoriRGBToXYZ_8u_C3R", cachedSize, Tier::avx512, 6.7, "OpenCV RGB2XYZ"},
+    {"zoriRGBToXYZ_8u_C3R", cachedSize, Tier::avx2, 4, "OpenCV RGB2XYZ"},
+    {"zoriXYZToRGB_8u_C3R", cachedSize, Tier::avx512, 6.7, "OpenCV XYZ2RGB"},
+    {"zoriXYZToRGB_8u_C3R", cachedSize, Tier::avx2, 4, "OpenCV XYZ2RGB"},
+    {"zoriRGBToLUV_8u_C3R", cachedSize, Tier::avx512, 4, "OpenCV LRGB2Luv"},
+    {"zoriRGBToLUV_8u_C3R", cachedSize, Tier::avx2, 3, "OpenCV LRGB2Luv"},
+    {"zoriLUVToRGB_8u_C3R", cachedSize, Tier::avx512, 4, "OpenCV Luv2LRGB"},
+    {"zoriLUVToRGB_8u_C3R", cachedSize, Tier::avx2, 3, "OpenCV Luv2LRGB"},
+    {"zoriBGRToLab_8u_C3R", cachedSize, Tier::avx512, 4, "OpenCV LBGR2Lab"},
+    {"zoriBGRToLab_8u_C3R", cachedSize, Tier::avx2, 3, "OpenCV LBGR2Lab"},
+    {"zoriLabToBGR_8u_C3R", cachedSize, Tier::avx512, 4, "OpenCV Lab2LBGR"},
+    {"zoriLabToBGR_8u_C3R", cachedSize, Tier::avx2, 3, "OpenCV Lab2LBGR"},
+    {"zoriRGBToXYZ_32f_C3R", cachedSize, Tier::avx512, 3.9, "OpenCV RGB2XYZ"},
+    {"zoriRGBToXYZ_32f_C3R", cachedSize, Tier::avx2, 2, "OpenCV RGB2XYZ"},
+    {"zoriXYZToRGB_32f_C3R", cachedSize, Tier::avx512, 3.9, "OpenCV XYZ2RGB"},
+    {"zoriXYZToRGB_32f_C3R", cachedSize, Tier::avx2, 2, "OpenCV XYZ2RGB"},
+    {"zoriRGBToLUV_32f_C3R", cachedSize, Tier::avx512, 3, "OpenCV LRGB2Luv"},
+    {"zoriRGBToLUV_32f_C3R", cachedSize, Tier::avx2, 2, "OpenCV LRGB2Luv"},
+    {"zoriLUVToRGB_32f_C3R", cachedSize, Tier::avx512, 4.7, "OpenCV Luv2LRGB"},
+    {"zoriLUVToRGB_32f_C3R", cachedSize, Tier::avx2, 3, "OpenCV Luv2LRGB"},
+    // Words have twice the bytes.
+    {"zoriRGBToYCC_16u_C3R", cachedSize, Tier::avx512, 0.8 / 2, "zorcc 8u"},
+    {"zoriYCCToRGB_16u_C3R", cachedSize, Tier::avx512, 0.8 / 2, "zorcc 8u"},
     {"zoriCFAToRGB_8u_C1C3R", frameSize, Tier::avx512, 5, "OpenCV BayerRGGB2RGB_EA"},
     {"zoriCFAToRGB_8u_C1C3R", frameSize, Tier::ssse3, 1.5, "OpenCV BayerRGGB2RGB_EA"},
     {"zoriCFAToRGB_16u_C1C3R", frameSize, Tier::avx512, 8, "OpenCV BayerRGGB2RGB_EA"},
@@ -119,7 +142,15 @@ constexpr double ssse3Ratio = 0.5;
 constexpr double ssse3Speed = 1000;
 bool isSlow(const interface::Function& function) { return function.name.starts_with("zoriDemosaicAHD"); }
 
-bool usesFloats(const interface::Function& function) { return function.family == "HLS and HSV"; }
+bool usesFloats(const interface::Function& function)
+{
+    return function.family == "HLS and HSV" || function.family == "CIE XYZ, LUV and Lab" ||
+           function.family == "PhotoYCC";
+}
+
+// Of bytes from and to PhotoYCC, which has no peer, on the AVX2 tier.
+constexpr double photoYccSpeed = 2000; // Mpx/s
+bool isPhotoYccOfBytes(std::string_view name) { return name == "zoriRGBToYCC_8u_C3R" || name == "zoriYCCToRGB_8u_C3R"; }
 
 bool same(ZorSize a, ZorSize b) { return a.width == b.width && a.height == b.height; }
 
@@ -166,6 +197,8 @@ bool checkTargets(const std::vector<Result>& results)
             if (peer.name == "memcpy" && same(result.size, frameSize) && movesSamples(*result.function))
                 judge.judge(result, bestTier(), result.ours.at(bestTier()) / peer.speed, moveRatio, "x memcpy");
         }
+        if (same(result.size, cachedSize) && isPhotoYccOfBytes(result.name) && result.ours.contains(Tier::avx2))
+            judge.judge(result, Tier::avx2, result.ours.at(Tier::avx2), photoYccSpeed, "Mpx/s");
         if (same(result.size, cachedSize) && result.name == result.function->name && !usesFloats(*result.function) &&
             !isSlow(*result.function))
             judge.judge(result, Tier::ssse3, result.ours.at(Tier::ssse3), ssse3Speed, "Mpx/s");

@@ -85,14 +85,17 @@ template <> struct RgbToLuv<uint8_t> {
     {
         const auto formula = [](f32v r, f32v g, f32v b) __attribute__((always_inline))
         {
+            constexpr float toUnit = Range<uint8_t>::toUnit;
             constexpr Divisor full(255);
             const auto [x, y, z] = RgbToXyzFloats{}({{{r, g, b}}}).c[0];
-            const f32v one = f32v{} + 1;
-            const s32v isBright = y + 0.5f >= 32;
-            const f32v scale = select(isBright, one, one * 4), unit = select(isBright, one, one * 0.25f);
-            const f32v level = toFloat(truncate(y * scale + 0.5f)) * unit * Range<uint8_t>::toUnit;
-            const f32v exact = lightness(level > cie::threshold, level, cubeRoot(level)) * 2.55f;
-            const f32v l = toFloat(truncate(exact * scale + 0.5f)) * unit;
+            const s32v isBright = y >= 31.5f; // rounds to 32 or more
+            const auto either = [&](float bright, float dark) __attribute__((always_inline))
+            {
+                return select(isBright, fillFloat(bright), fillFloat(dark));
+            };
+            const f32v level = toFloat(truncate(y * either(1, 4) + 0.5f)) * either(toUnit, toUnit / 4);
+            const f32v exact = lightness(level > cie::threshold, level, cubeRoot(level)) * either(2.55f, 4 * 2.55f);
+            const f32v l = toFloat(truncate(exact + 0.5f)) * either(1, 0.25f);
             const auto [u, v] =
                 Chromaticity::ofIntegers(divideModerate(x, full), divideModerate(y, full), divideModerate(z, full));
             // 13 of 1/2.55 of 255 of 354 units, and of 262; the codes of u* = v* = 0 with the half that rounds.
@@ -105,28 +108,39 @@ template <> struct RgbToLuv<uint8_t> {
 
 // ---- to RGB ---------------------------------------------------------------------------------------------------------
 
-// Before limits. `third` is the way to divide by 3.
-template <const cie::LuvWhite& white, class Third>
-ZORCC_INLINE Samples<float> rgbOfLuv(f32v l, f32v u, f32v v, Third third)
+// What comes before the last division.
+struct LuvParts {
+    f32v y, u, v; // u' and v'
+    s32v isBlack;
+};
+
+ZORCC_INLINE LuvParts beforeDivision(const cie::LuvWhite& white, f32v l, f32v u, f32v v)
 {
     const s32v isAbove = l >= 7.9996247f; // 903.3 thresholds
     const f32v ratio = divideByEither(isAbove, select(isAbove, l + 16, l), Divisor(116), Divisor(903.3f));
-    const f32v y = select(isAbove, ratio * ratio * ratio, ratio), thirteen = l * 13;
-    const f32v u1 = u / thirteen + white.u, v0 = v / thirteen + white.v;
-    const f32v v1 = select(abs(v0) < white.least, v0 + 9e-5f, v0);
-    const f32v q = y / v1, x = q * 2.25f * u1, z = q * 3 - y * 5 - third(x);
-    const Samples<float> rgb = XyzToRgbFloats{}({{{x, y, z}}});
-    const s32v isBlack = l < 9e-5f;
-    const f32v none = {};
-    return {
-        {{select(isBlack, none, rgb.c[0][0]), select(isBlack, none, rgb.c[0][1]), select(isBlack, none, rgb.c[0][2])}}};
+    const f32v thirteen = l * 13, u1 = u / thirteen + white.u, v1 = v / thirteen + white.v;
+    return {select(isAbove, ratio * ratio * ratio, ratio), u1, select(abs(v1) < white.least, v1 + 9e-5f, v1),
+            l < 9e-5f};
+}
+
+// Before limits. `third` is the way to divide by 3.
+template <class Third> ZORCC_INLINE Samples<float> rgbOf(const LuvParts& of, Third third)
+{
+    const f32v q = of.y / of.v, x = q * 2.25f * of.u, z = q * 3 - of.y * 5 - third(x);
+    Samples<float> rgb = XyzToRgbFloats{}({{{x, of.y, z}}});
+    for (f32v& channel : rgb.c[0]) channel = select(of.isBlack, f32v{}, channel);
+    return rgb;
 }
 
 struct LuvToRgbFloats {
-    [[gnu::always_inline]] Samples<float> operator()(const Samples<float>& luv) const
+    [[gnu::always_inline]] LuvParts prepare(const Samples<float>& luv) const
     {
-        const auto [l, u, v] = luv.c[0];
-        return rgbOfLuv<cie::luvWhite>(l, u, v, [](f32v x) { return divideBy<3>(x); });
+        return beforeDivision(cie::luvWhite, luv.c[0][0], luv.c[0][1], luv.c[0][2]);
+    }
+
+    [[gnu::always_inline]] Samples<float> operator()(const LuvParts& parts) const
+    {
+        return rgbOf(parts, [](f32v x) { return divideBy<3>(x); });
     }
 };
 
@@ -135,14 +149,12 @@ template <class Sample> struct LuvCodesToRgb {
     [[gnu::always_inline]] Samples<float> operator()(const Samples<float>& codes) const
     {
         const auto [l, u, v] = codes.c[0];
-        const auto third = [](f32v x) { return divideModerate(x, Divisor(3)); };
-        Samples<float> rgb;
-        if constexpr (sizeof(Sample) == 1)
-            rgb =
-                rgbOfLuv<cie::luvWhiteOfIntegers>(l * 0.39215687f, u * 1.38823533f - 134, v * 1.02745104f - 140, third);
-        else
-            rgb = rgbOfLuv<cie::luvWhiteOfIntegers>(l * 0.0015259022f, divideModerate(u, Divisor(185.12712f)) - 134,
-                                                    divideModerate(v, Divisor(250.13359f)) - 140, third);
+        constexpr cie::LuvWhite white = cie::luvWhiteOfIntegers;
+        const LuvParts parts =
+            sizeof(Sample) == 1 ? beforeDivision(white, l * 0.39215687f, u * 1.38823533f - 134, v * 1.02745104f - 140)
+                                : beforeDivision(white, l * 0.0015259022f, divideModerate(u, Divisor(185.12712f)) - 134,
+                                                 divideModerate(v, Divisor(250.13359f)) - 140);
+        Samples<float> rgb = rgbOf(parts, [](f32v x) { return divideModerate(x, Divisor(3)); });
         for (f32v& channel : rgb.c[0]) channel = min(channel, f32v{} + 1) * Range<Sample>::max;
         return rgb;
     }

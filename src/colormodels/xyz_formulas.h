@@ -4,7 +4,7 @@
 #pragma once
 
 #include "colormodels/common/cie.h"
-#include "lumachroma/common/weighted_sums.h"
+#include "lumachroma/common/rgb_to_ycc.h"
 
 namespace zorcc::ZORCC_TIER {
 namespace {
@@ -47,8 +47,10 @@ private:
 
 // The whole blocks of a row have weights in units of 1/32768, here doubled, the pixels after them of 1/65536.
 constexpr Weights doubled(int r, int g, int b) { return {2 * r, 2 * g, 2 * b}; }
-using RgbToXyzOfBytes = InBlocks<8, RgbBytesToXyz<doubled(6969, 23434, 2365), doubled(634, 3906, 31137)>,
-                                 RgbBytesToXyz<Weights{13937, 46868, 4729}, Weights{1267, 7811, 62274}>>;
+template <template <Weights y, Weights z> class Formula>
+using InXyzBlocks = InBlocks<8, Formula<doubled(6969, 23434, 2365), doubled(634, 3906, 31137)>,
+                             Formula<Weights{13937, 46868, 4729}, Weights{1267, 7811, 62274}>>;
+using RgbToXyzOfBytes = InXyzBlocks<RgbBytesToXyz>;
 
 // Weights in units of 1/8192: whole multiples of channels in 16 bits, and a rest that `weigh` takes in units of
 // 1/32768, so that it stays within a signed number.
@@ -69,12 +71,8 @@ private:
     template <Weights w> ZORCC_INLINE s16v sum(u8v xy, u8v zy)
     {
         constexpr Weights rest = {restOf(w.r), restOf(w.g), restOf(w.b)};
-        const auto times = [](s16v v, int whole) __attribute__((always_inline))
-        {
-            return v * static_cast<int16_t>(whole);
-        };
-        return times(firstOfPairs(xy), wholeOf(w.r)) + times(secondOfPairs(xy), wholeOf(w.g)) +
-               times(firstOfPairs(zy), wholeOf(w.b)) + ((s16v)weigh<rest>(xy, zy) >> 7);
+        return times<wholeOf(w.r)>(firstOfPairs(xy)) + times<wholeOf(w.g)>(secondOfPairs(xy)) +
+               times<wholeOf(w.b)>(firstOfPairs(zy)) + ((s16v)weigh<rest>(xy, zy) >> 7);
     }
 
     template <Weights w> ZORCC_INLINE u8v channel(u8v xyLo, u8v zyLo, u8v xyHi, u8v zyHi)
@@ -85,3 +83,7 @@ private:
 
 } // namespace
 } // namespace zorcc::ZORCC_TIER
+
+#if defined(ZORCC_TIER_avx512)
+    #include "colormodels/avx512/xyz.h"
+#endif

@@ -10,6 +10,8 @@
 #include <vector>
 
 #include "interface/functions.h"
+#include "tests/harness/tiers.h"
+#include "tests/reference/cie.h"
 
 namespace zorcc::test {
 namespace {
@@ -29,11 +31,10 @@ Three xyzOf(const Three& rgb)
                    rgb);
 }
 
-Three rgbOf(const Three& xyz)
-{
-    return product({{3.240479, -1.53715, -0.498535}, {-0.969256, 1.875991, 0.041556}, {0.055648, -0.204043, 1.057311}},
-                   xyz);
-}
+constexpr double fromXyz[3][3] = {
+    {3.240479, -1.53715, -0.498535}, {-0.969256, 1.875991, 0.041556}, {0.055648, -0.204043, 1.057311}};
+
+Three rgbOf(const Three& xyz) { return product(fromXyz, xyz); }
 
 double lightnessOf(double y) { return y > 0.008856 ? 116 * std::cbrt(y) - 16 : 903.3 * y; }
 
@@ -157,7 +158,115 @@ TEST_P(ByteAccuracy, AllColours)
 }
 
 INSTANTIATE_TEST_SUITE_P(Formulas, ByteAccuracy, testing::ValuesIn(formulas),
-                         [](const auto& info) { return std::string(info.param.function); });
+                         [](const auto& of) { return std::string(of.param.function); });
+
+// Rows that are shorter than the blocks, whose pixels have other weights.
+TEST(XyzOfBytes, AllColoursAfterTheBlocksOfARow)
+{
+    constexpr ZorSize size{7, 9363};
+    constexpr int count = size.width * size.height;
+    const interface::Function& function = *interface::findFunction("zoriRGBToXYZ_8u_C3R");
+    std::vector<std::uint8_t> source(3 * count), destination(3 * count), expected(3 * count);
+    const auto imageOf = [&](std::vector<std::uint8_t>& bytes) {
+        interface::Image image;
+        image.plane[0] = bytes.data();
+        image.step[0] = 3 * size.width;
+        return image;
+    };
+    for (int first = 0; first < 1 << 24; first += count) {
+        for (int i = 0; i < 3 * count; ++i) source[i] = static_cast<std::uint8_t>((first + i / 3) >> i % 3 * 8);
+        reference::Pixels wanted(*function.destination, imageOf(expected), size);
+        reference::rgbToXyz({*function.source, imageOf(source), size}, wanted);
+        for (const Tier tier : tiersHere()) {
+            const OnTier chosen(tier);
+            ASSERT_EQ(function(imageOf(source), imageOf(destination), size), zorStatusOk);
+            ASSERT_EQ(destination, expected) << nameOf(tier) << ", from colour " << first;
+        }
+    }
+}
+
+// ---- floats ---------------------------------------------------------------------------------------------------------
+
+// Results and, for each, the sum of the sizes of the terms that it is made of last.
+struct Terms {
+    Three result, size;
+};
+
+Three sizeOf(const double (&matrix)[3][3], const Three& v)
+{
+    Three size{};
+    for (int i = 0; i < 3; ++i)
+        for (int j = 0; j < 3; ++j) size[i] += std::abs(matrix[i][j] * v[j]);
+    return size;
+}
+
+Three limited(const Three& v) { return {std::clamp(v[0], 0., 1.), std::clamp(v[1], 0., 1.), std::clamp(v[2], 0., 1.)}; }
+
+struct FloatFormula {
+    const char* function;
+    Three (*source)(const Three& rgb);
+    Terms (*of)(const Three&);
+};
+
+Three luvOfRgb(const Three& rgb) { return luvOf(xyzOf(rgb), lightnessOf(xyzOf(rgb)[1])); }
+
+const FloatFormula floatFormulas[] = {
+    {"zoriRGBToXYZ_32f_C3R", [](const Three& rgb) { return rgb; },
+     [](const Three& rgb) {
+         return Terms{xyzOf(rgb), xyzOf(rgb)};
+     }},
+    {"zoriXYZToRGB_32f_C3R", xyzOf,
+     [](const Three& xyz) {
+         return Terms{limited(rgbOf(xyz)), sizeOf(fromXyz, xyz)};
+     }},
+    {"zoriRGBToLUV_32f_C3R", [](const Three& rgb) { return rgb; },
+     [](const Three& rgb) {
+         const Three luv = luvOfRgb(rgb);
+         const double thirteen = 13 * luv[0];
+         return Terms{
+             luv,
+             {luv[0] + 32, std::abs(luv[1]) + 2 * 0.197839 * thirteen, std::abs(luv[2]) + 2 * 0.468342 * thirteen}};
+     }},
+    {"zoriLUVToRGB_32f_C3R", luvOfRgb,
+     [](const Three& luv) {
+         const Three rgb = rgbOfLuv(luv, 0.197839, 0.468342, 1.1920929e-7);
+         const auto [x, y, z] = xyzOf(rgb);
+         const double q = luv[0] < 9e-5 ? 0 : y / (luv[2] / (13 * luv[0]) + 0.468342);
+         return Terms{limited(rgb), sizeOf(fromXyz, {x, y, 3 * q + 5 * y + x / 3})};
+     }},
+};
+
+class FloatAccuracy : public testing::TestWithParam<FloatFormula> {};
+
+TEST_P(FloatAccuracy, ColoursOfAGridWithinFourUnits)
+{
+    constexpr int steps = 128, count = steps * steps * steps;
+    constexpr ZorSize size{steps * steps, steps};
+    std::vector<float> source(3 * count), destination(3 * count);
+    for (int i = 0; i < count; ++i) {
+        const double unit = steps - 1;
+        const Three rgb{i % steps / unit, i / steps % steps / unit, i / steps / steps / unit};
+        const Three from = GetParam().source(rgb);
+        for (int c = 0; c < 3; ++c) source[3 * i + c] = static_cast<float>(from[c]);
+    }
+    interface::Image from, to;
+    from.plane[0] = source.data();
+    to.plane[0] = destination.data();
+    from.step[0] = to.step[0] = 3 * size.width * int{sizeof(float)};
+    ASSERT_EQ((*interface::findFunction(GetParam().function))(from, to, size), zorStatusOk);
+    Three worst{};
+    for (int i = 0; i < count; ++i) {
+        const Terms terms = GetParam().of({source[3 * i], source[3 * i + 1], source[3 * i + 2]});
+        for (int c = 0; c < 3; ++c) {
+            const double unit = std::max(std::ldexp(1, std::ilogb(terms.size[c]) - 23), 1e-12);
+            worst[c] = std::max(worst[c], std::abs(destination[3 * i + c] - terms.result[c]) / unit);
+        }
+    }
+    for (const double units : worst) EXPECT_LE(units, 4);
+}
+
+INSTANTIATE_TEST_SUITE_P(Formulas, FloatAccuracy, testing::ValuesIn(floatFormulas),
+                         [](const auto& of) { return std::string(of.param.function); });
 
 } // namespace
 } // namespace zorcc::test

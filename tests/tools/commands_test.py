@@ -164,10 +164,39 @@ class Convert(unittest.TestCase):
                                         ("yuv420p", "ToYUV420_8u_C3P3R", 42), ("hls24", "GBToHLS_8u_C3R", 45),
                                         ("hsv24", "GBToHSV_8u_C3R", 45), ("hls444p", "BGRToHLS_8u_C3P3R", 45),
                                         ("hls48", "GBToHLS_16u_C3R", math.inf), ("hsv48", "HSV_16u_C3R", math.inf),
-                                        ("hls48s", "GBToHLS_16s_C3R", math.inf), ("hlsf32", "HLS_32f_C3R", math.inf)):
+                                        ("hls48s", "GBToHLS_16s_C3R", math.inf), ("hlsf32", "HLS_32f_C3R", math.inf),
+                                        ("xyz24", "GBToXYZ_8u_C3R", 40), ("luv24", "GBToLUV_8u_C3R", 38),
+                                        ("lab24", "GRToLab_8u_C3R", 40), ("lab48", "ToLab_8u16u_C3R", 60),
+                                        ("photoycc24", "GBToYCC_8u_C3R", 40), ("xyz48", "ToXYZ_16u_C3R", 60),
+                                        ("luv48s", "ToLUV_16s_C3R", math.inf), ("luvf32", "ToLUV_32f_C3R", math.inf),
+                                        ("photoycc48", "ToYCC_16u_C3R", 60)):
             with self.subTest(target):
                 self.assertIn(function + ":", zorcc("convert smooth.ppm one.raw --stats --to", target))
                 self.assertGreaterEqual(there_and_back("smooth.ppm", target, "200x100")[0], floor)
+
+    def test_models_by_name_have_the_samples_of_the_input(self):
+        write_pnm("bytes.ppm", 1, 1, [255, 0, 0])
+        write_pnm("words.ppm", 1, 1, [65535, 0, 0], 65535)
+        write("floats.pfm", b"PF\n1 1\n-1.0\n" + struct.pack("<3f", 1, 0, 0))
+        for model, in_bytes, in_words in (("xyz", [105, 54, 4], [27030, 13937, 1267]),
+                                          ("luv", [136, 223, 173], [34891, 57207, 44462]),
+                                          ("lab", [136, 208, 195], [34891, 53064, 49776])):
+            for picture, form, expected in (("bytes.ppm", "3B", in_bytes), ("words.ppm", "3H", in_words)):
+                with self.subTest(model=model, picture=picture):
+                    zorcc("convert", picture, "model.raw", "--to", model)
+                    found = struct.unpack(form, read("model.raw"))
+                    # Pixels after whole blocks of eight have other weights.
+                    self.assertLessEqual(max(abs(a - b) for a, b in zip(found, expected)), 1)
+        zorcc("convert floats.pfm model.raw --to luv")
+        self.assertEqual([round(value, 1) for value in struct.unpack("3f", read("model.raw"))], [53.2, 175.0, 37.8])
+
+    def test_srgb_made_linear_has_the_lab_that_others_show(self):
+        """188 of sRGB is linear light of 128.2 of 255, whose lightness is 76.2."""
+        write_pnm("grey.ppm", 1, 1, [188, 188, 188])
+        zorcc("convert grey.ppm lab.raw --to lab --linear")
+        self.assertEqual(list(read("lab.raw")), [194, 128, 128])
+        zorcc("convert --size 1x1 --format lab24 lab.raw back.ppm --linear")
+        self.assertEqual(samples("back.ppm"), [188, 188, 188])
 
     def test_y4m_of_limited_range_is_taken_for_bt601(self):
         write_pnm("smooth.ppm", 200, 100, smooth(200, 100))

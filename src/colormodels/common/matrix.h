@@ -33,9 +33,15 @@ template <const Matrix& matrix> struct ByMatrix {
 
 // Within 0..1, and 0 where it is no number.
 template <class Formula> struct WithinUnit {
-    [[gnu::always_inline]] Samples<float> operator()(const Samples<float>& from) const
+    [[gnu::always_inline]] auto
+    prepare(const Samples<float>& from) const requires WorksInTwoSteps<Formula, Samples<float>>
     {
-        Samples<float> to = Formula{}(from);
+        return Formula{}.prepare(from);
+    }
+
+    template <class Prepared> [[gnu::always_inline]] Samples<float> operator()(const Prepared& of) const
+    {
+        Samples<float> to = Formula{}(of);
         for (f32v& channel : to.c[0]) channel = min(max(channel, f32v{}), f32v{} + 1);
         return to;
     }

@@ -104,8 +104,9 @@ constexpr int restOf(int k) { return k - 65536 * wholeOf(k); }
 // whole v for the few wholes that occur.
 template <int whole> ZORCC_INLINE s16v times(s16v v)
 {
-    static_assert(whole >= -1 && whole <= 2);
-    return whole == 0 ? s16v{} : whole == 1 ? v : whole == 2 ? v + v : -v;
+    static_assert(whole >= -2 && whole <= 3);
+    if constexpr (whole < 0) return -times<-whole>(v);
+    return whole == 0 ? s16v{} : whole == 1 ? v : whole == 2 ? v + v : v + v + v;
 }
 
 // floor(k v / 65536)
