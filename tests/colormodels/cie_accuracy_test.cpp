@@ -146,7 +146,7 @@ TEST_P(ByteAccuracy, AllColours)
             const std::uint8_t* const s = &source[3 * i];
             const Three codes = formula.of({double(s[0]), double(s[1]), double(s[2])});
             for (int c = 0; c < 3; ++c) {
-                const double code = formula.roundsDown ? std::floor(codes[c]) : std::nearbyint(codes[c]);
+                const double code = std::floor(codes[c] + (formula.roundsDown ? 0 : 0.5));
                 const int difference = std::abs(destination[3 * i + c] - static_cast<int>(std::clamp(code, 0., 255.)));
                 differing += difference != 0;
                 worst = std::max(worst, difference);
