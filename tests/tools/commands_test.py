@@ -56,7 +56,8 @@ class Call(unittest.TestCase):
                     self.assertAlmostEqual(sum(greys) / len(greys), 128, delta=8)
                     self.assertLessEqual(max(greys) - min(greys), 16 if "Dither" in name else 0)
                     continue
-                floor = 27 if "444" in name else 32 if re.search("5[56]5", name) else 38
+                # To PhotoYCC and back makes colours darker by 3 %: its coefficients are rounded like that.
+                floor = 27 if "444" in name else 32 if re.search("5[56]5|YCC", name) else 38
                 self.assertGreater(compare("smooth.ppm", "result.png")["all"][0], floor)
 
     def test_known_pixels(self):
@@ -221,9 +222,9 @@ class Convert(unittest.TestCase):
                                         ("hls48s", "GBToHLS_16s_C3R", math.inf), ("hlsf32", "HLS_32f_C3R", math.inf),
                                         ("xyz24", "GBToXYZ_8u_C3R", 40), ("luv24", "GBToLUV_8u_C3R", 38),
                                         ("lab24", "GRToLab_8u_C3R", 40), ("lab48", "ToLab_8u16u_C3R", 60),
-                                        ("photoycc24", "GBToYCC_8u_C3R", 40), ("xyz48", "ToXYZ_16u_C3R", 60),
+                                        ("photoycc24", "GBToYCC_8u_C3R", 32), ("xyz48", "ToXYZ_16u_C3R", 60),
                                         ("luv48s", "ToLUV_16s_C3R", math.inf), ("luvf32", "ToLUV_32f_C3R", math.inf),
-                                        ("photoycc48", "ToYCC_16u_C3R", 60)):
+                                        ("photoycc48", "ToYCC_16u_C3R", 35)):
             with self.subTest(target):
                 self.assertIn(function + ":", zorcc("convert smooth.ppm one.raw --stats --to", target))
                 self.assertGreaterEqual(there_and_back("smooth.ppm", target, "200x100")[0], floor)

@@ -143,7 +143,7 @@ Layouts of video, of any matrix, by their usual names: i420 yv12 nv12, i422 yv16
   zorcc convert clip.y4m clip.yuv --to nv12
   zorcc convert --size 720x576 --format nv12 clip.yuv clip.y4m --deinterlace
 Models: --to xyz, luv, lab, photoycc, hls or hsv makes a headerless file with samples like those of IN: of 8 bits xyz24,
-of 16 xyz48, of a PFM file xyzf32, and so on; Lab has lab24 and lab48 alone. RGB counts as linear, as the files mostly are
+of 16 xyz48, of a PFM file xyzf32, and so on; Lab has lab24 and lab48 alone. RGB counts as linear, as files mostly are
 not: --linear makes sRGB files so.
   zorcc convert photo.png photo.raw --to lab --linear
   zorcc convert --size 640x480 --format lab24 photo.raw photo.png --linear
