@@ -52,9 +52,9 @@ struct WithMatrix {
 
 cv::Mat twistOf(const Job& job)
 {
-    const int rows = job.function.source->plane[0].samples;
-    cv::Mat twist(rows, 4, CV_32F);
-    for (int k = 0; k < rows; ++k)
+    const int channels = job.function.source->plane[0].samples;
+    cv::Mat twist(channels, 4, CV_32F);
+    for (int k = 0; k < channels; ++k)
         for (int j = 0; j < 4; ++j) twist.at<float>(k, j) = job.arguments.twist[k][j];
     return twist;
 }

@@ -2,6 +2,7 @@
 // Floating point, and its neighbours: samples to 32 bits and back, and tables by an index.
 #include "simd/floats.h"
 
+#include "colormodels/common/power.h"
 #include "demosaic/demosaicahd_lab.h"
 #include "lines.h"
 #include "simd/doubles.h"
@@ -124,6 +125,9 @@ constexpr Operation operations[] = {
 } // namespace
 
 const test::Operations floatsOperations = table(operations);
+// Of doubles; the elements are powers of numbers, not of vectors.
+const test::Operation powers = operation<f64v>(
+    "power", [](f64v v) { return power(v, 2.2); }, each([](double v) { return power(v, 2.2); }));
 const test::Operation labCurves =
     ZORCC_OPERATION(labCurve, each([](float v) { return integer(v); }), f32v); // compared in a test of its own
 
