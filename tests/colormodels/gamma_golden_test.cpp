@@ -74,7 +74,7 @@ TEST(GammaGolden, Ranges)
 }
 
 // All words, in images on both sides of the size from which on there is a table.
-TEST(GammaGolden, AllWordsBothWays)
+TEST(GammaWords, AllBothWays)
 {
     const ZorSize sizes[] = {{21845, 1}, {21846, 1}, {16384, 4}}; // 65535, 65538, 196608 samples
     for (const reference::Case& c : casesOf("gamma")) {
