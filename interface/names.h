@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-// What the name of a conversion says of its images: zori<Operation>[_<variant>]_<sample types>_<layouts>[R]. Names are
-// read here alone, when this is compiled; a name that cannot be read does not compile.
+// What the name of a conversion says of its images: zori<Operation>[_<variant>]_<sample types>_<layouts>[R], with an I
+// beside the layout of one in place. Names are read here alone, when this is compiled; a name that cannot be read does
+// not compile.
 #pragma once
 
 #include <stdexcept>

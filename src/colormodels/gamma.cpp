@@ -44,10 +44,9 @@ ZorStatus corrected(const WordDrivers& drivers, const Image& from, const Image& 
 ZorStatus corrected(DriverWith<ValueRange>& driver, const Image& from, const Image& to, ZorSize size, float vMin,
                     float vMax)
 {
+    if (!(vMax > vMin)) return zorStatusBadRange;
     const DefaultFloatMode mode;
-    const ValueRange range = {vMin, vMax - vMin};
-    if (!(range.length > 0)) return zorStatusBadRange;
-    return convert(strict, driver, from, to, size, range);
+    return convert(strict, driver, from, to, size, ValueRange{vMin, vMax});
 }
 
 } // namespace

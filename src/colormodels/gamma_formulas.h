@@ -52,10 +52,10 @@ private:
 // ---- floats ---------------------------------------------------------------------------------------------------------
 
 template <class Curve> struct FloatCurve {
-    double low, length, reciprocal;
+    double low, length, reciprocal; // the length is rounded to single precision
 
     [[gnu::always_inline]] explicit FloatCurve(const ValueRange& range)
-        : low(range.low), length(range.length), reciprocal(1 / length)
+        : low(range.low), length(range.high - range.low), reciprocal(1 / length)
     {
     }
 

@@ -7,9 +7,9 @@
 
 namespace zorcc {
 
-// What stands for 0, and how much more for 1.
+// What stands for 0 and for 1.
 struct ValueRange {
-    float low, length;
+    float low, high;
 };
 
 // Words are converted one by one, or looked up in a table of the curve at all words.

@@ -5,85 +5,39 @@
 #include "colormodels/gray_rows.h"
 #include "pixels/float_pipeline.h"
 #include "pixels/layouts.h"
-#if defined(ZORCC_TIER_avx512)
-    #include "pixels/avx512/in_quads.h"
-#endif
+#include "simd/word_pairs.h"
 
 namespace zorcc::ZORCC_TIER {
 namespace {
 
 // ---- bytes ----------------------------------------------------------------------------------------------------------
 
-// Weights with this sum at most give no more than 255. All that come from fractions with a sum of 1 do: each is rounded
-// up by half a unit at most.
-constexpr int greatestSum = 4104;
-static_assert((greatestSum * 255 + 2048) >> 12 == 255);
+// Interleaved bytes for sums of pairs.
+template <int bytes> struct InWordPairs : Lines<Line{{bytes}}> {
+    [[gnu::always_inline]] WordPairs load(int x) const { return loadWordPairs<bytes>(this->at(0, x)); }
+};
 
-// (w0 c0 + w1 c1 + w2 c2 + 2048) >> 12 in 16-bit lanes. With every weight as 64 high + low the sum is 64 H + L, so that
-// the result is (H + (L >> 6)) >> 6.
+// (w0 c0 + w1 c1 + w2 c2 + 2048) >> 12, saturated, by weights below 2^15.
 class ByteGray {
 public:
     [[gnu::always_inline]] explicit ByteGray(const ByteGrayWeights& w)
-        : high01(fillPair8(w.of[0] >> 6, w.of[1] >> 6)), high2(fillPair8(w.of[2] >> 6, 0)),
-          low01(fillPair8(w.of[0] & 63, w.of[1] & 63)), low2(fillPair8(w.of[2] & 63, 2048 / half))
+        : first(fillPair16(w.of[0], w.of[1])), second(fillPair16(w.of[2], 2048))
     {
     }
 
-    [[gnu::always_inline]] Samples<uint8_t, 1> operator()(const Samples<uint8_t>& from) const
+    [[gnu::always_inline]] Samples<uint8_t, 1> operator()(const WordPairs& from) const
     {
-        const auto [a, b, c] = from.c[0];
-        const u8v one = fill8(half);
-        return {{{packUnsigned(sum(zipLow(a, b), zipLow(c, one)), sum(zipHigh(a, b), zipHigh(c, one)))}}};
-    }
-
-private:
-    static constexpr int half = 32; // in a byte of its own beside the third channel
-
-    s8v high01, high2, low01, low2;
-
-    [[gnu::always_inline]] s16v sum(u8v ab, u8v c) const
-    {
-        const u16v low = (u16v)mulAddPairs(ab, low01) + (u16v)mulAddPairs(c, low2); // below 2^16, its terms below 2^15
-        return (mulAddPairs(ab, high01) + mulAddPairs(c, high2) + (s16v)(low >> 6)) >> 6;
-    }
-};
-
-#if defined(ZORCC_TIER_avx512)
-// The same in 32-bit lanes, a pixel each, by dot products of bytes.
-class ByteGrayInQuads {
-public:
-    [[gnu::always_inline]] explicit ByteGrayInQuads(const ByteGrayWeights& w)
-        : high(coefficients(w.of[0] >> 6, w.of[1] >> 6, w.of[2] >> 6)),
-          low(coefficients(w.of[0] & 63, w.of[1] & 63, w.of[2] & 63))
-    {
-    }
-
-    [[gnu::always_inline]] Samples<uint8_t, 1> operator()(const PixelQuads<1>& from) const
-    {
-        s32v sum[4];
-        for (int group = 0; group < 4; ++group) {
-            const u8v pixels = from.group[0][group];
-            sum[group] = mulAddQuads(mulAddQuads(fill32(2048), pixels, low) >> 6, pixels, high) << (16 - 6);
-        }
-        return {{{gather(sum)}}};
+        Widened<4> sum;
+        for (int p = 0; p < 4; ++p)
+            sum.part[p] = mulAddPairs(mulAddPairs(from.second[p], second), from.first[p], first) >> 12;
+        return {{{narrowPixels(sum)}}};
     }
 
 private:
-    s8v high, low;
-    GatherColumns gather; // of byte 2
-
-    // The fourth byte of a lane is the second channel again.
-    ZORCC_INLINE s8v coefficients(int a, int b, int c) { return (s8v)fill32(a | b << 8 | c << 16); }
+    s16v first, second;
 };
 
-template <int perPixel> struct OnThisTier<Interleaved<uint8_t, perPixel, 3, Order::asStored>, ByteGray, C1<>> {
-    using Source = InQuads<Interleaved<uint8_t, perPixel, 3, Order::asStored>>;
-    using Formula = ByteGrayInQuads;
-    using Destination = C1<>;
-};
-#endif
-
-// The same by any weights, saturated: the sum has up to 26 bits.
+// The same by any weights: the sum has up to 26 bits.
 struct ByteGrayByAnyWeights {
     ByteGrayWeights weights;
 

@@ -8,12 +8,12 @@ namespace zorcc::ZORCC_TIER {
 
 namespace {
 
-template <class Source> void bytesToGray(const Image& from, const Image& to, ZorSize size, ByteGrayWeights weights)
+template <int bytes> void bytesToGray(const Image& from, const Image& to, ZorSize size, ByteGrayWeights weights)
 {
-    if (weights.sum() <= greatestSum)
-        rows<Source, ByteGray, C1<>>(from, to, size, weights);
+    if ((weights.of[0] | weights.of[1] | weights.of[2]) < 32768)
+        rows<InWordPairs<bytes>, ByteGray, C1<>>(from, to, size, weights);
     else
-        rows<Source, ByteGrayByAnyWeights, C1<>>(from, to, size, weights);
+        rows<Interleaved<uint8_t, bytes, 3, Order::asStored>, ByteGrayByAnyWeights, C1<>>(from, to, size, weights);
 }
 
 template <template <class, Order> class Source, class Sample>
@@ -25,8 +25,8 @@ void toGray(const Image& from, const Image& to, ZorSize size, GrayWeights weight
 } // namespace
 
 const GrayRows grayRows = {
-    .myRGBToGray_8u_C3C1R = bytesToGray<C3<>>,
-    .myRGBToGray_8u_AC4C1R = bytesToGray<AC4<>>,
+    .myRGBToGray_8u_C3C1R = bytesToGray<3>,
+    .myRGBToGray_8u_AC4C1R = bytesToGray<4>,
     .myRGBToGray_16u_C3C1R = toGray<C3, uint16_t>,
     .myRGBToGray_16u_AC4C1R = toGray<AC4, uint16_t>,
     .myRGBToGray_16s_C3C1R = toGray<C3, int16_t>,

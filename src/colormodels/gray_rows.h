@@ -15,8 +15,6 @@ struct GrayWeights {
 // In units of 1/4096, each of 16 unsigned bits.
 struct ByteGrayWeights {
     int of[3];
-
-    constexpr int sum() const { return of[0] + of[1] + of[2]; }
 };
 
 struct GrayRows {

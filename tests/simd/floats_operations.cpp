@@ -2,12 +2,14 @@
 // Floating point, and its neighbours: samples to 32 bits and back, and tables by an index.
 #include "simd/floats.h"
 
+#include "colormodels/common/power.h"
 #include "demosaic/demosaicahd_lab.h"
 #include "lines.h"
 #include "simd/cube_root.h"
 #include "simd/doubles.h"
 #include "simd/lookup.h"
 #include "simd/samples.h"
+#include "simd/word_pairs.h"
 
 namespace zorcc::ZORCC_TIER {
 namespace {
@@ -78,6 +80,22 @@ constexpr auto floatOf = [](int i, const auto& v) { return floats.of[widened(i, 
     memory<int32_t, T, lanes* int{sizeof(T)}, vectorBytes>(                                                            \
         "loadIntegers " #T, [](auto* in, auto* out) { store(out, loadIntegers(reinterpret_cast<const T*>(in))); },     \
         [](int i, const T* in) { return in[i]; })
+// A sum of every pixel in its place.
+#define WORD_PAIRS(bytes)                                                                                              \
+    memory<uint8_t, uint8_t, bytes * vectorBytes, vectorBytes>(                                                        \
+        "word pairs of " #bytes,                                                                                       \
+        [](auto* in, auto* out) {                                                                                      \
+            const WordPairs pairs = loadWordPairs<bytes>(in);                                                          \
+            Widened<4> sum;                                                                                            \
+            for (int p = 0; p < 4; ++p)                                                                                \
+                sum.part[p] =                                                                                          \
+                    mulAddPairs(pairs.first[p], fillPair16(1, 2)) + mulAddPairs(pairs.second[p], fillPair16(-3, 100)); \
+            store(out, narrowPixels(sum));                                                                             \
+        },                                                                                                             \
+        [](int i, const uint8_t* in) {                                                                                 \
+            const uint8_t* const c = in + bytes * i;                                                                   \
+            return saturated<uint8_t>(c[0] + 2 * c[1] - 3 * c[2] + 100);                                               \
+        })
 #define SELECTED(V)                                                                                                    \
     operation<s32v, V, V>(                                                                                             \
         "select " #V, [](s32v x, V a, V b) { return select(x < 0, a, b); },                                            \
@@ -124,6 +142,7 @@ constexpr Operation operations[] = {
     ZORCC_OPERATION(narrowTo<int16_t>, narrowed<int16_t>, s32v, s32v),
     ZORCC_OPERATION(narrowTo<uint16_t>, narrowed<uint16_t>, s32v, s32v),
     ZORCC_OF_TWO(INTEGERS, uint8_t, uint16_t),
+    ZORCC_OF_TWO(WORD_PAIRS, 3, 4),
     ZORCC_OF_THREE(SAMPLES, uint8_t, uint16_t, int16_t),
     ZORCC_OPERATION(thirds, third, f32v),
     ZORCC_OPERATION(lookUpAll, byteOf, u8v),
@@ -137,6 +156,9 @@ constexpr Operation operations[] = {
 } // namespace
 
 const test::Operations floatsOperations = table(operations);
+// Of doubles; the elements are powers of numbers, not of vectors.
+const test::Operation powers = operation<f64v>(
+    "power", [](f64v v) { return power(v, 2.2); }, each([](double v) { return power(v, 2.2); }));
 const test::Operation labCurves =
     ZORCC_OPERATION(labCurve, each([](float v) { return integer(v); }), f32v); // compared in a test of its own
 

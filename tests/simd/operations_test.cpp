@@ -98,5 +98,32 @@ TEST(CubeRoot, WithinTwoUnitsInTheLastPlace)
     EXPECT_LE(worst, 1.82);
 }
 
+// Of all sizes that make powers within 2^-64..2^64, and next to 1: as near as is said to the true one, and the same
+// bits for vectors as for numbers.
+TEST(Power, Within1e13OfTheTrueOne)
+{
+    for (const Tier tier : tiersHere()) {
+        const OnTier chosen(tier);
+        const Operation& power = powers();
+        std::vector<double> x(static_cast<std::size_t>(power.inBytes) / sizeof(double)), result(x.size()),
+            same(x.size());
+        const auto bytes = [](std::vector<double>& v) { return reinterpret_cast<std::uint8_t*>(v.data()); };
+        std::mt19937_64 random(1);
+        double worst = 0;
+        for (int round = 0; round < 20000; ++round) {
+            for (double& element : x) {
+                const double unit = static_cast<double>(random()) * 0x1p-63 - 1;
+                element = std::exp2(round % 2 == 0 ? 29 * unit : unit / 1000);
+            }
+            power.onVectors(bytes(x), bytes(result));
+            power.onElements(bytes(x), bytes(same));
+            ASSERT_EQ(result, same) << nameOf(tier);
+            for (std::size_t i = 0; i < x.size(); ++i)
+                worst = std::max(worst, std::abs(result[i] / std::pow(x[i], 2.2) - 1));
+        }
+        EXPECT_LE(worst, 1e-13) << nameOf(tier);
+    }
+}
+
 } // namespace
 } // namespace zorcc::test

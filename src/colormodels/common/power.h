@@ -23,8 +23,8 @@ template <class V, size_t count> [[gnu::always_inline]] constexpr V polynomial(c
     return sum;
 }
 
-// x^exponent of normal numbers above 0 whose power is one, too. The relative error is below 5e-14 (1 + |log2 of the
-// power|).
+// x^exponent of normal numbers above 0 whose power is one, too, for exponents up to 2.3. The relative error is below
+// 1e-13 where the power is within 2^-64..2^64.
 //
 // x = 2^k m with m between the root of 1/2 and that of 2; log2 m = 2 / ln 2 artanh s with s = (m - 1) / (m + 1). The
 // power is 2^n 2^f with f in -1/2..1/2. Both polynomials go through the values of their function at the Chebyshev

@@ -32,12 +32,6 @@ template <int rows> struct PixelQuads {
     u8v group[rows][4];
 };
 
-// sum + the four products of each lane, of its unsigned bytes and signed coefficients.
-ZORCC_INLINE s32v mulAddQuads(s32v sum, u8v quads, s8v coefficients)
-{
-    return (s32v)_mm512_dpbusd_epi32(reg(sum), reg(quads), reg(coefficients));
-}
-
 // The bytes of a lane as elements for dot products: channels 0 and 2, channel 1 twice.
 struct ChannelPairs {
     s16v outer, inner;
