@@ -144,8 +144,8 @@ const Target targets[] = {
     {"zoriRGBToGray_8u_C3C1R", cachedSize, Tier::avx2, 1.1, "libyuv RAWToJ400"},
     {"zoriRGBToGray_32f_C3C1R", cachedSize, Tier::avx512, 1.5, "OpenCV RGB2GRAY"},
     {"zoriRGBToGray_32f_C3C1R", cachedSize, Tier::avx2, 1.1, "OpenCV RGB2GRAY"},
-    // Not reached on AVX2, where three products, three sums and a conversion for each sample fill the two ports of
-    // floating point; OpenCV transforms bytes in 16-bit integers and fuses the operations on floats.
+    // Not reached on AVX2, where three products, three sums and two conversions for each sample fill the ports of
+    // floating point.
     {"zoriColorTwist32f_8u_C3R", cachedSize, Tier::avx512, 1.1, "OpenCV transform"},
     {"zoriColorTwist32f_8u_C3R", cachedSize, Tier::avx2, 1.1, "OpenCV transform"},
     {"zoriColorTwist_32f_C3R", cachedSize, Tier::avx512, 1, "OpenCV transform"},

@@ -6,19 +6,19 @@ import sys
 
 from tools import differences, leave_with, prototypes, table_rows
 
-ALIASES = {"alpha": "aval", "scratch": "pTmp", "scratchStep": "tmpStep"}
+ALIASES = {"alpha": "aval", "scratch": "pTmp", "scratchStep": "tmpStep", "weights": "coeffs"}
 
 
 def image(role):
     """Parameters of one image: a plane, an array of planes, or a plane of luma and one of chroma."""
-    pointer, step = rf"(const )?\w+\* p{role}", role.lower()
+    pointer, step = rf"(const )?\w+\* p{role}", role[0].lower() + role[1:]
     return (rf"({pointer}, int {step}Step"
             rf"|(const )?\w+\* const p{role}\[\d\](, int {step}Step|, const int {step}Step\[\d\])?"
             rf"|{pointer}(?=, \w+\* const pDst\[\d\], ZorSize|, ZorSize)"  # without steps
             rf"|{pointer}Y, int {step}YStep, {pointer}CbCr, int {step}CbCrStep)")
 
 
-IMAGES = re.compile(image("Src") + ", " + image("Dst") + ", ZorSize roiSize")
+IMAGES = re.compile(f"({image('Src')}, {image('Dst')}|{image('SrcDst')}), ZorSize roiSize")
 REGION = re.compile(r"const \w+\* pSrc, ZorRect srcRoi, ZorSize srcSize, int srcStep, \w+\* pDst, int dstStep")
 
 header, table = sys.argv[1:]
@@ -29,7 +29,7 @@ for name in set(rows) & set(declared):
     result, parameters = declared[name]
     arguments = [ALIASES.get(argument, argument) for argument in rows[name]]
     images = parameters[:len(parameters) - len(arguments)]
-    found = [re.split(r"[ *]", parameter)[-1] for parameter in parameters[len(images):]]
+    found = [re.split(r"[ *]", parameter.partition("[")[0])[-1] for parameter in parameters[len(images):]]
     form = ", ".join(images)
     if result != "ZorStatus" or found != arguments or not (IMAGES.fullmatch(form) or REGION.fullmatch(form)):
         findings.append(f"{name}: declared {result} ({', '.join(parameters)})")
