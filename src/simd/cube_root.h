@@ -17,11 +17,12 @@ struct InverseCubeRoot {
 
 // The cube root of t from that estimate: t y^2 times u^(-2/3), where u = t y^3. The factor is written as 1 + e q(e)
 // with e = u - 1, so that only the small second term brings rounding errors; q interpolates at the Chebyshev nodes.
-// Within 1.82 units in the last place for every t in (0.008856, 1.1]. Neither infinity nor NaN has a root.
+// Its terms are added in two chains, one half as long as Horner's, since what follows waits for them. Within 1.89 units
+// in the last place for every t in (0.008856, 1.1]. Neither infinity nor NaN has a root.
 template <class F> [[gnu::always_inline]] constexpr F cubeRoot(F t, F estimate)
 {
-    const F root = t * estimate * estimate, e = root * estimate - 1;
-    const F q = (((e * -0.427206635f + 0.458421737f) * e + -0.493818045f) * e + 0.555539131f) * e + -0.666666687f;
+    const F root = t * estimate * estimate, e = root * estimate - 1, square = e * e;
+    const F q = e * 0.555539131f + -0.666666687f + (e * 0.458421737f + -0.493818045f + square * -0.427206635f) * square;
     return root + root * e * q;
 }
 

@@ -103,7 +103,7 @@ struct Formula {
 const Formula formulas[] = {
     {"zoriRGBToXYZ_8u_C3R", xyzOf, true, 94358},
     {"zoriXYZToRGB_8u_C3R", rgbOf, true, 364319},
-    {"zoriRGBToLUV_8u_C3R", luvCodesOf, false, 75026},
+    {"zoriRGBToLUV_8u_C3R", luvCodesOf, false, 26181},
     {"zoriLUVToRGB_8u_C3R",
      [](const Three& c) {
          return times(rgbOfLuv({c[0] * 100 / 255, c[1] * 354 / 255 - 134, c[2] * 262 / 255 - 140}, 0.19783941,
@@ -116,7 +116,7 @@ const Formula formulas[] = {
          const Three lab = labOf({c[2], c[1], c[0]});
          return Three{2.55 * lab[0], lab[1] + 128, lab[2] + 128};
      },
-     false, 3546},
+     false, 3545},
     {"zoriLabToBGR_8u_C3R",
      [](const Three& c) {
          const Three rgb = rgb255OfLab({c[0] / 2.55, c[1] - 128, c[2] - 128});

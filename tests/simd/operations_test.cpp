@@ -95,7 +95,7 @@ TEST(CubeRoot, WithinTwoUnitsInTheLastPlace)
         const double unit = root < 0.25 ? 0x1p-26 : root < 0.5 ? 0x1p-25 : root < 1 ? 0x1p-24 : 0x1p-23;
         worst = std::max(worst, std::abs(cubeRoot(t) - root) / unit);
     }
-    EXPECT_LE(worst, 1.82);
+    EXPECT_LE(worst, 1.89);
 }
 
 // Of all sizes that make powers within 2^-64..2^64, and next to 1: as near as is said to the true one, and the same
