@@ -17,9 +17,12 @@ constexpr Alpha alphaOf(const Name& name, bool isArgument)
     return isPlanar(name.source) || isPlanar(name.destination) ? Alpha::copy : Alpha::keep;
 }
 
+// Read once for a function.
+template <class NameOf> constexpr Name nameRead = NameOf{}();
+
 template <class Bound, class NameOf> constexpr Function describe(std::string_view text, NameOf)
 {
-    constexpr Name name = NameOf{}();
+    constexpr const Name& name = nameRead<NameOf>;
     static_assert(Bound::signature() == signatureOf(name), "name and parameters differ");
     return {text,
             {},

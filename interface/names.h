@@ -55,22 +55,28 @@ private:
     std::string_view rest;
 };
 
+// What names are made of. Not in the function, which would measure them all for every name.
+namespace nameParts {
+
+inline constexpr std::string_view words[] = {"RGB", "BGR", "SBGR", "YUV", "YCbCr", "YCrCb", "CbYCr", "YCoCg",
+                                             "HLS", "HSV", "XYZ",  "LUV", "Lab",   "YCC",   "Gray"};
+inline constexpr std::string_view packings[] = {"422", "420", "411", "1620", "565", "555", "444"};
+inline constexpr std::string_view variants[] = {"709CSC", "709HDTV", "Filter", "Interlace", "Rev"};
+inline constexpr std::string_view curves[] = {"Gamma"}; // variants that follow the formats without a break
+inline constexpr std::string_view samples[] = {"8u", "8s", "16u", "16s", "32s", "32f"};
+inline constexpr std::string_view layouts[] = {"AC4", "AP4", "C1", "C2", "C3", "C4", "P2", "P3", "P4"};
+inline constexpr std::string_view ofAnyModel[] = {"ReduceBits", "ColorTwist32f", "ColorTwist", "GammaFwd",
+                                                  "GammaInv",   "ToneMapLinear", "ToneMapMean"};
+
+} // namespace nameParts
+
 constexpr Name parse(std::string_view text)
 {
-    constexpr std::string_view words[] = {"RGB", "BGR", "SBGR", "YUV", "YCbCr", "YCrCb", "CbYCr", "YCoCg",
-                                          "HLS", "HSV", "XYZ",  "LUV", "Lab",   "YCC",   "Gray"};
-    constexpr std::string_view packings[] = {"422", "420", "411", "1620", "565", "555", "444"};
-    constexpr std::string_view variants[] = {"709CSC", "709HDTV", "Filter", "Interlace", "Rev"};
-    constexpr std::string_view curves[] = {"Gamma"}; // variants that follow the formats without a break
-    constexpr std::string_view samples[] = {"8u", "8s", "16u", "16s", "32s", "32f"};
-    constexpr std::string_view layouts[] = {"AC4", "AP4", "C1", "C2", "C3", "C4", "P2", "P3", "P4"};
-
+    using namespace nameParts;
     NameReader name(text);
     Name n;
     Name::Side &from = n.source, &to = n.destination;
     name.expect(name.read("zori"));
-    constexpr std::string_view ofAnyModel[] = {"ReduceBits", "ColorTwist32f", "ColorTwist", "GammaFwd",
-                                               "GammaInv",   "ToneMapLinear", "ToneMapMean"};
     if (!name.readOneOf(ofAnyModel).empty()) { // keep the model, whichever it is
         from.model = to.model = "RGB";
     } else if (name.read("ColorToGray")) {

@@ -16,12 +16,12 @@ inline constexpr float fromRatio[] = {242.366f, 255, 277.632f};
 struct LabCode {
     float lightness, colour;
 };
-template <class Sample> inline constexpr LabCode labCode;
+template <class Sample> inline constexpr LabCode labCode{};
 template <> inline constexpr LabCode labCode<uint8_t> = {2.55f, 1};
 template <> inline constexpr LabCode labCode<uint16_t> = {655.35f, 255};
 
 // Back.
-template <class Sample> inline constexpr LabCode labDecode;
+template <class Sample> inline constexpr LabCode labDecode{};
 template <> inline constexpr LabCode labDecode<uint8_t> = {0.39215687f, 1};
 template <> inline constexpr LabCode labDecode<uint16_t> = {0.0015259022f, 0.003921569f};
 

@@ -38,6 +38,8 @@ template <Columns columns> ZORCC_INLINE Fields<1, columns> rowOf(const Fields<2,
 template <FieldBits bits, Order order> struct PackedBits : Lines<Line{{2}}> {
     using Base = Lines<Line{{2}}>;
 
+    static constexpr int afterGreen = bits.outer + bits.green, afterLast = bits.outer + afterGreen; // bits
+
     [[gnu::always_inline]] Pixels<3> load(int x) const
     {
         u8v v[2];
@@ -52,8 +54,8 @@ template <FieldBits bits, Order order> struct PackedBits : Lines<Line{{2}}> {
     {
         arrange<order>(p.c[0]);
         const auto [first, green, last] = p.c[0];
-        const u8v lower = shiftBytes<8 - bits.outer>(first) | shiftBytes<8 - end[1]>(keepTop<bits.green>(green));
-        const u8v upper = shiftBytes<16 - end[1]>(green) | shiftBytes<16 - end[2]>(keepTop<bits.outer>(last));
+        const u8v lower = shiftBytes<8 - bits.outer>(first) | shiftBytes<8 - afterGreen>(keepTop<bits.green>(green));
+        const u8v upper = shiftBytes<16 - afterGreen>(green) | shiftBytes<16 - afterLast>(keepTop<bits.outer>(last));
         storeWords<columns>(x, (u16v)zipLow(lower, upper), (u16v)zipHigh(lower, upper));
     }
 
@@ -63,19 +65,17 @@ template <FieldBits bits, Order order> struct PackedBits : Lines<Line{{2}}> {
         for (int k = 0; k < 2; ++k) {
             u16v c[3] = {fields.c[0][0][k], fields.c[0][1][k], fields.c[0][2][k]};
             arrange<order>(c);
-            word[k] = c[0] >> (16 - bits.outer) | (c[1] & topOf<bits.green>) >> (16 - end[1]) |
-                      (c[2] & topOf<bits.outer>) >> (16 - end[2]);
+            word[k] = c[0] >> (16 - bits.outer) | (c[1] & topOf<bits.green>) >> (16 - afterGreen) |
+                      (c[2] & topOf<bits.outer>) >> (16 - afterLast);
         }
         storeWords<columns>(x, word[0], word[1]);
     }
 
 private:
-    // The bit after each field.
-    static constexpr int end[] = {bits.outer, bits.outer + bits.green, 2 * bits.outer + bits.green};
-
     template <int channel> ZORCC_INLINE u8v byteOf(const u8v (&words)[2])
     {
-        constexpr int down = end[channel] - 8, count = channel == 1 ? bits.green : bits.outer;
+        constexpr int end = channel == 0 ? bits.outer : channel == 1 ? afterGreen : afterLast;
+        constexpr int down = end - 8, count = channel == 1 ? bits.green : bits.outer;
         const auto top = [](u8v v) {
             constexpr uint16_t mask = 0x100 - (0x100 >> count);
             if constexpr (down > 0)
