@@ -6,7 +6,7 @@
 #include "colormodels/common/transfer_curve.h"
 #include "colormodels/gamma_rows.h"
 #include "pixels/sequences.h"
-#include "simd/lookup.h"
+#include "simd/curve_table.h"
 
 namespace zorcc::ZORCC_TIER {
 namespace {
@@ -16,7 +16,7 @@ namespace {
 template <class Curve> struct ByteCurve {
     template <int count> [[gnu::always_inline]] Vectors<count> operator()(Vectors<count> bytes) const
     {
-        static constexpr ByteTable table(bytesOf<Curve>.of);
+        static constexpr CurveTable table(bytesOf<Curve>.of);
         lookUp(table, bytes.v);
         return bytes;
     }

@@ -4,7 +4,7 @@
 
 #include "colormodels/common/transfer_curve.h"
 #include "lumachroma/bt601_formulas.h"
-#include "simd/lookup.h"
+#include "simd/curve_table.h"
 #include "simd/order.h"
 
 namespace zorcc::bt601 {
@@ -110,7 +110,7 @@ template <class Formula = RgbToCbYCr422Filtered> struct OfLinear {
 
     [[gnu::always_inline]] auto operator()(RgbAndPrevious p) const
     {
-        static constexpr ByteTable table(bytesOf<Forward>.of);
+        static constexpr CurveTable table(bytesOf<Forward>.of);
         lookUp(table, p.rgb.c[0]);
         for (uint8_t& byte : p.previous) byte = bytesOf<Forward>.of[byte];
         return formula(p);

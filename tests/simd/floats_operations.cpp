@@ -6,6 +6,7 @@
 #include "demosaic/demosaicahd_lab.h"
 #include "lines.h"
 #include "simd/cube_root.h"
+#include "simd/curve_table.h"
 #include "simd/doubles.h"
 #include "simd/lookup.h"
 #include "simd/samples.h"
@@ -57,6 +58,25 @@ ZORCC_INLINE u8v lookUpAll(u8v index)
     lookUp(byteTable, two);
     return two[0] ^ (two[1] << 1);
 }
+
+// A curve whose first blocks no line fits, and bytes that none does.
+constexpr AllBytes smoothBytes = [] {
+    AllBytes bytes{};
+    for (int i = 0, root = 0; i < 256; ++i) {
+        while ((root + 1) * (root + 1) <= 255 * i) ++root;
+        bytes.of[i] = static_cast<uint8_t>(root);
+    }
+    return bytes;
+}();
+constexpr CurveTable smooth(smoothBytes.of), rough(allBytes.of);
+ZORCC_INLINE u8v lookUpCurves(u8v index)
+{
+    u8v onSmooth[] = {index}, onRough[] = {index};
+    lookUp(smooth, onSmooth);
+    lookUp(rough, onRough);
+    return onSmooth[0] ^ (onRough[0] << 1);
+}
+constexpr auto curvesOf = each([](int i) { return smoothBytes.of[i] ^ allBytes.of[i] << 1; });
 constexpr auto byteOf = each([](int i) { return allBytes.of[i] ^ allBytes.of[255 - i] << 1; });
 
 // Digits that single precision has not.
@@ -146,6 +166,7 @@ constexpr Operation operations[] = {
     ZORCC_OF_THREE(SAMPLES, uint8_t, uint16_t, int16_t),
     ZORCC_OPERATION(thirds, third, f32v),
     ZORCC_OPERATION(lookUpAll, byteOf, u8v),
+    ZORCC_OPERATION(lookUpCurves, curvesOf, u8v),
     ZORCC_OPERATION(lookUpIn<bytes>, each([](int i) { return bytes.of[i & 7]; }), u8v),
     ZORCC_OPERATION(lookUpIn<bytes>, each([](int i) { return 257 * bytes.of[i & 7]; }), u16v),
     ZORCC_OPERATION(lookUpIn<floats>, each([](int i) { return floats.of[i & 7]; }), s32v),
