@@ -22,6 +22,12 @@ template <class V> ZORCC_INLINE V minus(V a, V b) { return (V)((Wrapping<V>)a - 
 // Y = (R + 2G + B + 2) >> 2, Co = (R - B + 1) >> 1, Cg = (2G - R - B + 2) >> 2, and back: R = Y + Co - Cg, G = Y + Cg,
 // B = Y - Co - Cg.
 struct PlainYCoCg {
+    static Three<s32v> fromRgb(s32v r, s32v g, s32v b)
+    {
+        const s32v twice = g + g, outer = r + b;
+        return {{(outer + twice + 2) >> 2, (r - b + 1) >> 1, (twice - outer + 2) >> 2}};
+    }
+
     // As averages, which need no more bits than the samples: -B is ~B + 1, so that chroma is one less; that of bytes,
     // whose complement is 255 - B, is 127 more.
     template <class V> static Three<V> fromRgb(V r, V g, V b)
@@ -93,17 +99,16 @@ struct ToYCoCgBytes {
     }
 };
 
-// To samples of twice as many bits. The plain form is made in the lanes of the source, where it fits.
+// To samples of twice as many bits. The plain form is made in the lanes of bytes, where it fits.
 template <class Form, class Wide> struct ToWideYCoCg {
     template <class Sample> [[gnu::always_inline]] WideSamples<Wide> operator()(const Samples<Sample>& rgb) const
     {
         WideSamples<Wide> ycc;
-        if constexpr (std::is_same_v<Form, PlainYCoCg>) {
+        if constexpr (std::is_same_v<Form, PlainYCoCg> && sizeof(Sample) == 1) {
             const auto narrow = Form::fromRgb(rgb.c[0][0], rgb.c[0][1], rgb.c[0][2]);
-            constexpr int back = sizeof(Sample) == 1 ? -127 : 1;
             for (int c = 0; c < 3; ++c) {
                 toHalves(narrow.c[c], ycc.c[c].half);
-                for (int k = 0; k < 2 && c > 0; ++k) ycc.c[c].half[k] += back;
+                for (int k = 0; k < 2 && c > 0; ++k) ycc.c[c].half[k] -= 127;
             }
         } else {
             WideSamples<Wide> wide;

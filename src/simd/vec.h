@@ -191,9 +191,6 @@ template <int count> ZORCC_INLINE u8v shiftBytes(u8v v)
 ZORCC_INLINE s16v firstOfPairs(u8v pairs) { return (s16v)pairs & 0xff; }
 ZORCC_INLINE s16v secondOfPairs(u8v pairs) { return (s16v)((u16v)pairs >> 8); }
 
-// The two elements of every pair in each other's place.
-ZORCC_INLINE s16v exchangePairs(s16v v) { return (s16v)((u32v)v << 16 | (u32v)v >> 16); }
-
 // Per block: element i is v[index[i]], or 0 where index[i] has its top bit set.
 ZORCC_INLINE u8v shuffle(u8v v, u8v index) { return (u8v)ZORCC_MM(shuffle_epi8)(reg(v), reg(index)); }
 ZORCC_INLINE u8v shuffle(u8v v, const Block& index) { return shuffle(v, fillBlock(index)); }

@@ -61,12 +61,12 @@ ZORCC_INLINE u8v lookUpAll(u8v index)
 
 // A curve whose first blocks no line fits, and bytes that none does.
 constexpr AllBytes smoothBytes = [] {
-    AllBytes bytes{};
+    AllBytes curve{};
     for (int i = 0, root = 0; i < 256; ++i) {
         while ((root + 1) * (root + 1) <= 255 * i) ++root;
-        bytes.of[i] = static_cast<uint8_t>(root);
+        curve.of[i] = static_cast<uint8_t>(root);
     }
-    return bytes;
+    return curve;
 }();
 constexpr CurveTable smooth(smoothBytes.of), rough(allBytes.of);
 ZORCC_INLINE u8v lookUpCurves(u8v index)

@@ -72,8 +72,6 @@ constexpr Operation operations[] = {
         firstOfPairs, [](int i, const auto& v) { return v[2 * i]; }, u8v),
     ZORCC_OPERATION(
         secondOfPairs, [](int i, const auto& v) { return v[2 * i + 1]; }, u8v),
-    ZORCC_OPERATION(
-        exchangePairs, [](int i, const auto& v) { return v[i ^ 1]; }, s16v),
     ZORCC_OF_FOUR(SHIFT, 3, 0, 8, -5),
     ZORCC_OPERATION(shuffle, ([](int i, const auto& v, const auto& index) { return shuffled(i, v, index[i]); }), u8v,
                     u8v),

@@ -40,7 +40,7 @@ template <Weights y, int yBias, Weights first, Weights second, int chromaBias> s
 
 // ---- shared chroma: a way to weigh luma and a way to form chroma, for one row or two --------------------------------
 
-// Two columns share chroma, or four: then both pairs of them get it.
+// Two columns share chroma, or four: then the first of their two pairs gets it.
 template <int rows, class Luma, class Chroma, int columns = 2> struct RgbToSubsampled {
     [[gnu::always_inline]] Subsampled<rows> operator()(const Pixels<3, rows>& rgb) const
     {
@@ -51,9 +51,12 @@ template <int rows, class Luma, class Chroma, int columns = 2> struct RgbToSubsa
             out.y[row] = Luma::of(r, g, b);
             for (int c = 0; c < 3; ++c) sum[c] += mulAddPairs(rgb.c[row][c], fillPair8(1, 1));
         }
-        if constexpr (columns == 4)
-            for (s16v& pairs : sum) pairs += exchangePairs(pairs);
-        out.chroma = Chroma::of(sum[0], sum[1], sum[2]);
+        if constexpr (columns == 4) {
+            const s16v ones = fill16(1);
+            out.chroma = Chroma::of(mulAddPairs(sum[0], ones), mulAddPairs(sum[1], ones), mulAddPairs(sum[2], ones));
+        } else {
+            out.chroma = Chroma::of(sum[0], sum[1], sum[2]);
+        }
         return out;
     }
 };
@@ -77,6 +80,9 @@ public:
     {
         return packSigned(sum(zipLow(r, g), zipLow(b, g)) >> shift, sum(zipHigh(r, g), zipHigh(b, g)) >> shift);
     }
+
+    // Of sums in 32 bits.
+    ZORCC_INLINE s32v of(s32v r, s32v g, s32v b) { return sum((s16v)(r | g << 16), (s16v)b) >> shift; }
 
 private:
     // weight * first + second * other, with a weight of up to 16 unsigned bits.
@@ -106,6 +112,13 @@ template <Weights first, int firstBias, Weights second, int secondBias, int shif
     {
         return packUnsigned(WeightedSums<first, firstBias, shift>::of(r, g, b),
                             WeightedSums<second, secondBias, shift>::of(r, g, b));
+    }
+
+    // In the even bytes alone.
+    ZORCC_INLINE u8v of(s32v r, s32v g, s32v b)
+    {
+        return packUnsigned((s16v)WeightedSums<first, firstBias, shift>::of(r, g, b),
+                            (s16v)WeightedSums<second, secondBias, shift>::of(r, g, b));
     }
 };
 
