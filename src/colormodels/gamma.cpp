@@ -11,9 +11,6 @@ namespace {
 
 constexpr auto& rows = gammaRows;
 
-// Every pointer first, then the size, then the steps.
-constexpr Checks strict = {.planes = Checks::Planes::beforeSize, .steps = Checks::Steps::positiveAfterSize};
-
 // Words: a table pays where there are more samples than it has entries.
 struct WordDrivers {
     Driver& direct;
@@ -23,13 +20,13 @@ struct WordDrivers {
 
 ZorStatus corrected(Driver& driver, const Image& from, const Image& to, ZorSize size)
 {
-    return convert(strict, driver, from, to, size);
+    return convert(pointersSizeSteps, driver, from, to, size);
 }
 
 ZorStatus corrected(const WordDrivers& drivers, const Image& from, const Image& to, ZorSize size)
 {
     const DefaultFloatMode mode;
-    if (const ZorStatus status = check(strict, from, to, size); status < 0) return status;
+    if (const ZorStatus status = check(pointersSizeSteps, from, to, size); status < 0) return status;
     if (int64_t{3} * size.width * size.height <= wordCount) {
         drivers.direct(from, to, size);
         return zorStatusOk;
@@ -46,7 +43,7 @@ ZorStatus corrected(DriverWith<ValueRange>& driver, const Image& from, const Ima
 {
     if (!(vMax > vMin)) return zorStatusBadRange;
     const DefaultFloatMode mode;
-    return convert(strict, driver, from, to, size, ValueRange{vMin, vMax});
+    return convert(pointersSizeSteps, driver, from, to, size, ValueRange{vMin, vMax});
 }
 
 } // namespace

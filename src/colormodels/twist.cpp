@@ -10,14 +10,11 @@ namespace {
 
 constexpr auto& rows = twistRows;
 
-// Every pointer first, then the size, then the steps.
-constexpr Checks strict = {.planes = Checks::Planes::beforeSize, .steps = Checks::Steps::positiveAfterSize};
-
 ZorStatus twisted(TwistDriver& driver, const Image& from, const Image& to, ZorSize size, TwistMatrix matrix)
 {
     if (!matrix) return zorStatusNullPointer;
     const DefaultFloatMode mode;
-    return convert(strict, driver, from, to, size, matrix);
+    return convert(pointersSizeSteps, driver, from, to, size, matrix);
 }
 
 ZorStatus twisted(TwistDriver& driver, const Image& inPlace, ZorSize size, TwistMatrix matrix)

@@ -112,6 +112,10 @@ inline constexpr Checks even = {.block = {2, 2}, .oddSize = Checks::OddSize::war
 // Steps below 1 are refused, after the size.
 inline constexpr Checks positiveSteps = {.steps = Checks::Steps::positiveAfterSize};
 
+// Every pointer first, then the size, then the steps.
+inline constexpr Checks pointersSizeSteps = {.planes = Checks::Planes::beforeSize,
+                                             .steps = Checks::Steps::positiveAfterSize};
+
 // An error is the status of the first check that fails. Otherwise the size is cut down to whole blocks, unless what
 // does not fill one is converted, too, and the status is that of the finished conversion.
 [[nodiscard]] ZorStatus check(const Checks& checks, const Image& from, const Image& to, ZorSize& size);

@@ -55,7 +55,7 @@ template <class Source> void rowsTo420(const Image& from, const Image& to, ZorSi
     const ZorSize whole = {size.width & ~1, size.height & ~1};
     rows<Source, RgbToBt601_420, Planar420>(from, to, whole);
     const RowsOf<Source> source(from);
-    const RowsOf<Luma> luma(to);
+    const RowsOf<LumaPlane> luma(to);
     if (const int y = whole.height; y < size.height) convertPixels(source[y], RgbToBt601{}, luma[y], size.width);
     if (const int x = whole.width; x < size.width)
         for (int y = 0; y < whole.height; ++y)

@@ -14,10 +14,10 @@ using OddSize = Checks::OddSize;
 constexpr Checks pairs = {.minimum = {2, 1}},
                  quads = {.block = {4, 1}, .minimum = {4, 1}, .oddSize = OddSize::convertedAndWarned},
                  squares = {.block = {2, 2}, .minimum = {2, 2}, .oddSize = OddSize::warned},
-                 planesFirst = {.block = {2, 2},
-                                .minimum = {2, 2},
-                                .oddSize = OddSize::warned,
-                                .planes = Checks::Planes::beforeSize};
+                 evenPlanesFirst = {.block = {2, 2},
+                                    .minimum = {2, 2},
+                                    .oddSize = OddSize::warned,
+                                    .planes = Checks::Planes::beforeSize};
 
 } // namespace
 
@@ -161,8 +161,8 @@ ZorStatus zoriBGR555ToYCrCb420_16u8u_C3P3R(const uint16_t* pSrc, int srcStep, ui
 ZorStatus zoriBGR555ToYUV420_16u8u_C3P3R(const uint16_t* pSrc, int srcStep, uint8_t* const pDst[3],
                                          const int dstStep[3], ZorSize roiSize)
 {
-    return convert(planesFirst, rows().myBGR555ToYUV420_16u8u_C3P3R, interleaved(pSrc, srcStep), planar(pDst, dstStep),
-                   roiSize);
+    return convert(evenPlanesFirst, rows().myBGR555ToYUV420_16u8u_C3P3R, interleaved(pSrc, srcStep),
+                   planar(pDst, dstStep), roiSize);
 }
 
 ZorStatus zoriBGR565ToYCbCr422_16u8u_C3C2R(const uint16_t* pSrc, int srcStep, uint8_t* pDst, int dstStep,
@@ -203,8 +203,8 @@ ZorStatus zoriBGR565ToYCrCb420_16u8u_C3P3R(const uint16_t* pSrc, int srcStep, ui
 ZorStatus zoriBGR565ToYUV420_16u8u_C3P3R(const uint16_t* pSrc, int srcStep, uint8_t* const pDst[3],
                                          const int dstStep[3], ZorSize roiSize)
 {
-    return convert(planesFirst, rows().myBGR565ToYUV420_16u8u_C3P3R, interleaved(pSrc, srcStep), planar(pDst, dstStep),
-                   roiSize);
+    return convert(evenPlanesFirst, rows().myBGR565ToYUV420_16u8u_C3P3R, interleaved(pSrc, srcStep),
+                   planar(pDst, dstStep), roiSize);
 }
 
 ZorStatus zoriRGB565ToRGB_16u8u_C3R(const uint16_t* pSrc, int srcStep, uint8_t* pDst, int dstStep, ZorSize roiSize)

@@ -260,7 +260,7 @@ struct Yuy2Pairs : Yuy2 {
 };
 
 // The luma plane alone.
-struct Luma : Lines<Line{{1}}> {
+struct LumaPlane : Lines<Line{{1}}> {
     [[gnu::always_inline]] void store(int x, const Pixels<3>& ycc) const
     {
         zorcc::ZORCC_TIER::store(at(0, x), ycc.c[0][0]);

@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
 """The header declares the functions of the table, and calls their parameters by the usual names; that their types are
-those which the names ask for is checked where the table is compiled: prototypes.py HEADER TABLE"""
+those which the names ask for is checked where the table is compiled: prototypes.py HEADER TABLES"""
 import re
 import sys
 
@@ -21,9 +21,9 @@ def image(role):
 IMAGES = re.compile(f"({image('Src')}, {image('Dst')}|{image('SrcDst')}), ZorSize roiSize")
 REGION = re.compile(r"const \w+\* pSrc, ZorRect srcRoi, ZorSize srcSize, int srcStep, \w+\* pDst, int dstStep")
 
-header, table = sys.argv[1:]
+header, tables = sys.argv[1:]
 declared = prototypes(header)
-rows = table_rows(table)
+rows = table_rows(tables)
 findings = differences(rows, set(declared) - {"zorccGetLibVersion"}, "the table", "the header")
 for name in set(rows) & set(declared):
     result, parameters = declared[name]

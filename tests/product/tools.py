@@ -30,12 +30,14 @@ def prototypes(header):
     return found
 
 
-def table_rows(table):
-    """{name: [names of its arguments beside images and size]} of the functions of the interface table."""
-    with open(table, encoding="ascii") as file:
-        rows = re.findall(r"^ZOR_FUNCTION\((\w+)(?:, )?(.*)\)$", file.read(), flags=re.M)
-    if not rows:
-        sys.exit(f"{table}: no functions found")
+def table_rows(tables):
+    """{name: [names of its arguments beside images and size]} of the functions of the interface's tables, a folder."""
+    rows = []
+    for table in pathlib.Path(tables).iterdir():
+        found = re.findall(r"^ZOR_FUNCTION\((\w+)(?:, )?(.*)\)$", table.read_text(encoding="ascii"), flags=re.M)
+        if not found:
+            sys.exit(f"{table}: no functions found")
+        rows += found
     return {name: arguments.split(", ") if arguments else [] for name, arguments in rows}
 
 

@@ -31,7 +31,6 @@ Three rgbOf(const Three& xyz)
 using Bytes = std::array<int, 3>;
 
 Bytes bytesOf(const Three& v) { return {static_cast<int>(v[0]), static_cast<int>(v[1]), static_cast<int>(v[2])}; }
-Three levelsOf(int a, int b, int c) { return {static_cast<float>(a), static_cast<float>(b), static_cast<float>(c)}; }
 
 Three xyzOfBytes(const Bytes& rgb, bool isInBlock)
 {

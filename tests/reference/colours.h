@@ -11,6 +11,11 @@ namespace zorcc::reference {
 
 using Three = std::array<float, 3>;
 
+inline Three levelsOf(int a, int b, int c)
+{
+    return {static_cast<float>(a), static_cast<float>(b), static_cast<float>(c)};
+}
+
 // Stores convert(pixel, column) for every pixel; integers are truncated.
 template <class Convert> void eachColour(const Pixels& source, Pixels& destination, Convert convert)
 {

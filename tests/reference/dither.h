@@ -6,7 +6,8 @@
 
 namespace zorcc::reference {
 
-// The field of so many bits that a sample becomes at (x, y), in pixels of which R and B have `outerBits`.
+// The level, of `bits` bits, that a sample becomes at column x of row y. Where R and B have 4 bits (`outerBits`) the
+// thresholds are others.
 int ditheredField(int sample, int bits, int outerBits, int x, int y);
 
 // The colours of a formula, dithered.

@@ -9,8 +9,6 @@ using interface::Sample;
 
 namespace {
 
-Three levelsOf(int a, int b, int c) { return {static_cast<float>(a), static_cast<float>(b), static_cast<float>(c)}; }
-
 Three yccOfBytes(int r, int g, int b)
 {
     const int luma = 4898 * r + 9617 * g + 1867 * b;

@@ -54,7 +54,7 @@ using RowPairsOfBoth =
 // ---- drivers that copy luma and convert chroma ----------------------------------------------------------------------
 
 // Pixels of the image that share a sample of the chroma that is converted.
-constexpr ZorSize per2x1 = {2, 1}, per2x2 = {2, 2}, per4x1 = {4, 1}, per4x2 = {4, 2}, per4x4 = {4, 4};
+constexpr ZorSize per2x2 = {2, 2}, per4x1 = {4, 1}, per4x2 = {4, 2}, per4x4 = {4, 4};
 
 constexpr ZorSize samples(ZorSize size, ZorSize shared)
 {
