@@ -8,10 +8,10 @@
  *   u = 13 L (u' - u'n), v = 13 L (v' - v'n)
  *
  * Ranges: 32f RGB in 0..1, L in 0..100, u and v as they are. 8u and 16u: RGB over the whole range of the type, L in
- * units of 100 / 255 or 100 / 65535, u + 134 in units of 354 / 255 or 354 / 65535, v + 140 in units of 262 / 255 or 262
- * / 65535; saturated. 16s is the value plus 32768 of 16u. Channels stand in the order of their names. Results are
+ * units of 100 / 255 or 100 / 65535, u + 134 in units of 354 / 255 or 354 / 65535, v + 140 in units of 262 / 255 or
+ * 262 / 65535; saturated. 16s is the value plus 32768 of 16u. Channels stand in the order of their names. Results are
  * computed in single precision, every operation rounded as IEEE 754 says; cube roots are within two units in the last
- * place. An infinite or undefined channel gives undefined ones from RGB, and 0 to RGB.
+ * place. An infinite channel, or NaN, gives NaN from RGB, and 0 to RGB.
  *
  * Steps are not checked. Images above 4096 pixels are converted on ownGetNumThreads() threads, except inside a parallel
  * region of the caller.
