@@ -13,7 +13,7 @@ enum class Tier {
 
 const char* nameOf(Tier tier);
 
-// The best tier of this processor.
+// The best tier of this processor and this build.
 Tier bestTier();
 
 // Set before main and before any library that uses this one is initialised; read without a lock by every call. Only
@@ -24,21 +24,27 @@ inline void setActiveTier(Tier tier) { currentTier = tier; }
 
 } // namespace zorcc
 
+// Calls `of` with each tier that is built; builds for diagnosis may leave out the wider ones.
+#if ZORCC_TIERS_BUILT == 3
+    #define ZORCC_OF_EACH_TIER(of, ...) of(ssse3, __VA_ARGS__) of(avx2, __VA_ARGS__) of(avx512, __VA_ARGS__)
+#elif ZORCC_TIERS_BUILT == 2
+    #define ZORCC_OF_EACH_TIER(of, ...) of(ssse3, __VA_ARGS__) of(avx2, __VA_ARGS__)
+#else
+    #define ZORCC_OF_EACH_TIER(of, ...) of(ssse3, __VA_ARGS__)
+#endif
+
 // Declares the table of drivers of a family for each tier, and a function of its name that gives the active tier's.
+#define ZORCC_DECLARE_TABLE(tier, Table, table)                                                                        \
+    namespace zorcc::tier {                                                                                            \
+    extern const Table table;                                                                                          \
+    }
+#define ZORCC_ADDRESS_OF_TABLE(tier, table) &tier::table,
 #define ZORCC_TABLE_OF_EACH_TIER(Table, table)                                                                         \
-    namespace zorcc::ssse3 {                                                                                           \
-    extern const Table table;                                                                                          \
-    }                                                                                                                  \
-    namespace zorcc::avx2 {                                                                                            \
-    extern const Table table;                                                                                          \
-    }                                                                                                                  \
-    namespace zorcc::avx512 {                                                                                          \
-    extern const Table table;                                                                                          \
-    }                                                                                                                  \
+    ZORCC_OF_EACH_TIER(ZORCC_DECLARE_TABLE, Table, table)                                                              \
     namespace zorcc {                                                                                                  \
     inline const Table& table()                                                                                        \
     {                                                                                                                  \
-        const Table* const ofTier[] = {&ssse3::table, &avx2::table, &avx512::table};                                   \
+        const Table* const ofTier[] = {ZORCC_OF_EACH_TIER(ZORCC_ADDRESS_OF_TABLE, table)};                             \
         return *ofTier[static_cast<int>(activeTier())];                                                                \
     }                                                                                                                  \
     }
