@@ -5,6 +5,7 @@
 
 #include "colormodels/common/matrix.h"
 #include "lumachroma/common/ycc_to_rgb.h"
+#include "pixels/byte_pairs.h"
 
 namespace zorcc::photoycc {
 
@@ -60,10 +61,10 @@ template <> struct RgbToPhotoYcc<int16_t> : SignedSamples<RgbToPhotoYcc> {
 
 // A difference is ((B << 14) - s) >> 10 = 16 B - ((s + 1023) >> 10), s being luma in units of 1/16384.
 template <> struct RgbToPhotoYcc<uint8_t> {
-    [[gnu::always_inline]] Pixels<3> operator()(const Pixels<3>& rgb) const
+    [[gnu::always_inline]] Pixels<3> operator()(const RgbBytes<1> auto& rgb) const
     {
-        const auto [r, g, b] = rgb.c[0];
-        const Half lo = half(zipLow(r, g), zipLow(b, g)), hi = half(zipHigh(r, g), zipHigh(b, g));
+        const RgbPairs<1> pairs = inPairs(rgb);
+        const Half lo = half(pairs.rg[0][0], pairs.bg[0][0]), hi = half(pairs.rg[0][1], pairs.bg[0][1]);
         Pixels<3> ycc;
         for (int c = 0; c < 3; ++c) ycc.c[0][c] = packUnsigned(lo.c[c], hi.c[c]);
         return ycc;

@@ -28,10 +28,10 @@ template <> struct XyzToRgb<int16_t> : SignedSamples<XyzToRgb> {
 // Weights in units of 1/32768 of X, and of 1/65536 of the others. Those of Z add up to more than one, so that the whole
 // of B is added in 16 bits.
 template <Weights y, Weights z> struct RgbBytesToXyz {
-    [[gnu::always_inline]] Pixels<3> operator()(const Pixels<3>& rgb) const
+    [[gnu::always_inline]] Pixels<3> operator()(const RgbBytes<1> auto& rgb) const
     {
-        const auto [r, g, b] = rgb.c[0];
-        const u8v rgLo = zipLow(r, g), bgLo = zipLow(b, g), rgHi = zipHigh(r, g), bgHi = zipHigh(b, g);
+        const RgbPairs<1> pairs = inPairs(rgb);
+        const u8v rgLo = pairs.rg[0][0], bgLo = pairs.bg[0][0], rgHi = pairs.rg[0][1], bgHi = pairs.bg[0][1];
         constexpr Weights x = {13515, 11717, 5912};
         return {{{packUnsigned((s16v)(weigh<x>(rgLo, bgLo) >> 7), (s16v)(weigh<x>(rgHi, bgHi) >> 7)),
                   packWhole(weigh<y>(rgLo, bgLo), weigh<y>(rgHi, bgHi)),

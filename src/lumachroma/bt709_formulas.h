@@ -29,7 +29,7 @@ using Bt709FullToRgb = YccToRgb<bt709::fullToRgb>;
 
 // Full range 4:2:2, every sample limited to 1..254. The constant of Cr is 2 less than that of Cb.
 struct RgbToBt709Full_422 {
-    [[gnu::always_inline]] Subsampled<1> operator()(const Pixels<3>& rgb) const
+    [[gnu::always_inline]] Subsampled<1> operator()(const RgbBytes<1> auto& rgb) const
     {
         using Unlimited = RgbToSubsampled<1, WeightedLuma<bt709::fullFromRgb.y, ycbcr::fullLuma>,
                                           YCbCrChroma<bt709::fullFromRgb, 2, ycbcr::chromaBias(2) - 2>>;
@@ -39,12 +39,13 @@ struct RgbToBt709Full_422 {
 
     // A pixel without a partner is a pair of two of it.
     struct Single {
-        [[gnu::always_inline]] Pixels<3> operator()(const Pixels<3>& rgb) const
+        [[gnu::always_inline]] Pixels<3> operator()(const RgbBytes<1> auto& rgb) const
         {
+            const Pixels<3> planes = inPlanes(rgb);
             Pixels<3> lo, hi; // every pixel twice
             for (int c = 0; c < 3; ++c) {
-                lo.c[0][c] = zipLow(rgb.c[0][c], rgb.c[0][c]);
-                hi.c[0][c] = zipHigh(rgb.c[0][c], rgb.c[0][c]);
+                lo.c[0][c] = zipLow(planes.c[0][c], planes.c[0][c]);
+                hi.c[0][c] = zipHigh(planes.c[0][c], planes.c[0][c]);
             }
             const RgbToBt709Full_422 ofPairs;
             const Subsampled<1> l = ofPairs(lo), h = ofPairs(hi);

@@ -34,9 +34,11 @@ namespace {
 // The constant of Cr is 2 less than that of Cb. An odd last pixel is taken for one in the other order.
 struct RgbToCbYCr422 : RgbToYCbCr422<bt601::fromRgb, YCbCrChroma<bt601::fromRgb, 2, ycbcr::chromaBias(2) - 2>> {
     struct Single {
-        [[gnu::always_inline]] Pixels<3> operator()(const Pixels<3>& rgb) const
+        [[gnu::always_inline]] Pixels<3> operator()(const RgbBytes<1> auto& rgb) const
         {
-            return RgbToBt601{}({{{rgb.c[0][2], rgb.c[0][1], rgb.c[0][0]}}});
+            RgbPairs<1> bgr = inPairs(rgb);
+            std::swap(bgr.rg, bgr.bg);
+            return RgbToBt601{}(bgr);
         }
     };
     Single single() const { return {}; }
@@ -68,14 +70,14 @@ struct RgbToCbYCr422Filtered {
     [[gnu::always_inline]] Subsampled<1> operator()(const RgbAndPrevious& p) const
     {
         constexpr Weights y = bt601::filtered.y, twice = {2 * y.r, 2 * y.g, 2 * y.b};
-        const auto [r, g, b] = p.rgb.c[0];
+        const RgbPairs<1> rgb = inPairs(p.rgb);
         Pairs pairs[3];
         for (int c = 0; c < 3; ++c) {
             const s16v odd = secondOfPairs(p.rgb.c[0][c]), beside = odd + shiftIn(odd, p.previous[c]);
             pairs[c] = {(s16v)zipLow(firstOfPairs(p.rgb.c[0][c]), beside),
                         (s16v)zipHigh(firstOfPairs(p.rgb.c[0][c]), beside)};
         }
-        return {{WeightedLuma<twice, ycbcr::studioLuma>::of(r, g, b)},
+        return {{WeightedLuma<twice, ycbcr::studioLuma>::of(rgb.rg[0], rgb.bg[0])},
                 packUnsigned(chroma<bt601::filtered.cb, bt601::filtered.cbBeside>(pairs),
                              chroma<bt601::filtered.cr, bt601::filtered.crBeside>(pairs))};
     }

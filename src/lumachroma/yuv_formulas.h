@@ -39,10 +39,10 @@ namespace {
 // ((B << 16) - s + 32767) >> 16 = B - ((s + 32768) >> 16): B less the rounded luma; likewise to R. 8.8 fixed point
 // holds both lumas, as 32768 is a multiple of its unit.
 struct RgbToYuv {
-    [[gnu::always_inline]] Pixels<3> operator()(const Pixels<3>& rgb) const
+    [[gnu::always_inline]] Pixels<3> operator()(const RgbBytes<1> auto& rgb) const
     {
-        const auto [r, g, b] = rgb.c[0];
-        const Half lo = half(zipLow(r, g), zipLow(b, g)), hi = half(zipHigh(r, g), zipHigh(b, g));
+        const RgbPairs<1> pairs = inPairs(rgb);
+        const Half lo = half(pairs.rg[0][0], pairs.bg[0][0]), hi = half(pairs.rg[0][1], pairs.bg[0][1]);
         return {{{packWhole(lo.y, hi.y), packAround128(lo.u, hi.u), packAround128(lo.v, hi.v)}}};
     }
 
@@ -66,10 +66,9 @@ private:
 template <bool blockLuma> struct MatrixToYuv {
     [[gnu::always_inline]] Pixels<3> operator()(const Pixels<3>& rgb) const
     {
-        const auto [r, g, b] = rgb.c[0];
-        const u8v rgLo = zipLow(r, g), bgLo = zipLow(b, g), rgHi = zipHigh(r, g), bgHi = zipHigh(b, g);
-        return {{{packWhole(luma(rgLo, bgLo), luma(rgHi, bgHi)), chroma<yuv::planarU>(rgLo, bgLo, rgHi, bgHi),
-                  chroma<yuv::planarV>(rgLo, bgLo, rgHi, bgHi)}}};
+        const auto [rg, bg] = inPairs(rgb);
+        return {{{packWhole(luma(rg[0][0], bg[0][0]), luma(rg[0][1], bg[0][1])), chroma<yuv::planarU>(rg[0], bg[0]),
+                  chroma<yuv::planarV>(rg[0], bg[0])}}};
     }
 
 private:
@@ -84,9 +83,9 @@ private:
     }
 
     // Weights are in units of 1/32768.
-    template <Weights w> ZORCC_INLINE u8v chroma(u8v rgLo, u8v bgLo, u8v rgHi, u8v bgHi)
+    template <Weights w> ZORCC_INLINE u8v chroma(const u8v (&rg)[2], const u8v (&bg)[2])
     {
-        return packAround128((s16v)weigh<w>(rgLo, bgLo) >> 7, (s16v)weigh<w>(rgHi, bgHi) >> 7);
+        return packAround128((s16v)weigh<w>(rg[0], bg[0]) >> 7, (s16v)weigh<w>(rg[1], bg[1]) >> 7);
     }
 };
 

@@ -44,7 +44,8 @@ template <class Formula, class Sample = uint8_t> struct WithAlpha {
     Sample alpha;
     Formula formula{};
 
-    template <class Source> [[gnu::always_inline]] auto operator()(const Source& source) const
+    template <class Source>
+    [[gnu::always_inline]] auto operator()(const Source& source) const requires Takes<Formula, Source>
     {
         return withAlpha(formula(source), alpha);
     }

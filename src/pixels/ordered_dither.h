@@ -111,7 +111,8 @@ template <FieldBits bits, class Formula> struct Dithered {
     [[gnu::always_inline]] Dithered at(int column) const { return {formula, column % dither::side, y}; }
     auto single() const { return Dithered<bits, decltype(singleOf(formula))>{singleOf(formula), x, y}; }
 
-    template <class Source> [[gnu::always_inline]] auto operator()(const Source& source) const
+    template <class Source>
+    [[gnu::always_inline]] auto operator()(const Source& source) const requires Takes<Formula, Source>
     {
         return fieldsOf(inBytes(formula(source)));
     }

@@ -97,6 +97,12 @@ template <class Layout> struct TwoRows : decltype(twice(typename Layout::Base{})
 
 // ---- formulas -------------------------------------------------------------------------------------------------------
 
+template <class Formula, class Loaded>
+concept Takes = requires(const Formula& formula, const Loaded& pixels)
+{
+    formula(pixels);
+};
+
 // Some formulas work in two steps, `prepare` (what comes before their divisions) and the call. The walk prepares the
 // next vector before it finishes the current one: work for while divisions last, 10 to 25 % here. Others lose by it.
 template <class Formula, class Loaded>

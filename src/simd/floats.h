@@ -108,6 +108,14 @@ template <int divisor> ZORCC_INLINE f32v divideBy(f32v v)
     return v / by.value;
 }
 
+// ---- order within blocks --------------------------------------------------------------------------------------------
+
+// Per block: elements a and b of one vector, c and d of the other.
+template <int a, int b, int c, int d> ZORCC_INLINE f32v pick(f32v v, f32v w)
+{
+    return (f32v)ZORCC_MM(shuffle_ps)(reg(v), reg(w), _MM_SHUFFLE(d, c, b, a));
+}
+
 // ---- neighbours in a sequence of vectors ----------------------------------------------------------------------------
 
 // As many elements of the sequence a, b, from the given one on.

@@ -44,13 +44,19 @@ ZORCC_INLINE void fromBlocks(const u8v (&v)[2], u8v (&memory)[2])
 }
 
 #if !defined(ZORCC_TIER_avx512) // which loads and stores whole vectors and permutes them
-template <int count> ZORCC_INLINE u8v loadBlocks(const uint8_t* p, int k)
+// A block at p, the next at p + `apart`.
+template <int apart> ZORCC_INLINE u8v loadBlocksApart(const uint8_t* p)
 {
     #if defined(ZORCC_TIER_avx2)
-    return (u8v)_mm256_loadu2_m128i((const __m128i*)(p + 16 * (count + k)), (const __m128i*)(p + 16 * k));
+    return (u8v)_mm256_loadu2_m128i((const __m128i*)(p + apart), (const __m128i*)p);
     #else
-    return load(p + 16 * k);
+    return load(p);
     #endif
+}
+
+template <int count> ZORCC_INLINE u8v loadBlocks(const uint8_t* p, int k)
+{
+    return loadBlocksApart<16 * count>(p + 16 * k);
 }
 
 template <int count> ZORCC_INLINE void storeBlocks(uint8_t* p, int k, u8v v)
@@ -225,12 +231,6 @@ template <Columns columns, class V> ZORCC_INLINE void interleave(uint8_t* p, con
     u8v v[3];
     for (int k = 0; k < 3; ++k) v[k] = interleavedThird<columns>(channel, k);
     storeBlocks(p, v);
-}
-
-// Floats, two of one vector and two of another at a time.
-template <int a, int b, int c, int d> ZORCC_INLINE f32v pick(f32v v, f32v w)
-{
-    return (f32v)ZORCC_MM(shuffle_ps)(reg(v), reg(w), _MM_SHUFFLE(d, c, b, a));
 }
 
 ZORCC_INLINE void deinterleave(const uint8_t* p, f32v (&channel)[3])

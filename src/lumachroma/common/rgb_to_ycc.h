@@ -4,7 +4,7 @@
 #pragma once
 
 #include "lumachroma/common/weighted_sums.h"
-#include "pixels/layouts.h"
+#include "pixels/byte_pairs.h"
 
 namespace zorcc::ycbcr {
 
@@ -28,13 +28,16 @@ namespace {
 
 // A matrix whose results need no clamp: each channel is (weighted sum + bias) >> 16.
 template <Weights y, int yBias, Weights first, Weights second, int chromaBias> struct MatrixToYcc {
-    [[gnu::always_inline]] Pixels<3> operator()(const Pixels<3>& rgb) const
+    [[gnu::always_inline]] Pixels<3> operator()(const RgbBytes<1> auto& rgb) const
     {
-        const auto [r, g, b] = rgb.c[0];
-        const u8v rgLo = zipLow(r, g), bgLo = zipLow(b, g), rgHi = zipHigh(r, g), bgHi = zipHigh(b, g);
-        return {{{packWhole(weigh<y, yBias>(rgLo, bgLo), weigh<y, yBias>(rgHi, bgHi)),
-                  packWhole(weigh<first, chromaBias>(rgLo, bgLo), weigh<first, chromaBias>(rgHi, bgHi)),
-                  packWhole(weigh<second, chromaBias>(rgLo, bgLo), weigh<second, chromaBias>(rgHi, bgHi))}}};
+        const RgbPairs<1> pairs = inPairs(rgb);
+        return {{{channel<y, yBias>(pairs), channel<first, chromaBias>(pairs), channel<second, chromaBias>(pairs)}}};
+    }
+
+private:
+    template <Weights w, int bias> ZORCC_INLINE u8v channel(const RgbPairs<1>& rgb)
+    {
+        return packWhole(weigh<w, bias>(rgb.rg[0][0], rgb.bg[0][0]), weigh<w, bias>(rgb.rg[0][1], rgb.bg[0][1]));
     }
 };
 
@@ -42,22 +45,25 @@ template <Weights y, int yBias, Weights first, Weights second, int chromaBias> s
 
 // Two columns share chroma, or four: then the first of their two pairs gets it.
 template <int rows, class Luma, class Chroma, int columns = 2> struct RgbToSubsampled {
-    [[gnu::always_inline]] Subsampled<rows> operator()(const Pixels<3, rows>& rgb) const
+    [[gnu::always_inline]] Subsampled<rows> operator()(const RgbBytes<rows> auto& rgb) const
     {
         Subsampled<rows> out;
-        s16v sum[3] = {};
-        for (int row = 0; row < rows; ++row) {
-            const auto [r, g, b] = rgb.c[row];
-            out.y[row] = Luma::of(r, g, b);
-            for (int c = 0; c < 3; ++c) sum[c] += mulAddPairs(rgb.c[row][c], fillPair8(1, 1));
-        }
-        if constexpr (columns == 4) {
-            const s16v ones = fill16(1);
-            out.chroma = Chroma::of(mulAddPairs(sum[0], ones), mulAddPairs(sum[1], ones), mulAddPairs(sum[2], ones));
-        } else {
-            out.chroma = Chroma::of(sum[0], sum[1], sum[2]);
-        }
+        const RgbPairs<rows> pairs = inPairs(rgb);
+        for (int row = 0; row < rows; ++row) out.y[row] = Luma::of(pairs.rg[row], pairs.bg[row]);
+        const ColumnSums sums = sumColumns(rgb);
+        if constexpr (columns == 4)
+            out.chroma = Chroma::of(sumOfNeighbours(sums.rg), sumOfNeighbours(sums.bg));
+        else
+            out.chroma = Chroma::of(sums);
         return out;
+    }
+
+private:
+    // Of the pairs of both vectors: the first and the second, the third and the fourth ...
+    ZORCC_INLINE s16v sumOfNeighbours(const s16v (&pairs)[2])
+    {
+        const f32v lo = (f32v)pairs[0], hi = (f32v)pairs[1];
+        return (s16v)pick<0, 2, 0, 2>(lo, hi) + (s16v)pick<1, 3, 1, 3>(lo, hi);
     }
 };
 
@@ -65,10 +71,10 @@ template <int rows, class Luma, class Chroma, int columns = 2> struct RgbToSubsa
 template <Weights w, int evenBias = 0, int oddBias = evenBias> struct WeightedLuma {
     static_assert(evenBias % 256 == 0 && oddBias % 256 == 0); // whole in 8.8 fixed point
 
-    ZORCC_INLINE u8v of(u8v r, u8v g, u8v b)
+    ZORCC_INLINE u8v of(const u8v (&rg)[2], const u8v (&bg)[2])
     {
         const u16v bias = (u16v)fillPair16(evenBias / 256, oddBias / 256);
-        return packWhole(weigh<w>(zipLow(r, g), zipLow(b, g)) + bias, weigh<w>(zipHigh(r, g), zipHigh(b, g)) + bias);
+        return packWhole(weigh<w>(rg[0], bg[0]) + bias, weigh<w>(rg[1], bg[1]) + bias);
     }
 };
 
@@ -76,13 +82,11 @@ template <Weights w, int evenBias = 0, int oddBias = evenBias> struct WeightedLu
 // by 65536, for which the caller makes up, or, above 32767, take a shift of their own.
 template <Weights w, int bias, int shift> class WeightedSums {
 public:
-    ZORCC_INLINE s16v of(s16v r, s16v g, s16v b)
+    ZORCC_INLINE s16v of(const ColumnSums& sums)
     {
-        return packSigned(sum(zipLow(r, g), zipLow(b, g)) >> shift, sum(zipHigh(r, g), zipHigh(b, g)) >> shift);
+        return packSigned(of(sums.rg[0], sums.bg[0]), of(sums.rg[1], sums.bg[1]));
     }
-
-    // Of sums in 32 bits.
-    ZORCC_INLINE s32v of(s32v r, s32v g, s32v b) { return sum((s16v)(r | g << 16), (s16v)b) >> shift; }
+    ZORCC_INLINE s32v of(s16v rg, s16v bg) { return sum(rg, bg) >> shift; }
 
 private:
     // weight * first + second * other, with a weight of up to 16 unsigned bits.
@@ -98,27 +102,35 @@ private:
 // By colour differences. With S the weighted sum and C the luma (S + bias) >> 16 of the pixels' sums, the first channel
 // is (sum of B - C) * u >> (16 + shift), the second the same with R and v.
 template <Weights luma, int bias, int u, int v, int shift> struct DifferenceChroma {
-    ZORCC_INLINE u8v of(s16v r, s16v g, s16v b)
+    ZORCC_INLINE u8v of(const ColumnSums& sums)
     {
         constexpr Weights rest = {luma.r, luma.g - 65536, luma.b}; // G itself makes up for the 65536
-        const s16v c = WeightedSums<rest, bias, 16>::of(r, g, b) + g;
+        const s16v r = first(sums.rg), b = first(sums.bg),
+                   g = packSigned((s32v)sums.rg[0] >> 16, (s32v)sums.rg[1] >> 16);
+        const s16v c = WeightedSums<rest, bias, 16>::of(sums) + g;
         return packAround128(scale<u>(b - c) >> shift, scale<v>(r - c) >> shift);
+    }
+
+private:
+    ZORCC_INLINE s16v first(const s16v (&pairs)[2])
+    {
+        return packSigned((s32v)pairs[0] & 0xffff, (s32v)pairs[1] & 0xffff);
     }
 };
 
 // By a matrix: each channel is (weighted sum + bias) >> shift.
 template <Weights first, int firstBias, Weights second, int secondBias, int shift> struct MatrixChroma {
-    ZORCC_INLINE u8v of(s16v r, s16v g, s16v b)
+    ZORCC_INLINE u8v of(const ColumnSums& sums)
     {
-        return packUnsigned(WeightedSums<first, firstBias, shift>::of(r, g, b),
-                            WeightedSums<second, secondBias, shift>::of(r, g, b));
+        return packUnsigned(WeightedSums<first, firstBias, shift>::of(sums),
+                            WeightedSums<second, secondBias, shift>::of(sums));
     }
 
     // In the even bytes alone.
-    ZORCC_INLINE u8v of(s32v r, s32v g, s32v b)
+    ZORCC_INLINE u8v of(s16v rg, s16v bg)
     {
-        return packUnsigned((s16v)WeightedSums<first, firstBias, shift>::of(r, g, b),
-                            (s16v)WeightedSums<second, secondBias, shift>::of(r, g, b));
+        return packUnsigned((s16v)WeightedSums<first, firstBias, shift>::of(rg, bg),
+                            (s16v)WeightedSums<second, secondBias, shift>::of(rg, bg));
     }
 };
 
