@@ -5,6 +5,7 @@
 
 #include "colormodels/common/cie.h"
 #include "colormodels/common/ranges.h"
+#include "simd/curve_table.h"
 
 namespace zorcc::cie {
 
@@ -78,31 +79,70 @@ template <> struct RgbToLuv<uint16_t> {
 template <> struct RgbToLuv<int16_t> : SignedSamples<RgbToLuv> {
 };
 
-// Lightness is that of Y rounded to a byte or, where that is below 32, to a quarter of a unit, and is rounded to a byte
-// or a quarter itself. Its 384 values have no tie that the error of a cube root could decide.
+// Lightness of bytes is that of Y rounded to a byte or, where that is below 32, to a quarter of a unit, and is rounded
+// to a byte or a quarter itself: one of 352 values. None of them is a tie that the error of a cube root could decide.
+struct LightnessCodes {
+    uint8_t low[256];
+    int from256; // the first Y whose code is 256 or more
+};
+
+// Of Y from `first` to `end`, both in units of 1 / parts; up to 511.
+template <int parts> constexpr LightnessCodes lightnessCodes(int first, int end)
+{
+    LightnessCodes codes = {};
+    for (int y = end - 1; y >= first; --y) {
+        const float l = cie::lightness(static_cast<float>(y) * (Range<uint8_t>::toUnit / parts));
+        const int code = static_cast<int>(l * (parts * 2.55f) + 0.5f);
+        codes.low[y] = static_cast<uint8_t>(code);
+        if (code >= 256) codes.from256 = y;
+    }
+    return codes;
+}
+
+// In quarters, from Y rounded to bytes and rounded to quarters, saturated.
+ZORCC_INLINE Floats<4> quartersOfLightness(u8v y, u8v quartersOfY)
+{
+    static constexpr LightnessCodes bytes = lightnessCodes<1>(32, 256), quarters = lightnessCodes<4>(0, 128);
+    static constexpr CurveTable ofBytes(bytes.low), ofQuarters(quarters.low);
+    u8v bright[] = {y}, dark[] = {quartersOfY};
+    lookUp(ofBytes, bright);
+    lookUp(ofQuarters, dark);
+    const u8v isDark = (u8v)(min(y, fill8(31)) == y),
+              isLarge = (u8v)(max(quartersOfY, fill8(quarters.from256)) == quartersOfY);
+    const u8v low = select(isDark, dark[0], shiftBytes<-2>(bright[0])),
+              high = select(isDark, isLarge & 1, shiftBytes<6>(bright[0]));
+    return asFloats(WideChannel<uint16_t>{{(u16v)zipLow(low, high), (u16v)zipHigh(low, high)}});
+}
+
 template <> struct RgbToLuv<uint8_t> {
     [[gnu::always_inline]] Samples<uint8_t> operator()(const Samples<uint8_t>& rgb) const
     {
-        const auto formula = [](f32v r, f32v g, f32v b) __attribute__((always_inline))
-        {
-            constexpr float toUnit = Range<uint8_t>::toUnit;
-            constexpr Divisor full(255);
-            const auto [x, y, z] = RgbToXyzFloats{}({{{r, g, b}}}).c[0];
-            const s32v isBright = y >= 31.5f; // rounds to 32 or more
-            const auto either = [&](float bright, float dark) __attribute__((always_inline))
-            {
-                return select(isBright, fillFloat(bright), fillFloat(dark));
-            };
-            const f32v level = toFloat(truncate(y * either(1, 4) + 0.5f)) * either(toUnit, toUnit / 4);
-            const f32v exact = lightness(level > cie::threshold, level, cubeRoot(level)) * either(2.55f, 4 * 2.55f);
-            const f32v l = toFloat(truncate(exact + 0.5f)) * either(1, 0.25f);
-            const auto [u, v] =
-                Chromaticity::ofIntegers(divideModerate(x, full), divideModerate(y, full), divideModerate(z, full));
-            // 13 of 1/2.55 of 255 of 354 units, and of 262; the codes of u* = v* = 0 with the half that rounds.
-            return Integers<3>{{truncate(l + 0.5f), truncate(l * 3.6723163f * (u - cie::luvWhite.u) + 97.02543f),
-                                truncate(l * 4.961832f * (v - cie::luvWhite.v) + 136.75955f)}};
-        };
-        return throughFloats<uint8_t>(formula, rgb.c[0][0], rgb.c[0][1], rgb.c[0][2]);
+        const auto [r, g, b] = rgb.c[0];
+        const Floats<4> red = asFloats(r), green = asFloats(g), blue = asFloats(b);
+        Floats<4> x, y, z;
+        Widened<4> bytes, quarters;
+        for (int p = 0; p < 4; ++p) {
+            const Samples<float> xyz = RgbToXyzFloats{}({{{red.part[p], green.part[p], blue.part[p]}}});
+            x.part[p] = xyz.c[0][0];
+            y.part[p] = xyz.c[0][1];
+            z.part[p] = xyz.c[0][2];
+            bytes.part[p] = truncate(y.part[p] + 0.5f);
+            quarters.part[p] = truncate(y.part[p] * 4 + 0.5f);
+        }
+        return throughFloats<uint8_t>(codes, x, y, z,
+                                      quartersOfLightness(narrow<uint8_t>(bytes), narrow<uint8_t>(quarters)));
+    }
+
+private:
+    ZORCC_INLINE Integers<3> codes(f32v x, f32v y, f32v z, f32v quarters)
+    {
+        constexpr Divisor full(255);
+        const f32v l = quarters * 0.25f;
+        const auto [u, v] =
+            Chromaticity::ofIntegers(divideModerate(x, full), divideModerate(y, full), divideModerate(z, full));
+        // 13 of 1/2.55 of 255 of 354 units, and of 262; the codes of u* = v* = 0 with the half that rounds.
+        return {{truncate(l + 0.5f), truncate(l * 3.6723163f * (u - cie::luvWhite.u) + 97.02543f),
+                 truncate(l * 4.961832f * (v - cie::luvWhite.v) + 136.75955f)}};
     }
 };
 

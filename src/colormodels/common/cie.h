@@ -16,6 +16,9 @@ inline constexpr Matrix xyzToRgb = {
 // Up to it the curves of lightness and of L*a*b* are lines.
 inline constexpr float threshold = 0.008856f;
 
+// L*, by Y in 0..1.
+constexpr float lightness(float y) { return y > threshold ? cubeRoot(y) * 116 - 16 : y * 903.3f; }
+
 } // namespace zorcc::cie
 
 namespace zorcc::ZORCC_TIER {
@@ -24,7 +27,7 @@ namespace {
 using RgbToXyzFloats = ByMatrix<cie::rgbToXyz>;
 using XyzToRgbFloats = ByMatrix<cie::xyzToRgb>;
 
-// L* where the root of Y, in 0..1, is wanted above the threshold.
+// The same where the root of Y is wanted above the threshold.
 ZORCC_INLINE f32v lightness(s32v isAbove, f32v y, f32v root) { return select(isAbove, root * 116 - 16, y * 903.3f); }
 
 } // namespace
