@@ -32,18 +32,15 @@ template <class Curve> struct WordCurve {
 
     ZORCC_INLINE u16v of(u16v words)
     {
-        Widened<2> wide = widen(words);
-        for (s32v& part : wide.part) part = of(part);
-        return narrow<uint16_t>(wide);
+        const Doubles<4> v = toDoubles(toFloat(widen(words)));
+        const Floats<2> raised = toFloat(curveAt<Curve>(v * 1.5259021896696422e-5, v, 65535, 0.5));
+        return narrow<uint16_t>({{round(raised.part[0]), round(raised.part[1])}});
     }
 
 private:
-    // To nearest, ties to even: rounded upwards, and back down where that has made an odd number of a tie.
-    ZORCC_INLINE s32v of(s32v words)
+    // To nearest, ties to even, what a half has been added to: back down where that has made an odd number of a tie.
+    ZORCC_INLINE s32v round(f32v raised)
     {
-        Doubles v = toDoubles(toFloat(words));
-        for (f64v& half : v.half) half = curveAt<Curve>(f64v{half * 1.5259021896696422e-5}, half, 65535, 0.5);
-        const f32v raised = toFloat(v);
         const s32v rounded = truncate(raised);
         return rounded - (rounded & 1 & (raised == toFloat(rounded)));
     }
@@ -61,23 +58,25 @@ template <class Curve> struct FloatCurve {
 
     template <int count> [[gnu::always_inline]] Vectors<count> operator()(const Vectors<count>& floats) const
     {
-        return collect<count>([&](auto k) __attribute__((always_inline)) { return (u8v)of((f32v)floats.v[k]); });
+        Floats<count> curved;
+        for (int k = 0; k < count; ++k) curved.part[k] = (f32v)floats.v[k];
+        curved = of(curved);
+        return collect<count>([&](auto k) __attribute__((always_inline)) { return (u8v)curved.part[k]; });
     }
 
 private:
     struct Finite : Curve {
         // Of infinity and NaN, which have no digits, the power is what they are.
-        ZORCC_INLINE f64v aboveKnee(const f64v& x) { return x < 0x1p1000 ? Curve::aboveKnee(x) : x; }
+        template <int count> ZORCC_INLINE Doubles<count> aboveKnee(const Doubles<count>& x)
+        {
+            return selectBelow(x, 0x1p1000, Curve::aboveKnee(x), x);
+        }
     };
 
-    [[gnu::always_inline]] f32v of(f32v floats) const
+    template <int count> [[gnu::always_inline]] Floats<count> of(const Floats<count>& floats) const
     {
-        Doubles v = toDoubles(floats);
-        for (f64v& half : v.half) {
-            const f64v above = half - low;
-            half = curveAt<Finite>(f64v{above * reciprocal}, above, length, low);
-        }
-        return toFloat(v);
+        const Doubles<2 * count> above = toDoubles(floats) - low;
+        return toFloat(curveAt<Finite>(above * reciprocal, above, length, low));
     }
 };
 

@@ -82,8 +82,8 @@ constexpr auto byteOf = each([](int i) { return allBytes.of[i] ^ allBytes.of[255
 // Digits that single precision has not.
 ZORCC_INLINE f32v thirds(f32v v)
 {
-    Doubles d = toDoubles(finite(v));
-    for (f64v& half : d.half) half = half / 3 + half;
+    Doubles<2> d = toDoubles(finite(v));
+    d = d / 3 + d;
     return toFloat(d);
 }
 constexpr auto third = each([](float v) { return static_cast<float>(finite(double{v}) / 3 + finite(double{v})); });
@@ -179,7 +179,8 @@ constexpr Operation operations[] = {
 const test::Operations floatsOperations = table(operations);
 // Of doubles; the elements are powers of numbers, not of vectors.
 const test::Operation powers = operation<f64v>(
-    "power", [](f64v v) { return power(v, 2.2); }, each([](double v) { return power(v, 2.2); }));
+    "power", [](f64v v) { return power(Lockstep<double, 1>{{v}}, 2.2).v[0]; },
+    each([](double v) { return power(v, 2.2); }));
 const test::Operation labCurves =
     ZORCC_OPERATION(labCurve, each([](float v) { return integer(v); }), f32v); // compared in a test of its own
 

@@ -8,19 +8,26 @@
 namespace zorcc::ZORCC_TIER {
 namespace {
 
-template <class V> struct BitsOf {
-    using Type = u64v;
-};
+template <class V> struct BitsOf;
 template <> struct BitsOf<double> {
     using Type = uint64_t;
 };
+template <int count> struct BitsOf<Lockstep<double, count>> {
+    using Type = Lockstep<uint64_t, count>;
+};
 
-// c[0] + c[1] x + c[2] x^2 ...
+// c[0] + c[1] x + c[2] x^2 ... of an even number of terms, in two chains, one half as long as Horner's, since what
+// follows waits for it.
 template <class V, size_t count> [[gnu::always_inline]] constexpr V polynomial(const V& x, const double (&c)[count])
 {
-    V sum = x * c[count - 1] + c[count - 2];
-    for (size_t i = count - 2; i-- > 0;) sum = sum * x + c[i];
-    return sum;
+    static_assert(count % 2 == 0 && count > 2);
+    const V square = x * x;
+    V even = square * c[count - 2] + c[count - 4], odd = square * c[count - 1] + c[count - 3];
+    for (size_t i = count - 4; i > 0; i -= 2) {
+        even = even * square + c[i - 2];
+        odd = odd * square + c[i - 1];
+    }
+    return odd * x + even;
 }
 
 // x^exponent of normal numbers above 0 whose power is one, too, for exponents up to 2.3. The relative error is below
@@ -51,7 +58,7 @@ template <class V> [[gnu::always_inline]] constexpr V power(const V& x, double e
     const V m = __builtin_bit_cast(V, bits - (biased << significand) + one);
     const V k = __builtin_bit_cast(V, biased | integer) - (0x1p52 + 1023);
     const V s = (m - 1.0) / (m + 1.0);
-    const V y = (s * polynomial(V{s * s}, artanh) + k) * exponent;
+    const V y = (s * polynomial(V(s * s), artanh) + k) * exponent;
     const V shifted = y + 0x1.8p52; // its lowest bits are n
     const V f = y - (shifted - 0x1.8p52);
     return __builtin_bit_cast(V, __builtin_bit_cast(Bits, polynomial(f, exp2)) +

@@ -17,7 +17,7 @@ struct Forward {
 
     template <class V> [[gnu::always_inline]] static constexpr V aboveKnee(const V& x)
     {
-        return 1.099 * power(x, 0.45) - 0.099;
+        return power(x, 0.45) * 1.099 - 0.099;
     }
 };
 
@@ -35,7 +35,7 @@ template <class Curve, class V>
 [[gnu::always_inline]] constexpr V curveAt(const V& x, const V& v, double length, double offset)
 {
     const V line = v * Curve::slope + offset, curved = Curve::aboveKnee(x) * length + offset;
-    return x < Curve::knee ? line : curved;
+    return selectBelow(x, Curve::knee, line, curved);
 }
 
 // ---- bytes ----------------------------------------------------------------------------------------------------------
