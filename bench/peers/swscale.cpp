@@ -57,13 +57,14 @@ Work prepare(const Job& job)
 
 } // namespace
 
-// It converts between any two formats that it knows; the forms without steps would only measure the same again.
+// It converts between any two formats that it knows, and copies where they are one; the forms without steps would only
+// measure the same again.
 Library swscale()
 {
     Library library{"libswscale " AV_STRINGIFY(LIBSWSCALE_VERSION), {}};
     for (const Function& function : interface::functions()) {
         const AVPixelFormat from = pixelFormat(*function.source), to = pixelFormat(*function.destination);
-        if (from == AV_PIX_FMT_NONE || to == AV_PIX_FMT_NONE || !function.signature.steps) continue;
+        if (from == AV_PIX_FMT_NONE || to == AV_PIX_FMT_NONE || from == to || !function.signature.steps) continue;
         library.peers.push_back(
             {function.name, std::string("libswscale ") + av_get_pix_fmt_name(from) + " > " + av_get_pix_fmt_name(to),
              prepare});
