@@ -48,7 +48,7 @@ constexpr auto shuffled = [](int i, const auto& v, int index) {
 #define SHIFT(count)                                                                                                   \
     operation<u8v>(                                                                                                    \
         "shiftBytes " #count, [](u8v v) { return shiftBytes<count>(v); },                                              \
-        each([](int a) { return count < 0 ? a << -(count) : a >> (count); }))
+        each([](int a) { return a * 256 >> ((count) + 8); }))
 
 constexpr Operation operations[] = {
     ZORCC_OF_TWO(ARITHMETIC, u8v, u16v),
