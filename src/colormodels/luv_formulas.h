@@ -104,13 +104,11 @@ ZORCC_INLINE Floats<4> quartersOfLightness(u8v y, u8v quartersOfY)
 {
     static constexpr LightnessCodes bytes = lightnessCodes<1>(32, 256), quarters = lightnessCodes<4>(0, 128);
     static constexpr CurveTable ofBytes(bytes.low), ofQuarters(quarters.low);
-    u8v bright[] = {y}, dark[] = {quartersOfY};
-    lookUp(ofBytes, bright);
-    lookUp(ofQuarters, dark);
+    const u8v bright = lookUp(ofBytes, y), dark = lookUp(ofQuarters, quartersOfY);
     const u8v isDark = (u8v)(min(y, fill8(31)) == y),
               isLarge = (u8v)(max(quartersOfY, fill8(quarters.from256)) == quartersOfY);
-    const u8v low = select(isDark, dark[0], shiftBytes<-2>(bright[0])),
-              high = select(isDark, isLarge & 1, shiftBytes<6>(bright[0]));
+    const u8v low = select(isDark, dark, shiftBytes<-2>(bright)),
+              high = select(isDark, isLarge & 1, shiftBytes<6>(bright));
     return asFloats(WideChannel<uint16_t>{{(u16v)zipLow(low, high), (u16v)zipHigh(low, high)}});
 }
 

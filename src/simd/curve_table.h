@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Bytes by bytes, for smooth curves: of most blocks of sixteen a line gives every byte.
+// Bytes by bytes, for smooth curves.
 #pragma once
 
 #include "simd/lookup.h"
@@ -8,8 +8,26 @@ namespace zorcc::ZORCC_TIER {
 namespace {
 
 #if defined(ZORCC_TIER_avx512)
-using CurveTable = ByteTable; // two permutations find a byte among all
+// All bytes, in four vectors.
+struct CurveTable {
+    alignas(64) uint8_t of[256];
+
+    constexpr explicit CurveTable(const uint8_t (&bytes)[256]) : of{}
+    {
+        for (int i = 0; i < 256; ++i) of[i] = bytes[i];
+    }
+};
+
+ZORCC_INLINE u8v lookUp(const CurveTable& table, u8v index)
+{
+    const __m512i i = reg(index);
+    const __m512i quarter[] = {reg(load(table.of)), reg(load(table.of + 64)), reg(load(table.of + 128)),
+                               reg(load(table.of + 192))};
+    return (u8v)_mm512_mask_mov_epi8(_mm512_permutex2var_epi8(quarter[0], i, quarter[1]), _mm512_movepi8_mask(i),
+                                     _mm512_permutex2var_epi8(quarter[2], i, quarter[3]));
+}
 #else
+// Lines that give the bytes of most blocks of sixteen.
 struct CurveTable {
     // Byte i of a block is whole + ((slope i + part) >> 6).
     alignas(16) uint8_t whole[16], part[16], slope[16];
@@ -62,12 +80,12 @@ ZORCC_INLINE u8v lookUp(const CurveTable& table, u8v index)
         found |= shuffle(fillBlock(loadBlock(table.other[k])), addSaturate(index ^ table.firstOfOther[k], fill8(0x70)));
     return found;
 }
+#endif
 
 template <int count> ZORCC_INLINE void lookUp(const CurveTable& table, u8v (&v)[count])
 {
     for (u8v& index : v) index = lookUp(table, index);
 }
-#endif
 
 } // namespace
 } // namespace zorcc::ZORCC_TIER

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Constants by an index in every lane: one of 8, and for bytes one of 256.
+// Constants by an index in every lane: one of 8.
 #pragma once
 
 #include "simd/floats.h"
@@ -67,52 +67,6 @@ template <class V> ZORCC_INLINE auto lookUp(const Table<float>& table, V index)
     return f;
 }
 #endif
-
-// ---- one of 256 bytes -----------------------------------------------------------------------------------------------
-
-// In the form that a tier looks bytes up in. A block is 16 of them.
-struct ByteTable {
-    alignas(64) uint8_t of[256];
-
-    constexpr explicit ByteTable(const uint8_t (&bytes)[256]) : of{}
-    {
-        for (int i = 0; i < 256; ++i) of[i] = bytes[i];
-#if !defined(ZORCC_TIER_avx512)
-        for (int i = 255; i >= 16; --i)
-            if (i % 128 >= 16) of[i] ^= of[i - 16]; // what changes from block to block of each half
-#endif
-    }
-};
-
-// Of several vectors of indices, each in turn replaced by its bytes.
-template <int count> ZORCC_INLINE void lookUp(const ByteTable& table, u8v (&v)[count])
-{
-#if defined(ZORCC_TIER_avx512)
-    const __m512i quarter[] = {reg(load(table.of)), reg(load(table.of + 64)), reg(load(table.of + 128)),
-                               reg(load(table.of + 192))};
-    for (u8v& index : v) {
-        const __m512i i = reg(index);
-        index = (u8v)_mm512_mask_mov_epi8(_mm512_permutex2var_epi8(quarter[0], i, quarter[1]), _mm512_movepi8_mask(i),
-                                          _mm512_permutex2var_epi8(quarter[2], i, quarter[3]));
-    }
-#else
-    // An index that counts from the beginning of a block is negative before it, where a shuffle gives 0. So the changes
-    // of all blocks up to its own come together, and then none, as those of the other half are never reached.
-    u8v result[count] = {};
-    for (int half = 0; half < 2; ++half) {
-        s8v index[count];
-        for (int k = 0; k < count; ++k) index[k] = (s8v)(half == 0 ? v[k] : v[k] ^ 0x80);
-        for (int block = 0; block < 8; ++block) {
-            const u8v change = fillBlock(loadBlock(table.of + 128 * half + 16 * block));
-            for (int k = 0; k < count; ++k) {
-                if (block > 0) index[k] = subSaturate(index[k], (s8v)fill8(16));
-                result[k] ^= shuffle(change, (u8v)index[k]);
-            }
-        }
-    }
-    for (int k = 0; k < count; ++k) v[k] = result[k];
-#endif
-}
 
 } // namespace
 } // namespace zorcc::ZORCC_TIER

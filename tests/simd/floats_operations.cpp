@@ -51,13 +51,6 @@ constexpr AllBytes allBytes = [] { // each once, in no simple order
     for (int i = 0; i < 256; ++i) all.of[i] = static_cast<uint8_t>(i * (i + 1) / 2);
     return all;
 }();
-constexpr ByteTable byteTable(allBytes.of);
-ZORCC_INLINE u8v lookUpAll(u8v index)
-{
-    u8v two[] = {index, ~index};
-    lookUp(byteTable, two);
-    return two[0] ^ (two[1] << 1);
-}
 
 // A curve whose first blocks no line fits, and bytes that none does.
 constexpr AllBytes smoothBytes = [] {
@@ -69,15 +62,8 @@ constexpr AllBytes smoothBytes = [] {
     return curve;
 }();
 constexpr CurveTable smooth(smoothBytes.of), rough(allBytes.of);
-ZORCC_INLINE u8v lookUpCurves(u8v index)
-{
-    u8v onSmooth[] = {index}, onRough[] = {index};
-    lookUp(smooth, onSmooth);
-    lookUp(rough, onRough);
-    return onSmooth[0] ^ (onRough[0] << 1);
-}
+ZORCC_INLINE u8v lookUpCurves(u8v index) { return lookUp(smooth, index) ^ (lookUp(rough, index) << 1); }
 constexpr auto curvesOf = each([](int i) { return smoothBytes.of[i] ^ allBytes.of[i] << 1; });
-constexpr auto byteOf = each([](int i) { return allBytes.of[i] ^ allBytes.of[255 - i] << 1; });
 
 // Digits that single precision has not.
 ZORCC_INLINE f32v thirds(f32v v)
@@ -165,7 +151,6 @@ constexpr Operation operations[] = {
     ZORCC_OF_TWO(WORD_PAIRS, 3, 4),
     ZORCC_OF_THREE(SAMPLES, uint8_t, uint16_t, int16_t),
     ZORCC_OPERATION(thirds, third, f32v),
-    ZORCC_OPERATION(lookUpAll, byteOf, u8v),
     ZORCC_OPERATION(lookUpCurves, curvesOf, u8v),
     ZORCC_OPERATION(lookUpIn<bytes>, each([](int i) { return bytes.of[i & 7]; }), u8v),
     ZORCC_OPERATION(lookUpIn<bytes>, each([](int i) { return 257 * bytes.of[i & 7]; }), u16v),
