@@ -91,7 +91,8 @@ template <int parts> constexpr LightnessCodes lightnessCodes(int first, int end)
 {
     LightnessCodes codes = {};
     for (int y = end - 1; y >= first; --y) {
-        const float l = cie::lightness(static_cast<float>(y) * (Range<uint8_t>::toUnit / parts));
+        const float level = static_cast<float>(y) * (Range<uint8_t>::toUnit / parts);
+        const float l = lightness(level > cie::threshold, level, zorcc::cubeRoot(level));
         const int code = static_cast<int>(l * (parts * 2.55f) + 0.5f);
         codes.low[y] = static_cast<uint8_t>(code);
         if (code >= 256) codes.from256 = y;

@@ -101,37 +101,28 @@ constexpr Block pairsOfFour(int bytes, int start, Order order)
     return pairs;
 }
 
-// Interleaved channels that are loaded as pairs. Of three channels the last four pixels of a block are at the end of
-// what is loaded for them, so that no load passes the pixels.
+// Interleaved channels that are loaded as pairs.
 template <int perPixel, Order order> struct InPairs : Interleaved<uint8_t, perPixel, 3, order> {
     [[gnu::always_inline]] RgbPairs<1> load(int x) const
     {
-        static constexpr int early = 16 - 4 * perPixel;
-        static constexpr Block usual = pairsOfFour(perPixel, 0, order), last = pairsOfFour(perPixel, early, order);
+        static constexpr Block usual = pairsOfFour(perPixel, 0, order),
+                               last = pairsOfFour(perPixel, firstOfFour<perPixel>(3), order);
         u64v four[4];
-        for (int k = 0; k < 4; ++k) {
-            const uint8_t* const p = this->at(0, x) + 4 * perPixel * k - (k == 3 ? early : 0);
-            four[k] = (u64v)shuffle(loadBlocksApart<16 * perPixel>(p), k == 3 ? last : usual);
-        }
+        for (int k = 0; k < 4; ++k)
+            four[k] = (u64v)shuffle(loadFours<perPixel>(this->at(0, x), k), k == 3 ? last : usual);
         return {{{(u8v)zipLow(four[0], four[1]), (u8v)zipLow(four[2], four[3])}},
                 {{(u8v)zipHigh(four[0], four[1]), (u8v)zipHigh(four[2], four[3])}}};
     }
 };
 
-template <class Formula>
-concept TakesPairs = Takes<Formula, RgbPairs<1>> || Takes<Formula, RgbPairs<2>>;
+template <class Formula> constexpr bool takesPairs = Takes<Formula, RgbPairs<1>> || Takes<Formula, RgbPairs<2>>;
+template <int pixels, class Blocks, class Rest>
+constexpr bool takesPairs<InBlocks<pixels, Blocks, Rest>> = takesPairs<Blocks>&& takesPairs<Rest>;
 
-template <int perPixel, Order order, TakesPairs By, class To>
-struct OnThisTier<Interleaved<uint8_t, perPixel, 3, order>, By, To> {
+template <int perPixel, Order order, class By, class To>
+requires(takesPairs<By>) struct OnThisTier<Interleaved<uint8_t, perPixel, 3, order>, By, To> {
     using Source = InPairs<perPixel, order>;
     using Formula = By;
-    using Destination = To;
-};
-
-template <int perPixel, Order order, int pixels, TakesPairs Blocks, class Rest, class To>
-struct OnThisTier<Interleaved<uint8_t, perPixel, 3, order>, InBlocks<pixels, Blocks, Rest>, To> {
-    using Source = InPairs<perPixel, order>;
-    using Formula = InBlocks<pixels, Blocks, Rest>;
     using Destination = To;
 };
 

@@ -54,6 +54,14 @@ template <int apart> ZORCC_INLINE u8v loadBlocksApart(const uint8_t* p)
     #endif
 }
 
+// Of every 16 pixels of `bytes` bytes the four from 4 part on, a block each. They begin at byte firstOfFour of it: the
+// last ones of three bytes are at its end, so that no load passes the pixels.
+template <int bytes> constexpr int firstOfFour(int part) { return part == 3 ? 16 - 4 * bytes : 0; }
+template <int bytes> ZORCC_INLINE u8v loadFours(const uint8_t* p, int part)
+{
+    return loadBlocksApart<16 * bytes>(p + 4 * bytes * part - firstOfFour<bytes>(part));
+}
+
 template <int count> ZORCC_INLINE u8v loadBlocks(const uint8_t* p, int k)
 {
     return loadBlocksApart<16 * count>(p + 16 * k);

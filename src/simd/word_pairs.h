@@ -2,8 +2,7 @@
 // Interleaved bytes to 16-bit elements in pairs, for multiply-adds of pairs: each pixel in a 32-bit lane of its own.
 #pragma once
 
-#include "simd/floats.h"
-#include "simd/order.h"
+#include "simd/interleave.h"
 
 namespace zorcc::ZORCC_TIER {
 namespace {
@@ -13,7 +12,7 @@ struct WordPairs {
     s16v first[4], second[4];
 };
 
-// Bytes of 16 bytes, or of 64, that hold pixels from byte `start` on, for elements of each lane; none: a zero.
+// Bytes of a block, or of a vector, that holds pixels from byte `start` on, for elements of each lane; none: a zero.
 template <int lanesAtOnce> struct WordPairTable {
     alignas(64) uint8_t first[4 * lanesAtOnce], second[4 * lanesAtOnce];
 
@@ -28,46 +27,31 @@ template <int lanesAtOnce> struct WordPairTable {
     }
 };
 
-// Pixels of `bytes` bytes, 3 or 4. The last pixels of three bytes are taken from the end of the memory, so that no load
-// passes it.
+// Pixels of `bytes` bytes, 3 or 4: in the order of memory on AVX-512, elsewhere in zip order.
 template <int bytes> ZORCC_INLINE WordPairs loadWordPairs(const uint8_t* p)
 {
-#if defined(ZORCC_TIER_avx512)
-    constexpr int window = 64, lanesAtOnce = 16;
-#else
-    constexpr int window = 16, lanesAtOnce = 4;
-#endif
-    constexpr int end = bytes * vectorBytes - window, shift = window - bytes * lanesAtOnce;
-    static constexpr WordPairTable<lanesAtOnce> usual(bytes, 0), last(bytes, shift);
     const s16v one = (s16v)fill32(0x10000);
     WordPairs pairs;
-    for (int part = 0; part < 4; ++part) {
 #if defined(ZORCC_TIER_avx512)
+    // The last pixels of three bytes are taken from the end of the memory, so that no load passes it.
+    constexpr int early = 64 - 16 * bytes;
+    static constexpr WordPairTable<16> usual(bytes, 0), last(bytes, early);
+    for (int part = 0; part < 4; ++part) {
         const auto& table = part == 3 ? last : usual;
-        const __m512i v = reg(load(p + (part == 3 ? end : bytes * lanesAtOnce * part)));
+        const __m512i v = reg(load(p + 16 * bytes * part - (part == 3 ? early : 0)));
         pairs.first[part] = (s16v)_mm512_maskz_permutexvar_epi8(0x5555555555555555, reg(load(table.first)), v);
         pairs.second[part] =
             (s16v)_mm512_mask_permutexvar_epi8(reg(one), 0x1111111111111111, reg(load(table.second)), v);
-#else
-        // In zip order: block b of a part begins at pixel 16 b + 4 part.
-        const auto placeOf = [](int pixel) { return pixel + 4 == vectorBytes ? end : bytes * pixel; };
-    #if defined(ZORCC_TIER_avx2)
-        const u8v v = (u8v)_mm256_loadu2_m128i((const __m128i*)(p + placeOf(16 + 4 * part)),
-                                               (const __m128i*)(p + placeOf(4 * part)));
-        const auto indices = [&](const uint8_t* lower, const uint8_t* upper) {
-            return (u8v)_mm256_loadu2_m128i((const __m128i*)upper, (const __m128i*)lower);
-        };
-        const auto& upper = part == 3 ? last : usual;
-        const u8v first = indices(usual.first, upper.first), second = indices(usual.second, upper.second);
-    #else
-        const u8v v = load(p + placeOf(4 * part));
-        const auto& table = part == 3 ? last : usual;
-        const u8v first = load(table.first), second = load(table.second);
-    #endif
-        pairs.first[part] = (s16v)shuffle(v, first);
-        pairs.second[part] = (s16v)shuffle(v, second) | one;
-#endif
     }
+#else
+    static constexpr WordPairTable<4> usual(bytes, 0), last(bytes, firstOfFour<bytes>(3));
+    for (int part = 0; part < 4; ++part) {
+        const auto& table = part == 3 ? last : usual;
+        const u8v v = loadFours<bytes>(p, part);
+        pairs.first[part] = (s16v)shuffle(v, fillBlock(loadBlock(table.first)));
+        pairs.second[part] = (s16v)shuffle(v, fillBlock(loadBlock(table.second))) | one;
+    }
+#endif
     return pairs;
 }
 

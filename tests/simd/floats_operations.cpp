@@ -66,13 +66,14 @@ ZORCC_INLINE u8v lookUpCurves(u8v index) { return lookUp(smooth, index) ^ (lookU
 constexpr auto curvesOf = each([](int i) { return smoothBytes.of[i] ^ allBytes.of[i] << 1; });
 
 // Digits that single precision has not.
-ZORCC_INLINE f32v thirds(f32v v)
+ZORCC_INLINE f32v plusThird(f32v v)
 {
     Doubles<2> d = toDoubles(finite(v));
     d = d / 3 + d;
     return toFloat(d);
 }
-constexpr auto third = each([](float v) { return static_cast<float>(finite(double{v}) / 3 + finite(double{v})); });
+constexpr auto plusThirdOf =
+    each([](float v) { return static_cast<float>(finite(double{v}) / 3 + finite(double{v})); });
 
 template <auto& table, class V> ZORCC_INLINE auto lookUpIn(V index) { return lookUp(table, (V)(index & 7)); }
 constexpr auto floatOf = [](int i, const auto& v) { return floats.of[widened(i, v) & 7]; };
@@ -150,7 +151,7 @@ constexpr Operation operations[] = {
     ZORCC_OF_TWO(INTEGERS, uint8_t, uint16_t),
     ZORCC_OF_TWO(WORD_PAIRS, 3, 4),
     ZORCC_OF_THREE(SAMPLES, uint8_t, uint16_t, int16_t),
-    ZORCC_OPERATION(thirds, third, f32v),
+    ZORCC_OPERATION(plusThird, plusThirdOf, f32v),
     ZORCC_OPERATION(lookUpCurves, curvesOf, u8v),
     ZORCC_OPERATION(lookUpIn<bytes>, each([](int i) { return bytes.of[i & 7]; }), u8v),
     ZORCC_OPERATION(lookUpIn<bytes>, each([](int i) { return 257 * bytes.of[i & 7]; }), u16v),

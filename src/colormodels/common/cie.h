@@ -16,9 +16,6 @@ inline constexpr Matrix xyzToRgb = {
 // Up to it the curves of lightness and of L*a*b* are lines.
 inline constexpr float threshold = 0.008856f;
 
-// L*, by Y in 0..1.
-constexpr float lightness(float y) { return y > threshold ? cubeRoot(y) * 116 - 16 : y * 903.3f; }
-
 } // namespace zorcc::cie
 
 namespace zorcc::ZORCC_TIER {
@@ -27,8 +24,11 @@ namespace {
 using RgbToXyzFloats = ByMatrix<cie::rgbToXyz>;
 using XyzToRgbFloats = ByMatrix<cie::xyzToRgb>;
 
-// The same where the root of Y is wanted above the threshold.
-ZORCC_INLINE f32v lightness(s32v isAbove, f32v y, f32v root) { return select(isAbove, root * 116 - 16, y * 903.3f); }
+// L* of Y in 0..1, whose root is wanted above the threshold; of vectors, and of numbers while this is compiled.
+template <class Mask, class V> [[gnu::always_inline]] constexpr V lightness(Mask isAbove, V y, V root)
+{
+    return isAbove ? root * 116 - 16 : y * 903.3f;
+}
 
 } // namespace
 } // namespace zorcc::ZORCC_TIER
