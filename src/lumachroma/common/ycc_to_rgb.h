@@ -3,6 +3,8 @@
 // (and two rows) share. Exact: the same bytes as the sums in 32 bits.
 #pragma once
 
+#include <algorithm>
+
 #include "lumachroma/common/weighted_sums.h"
 #include "pixels/alpha.h"
 #include "pixels/layouts.h"
@@ -131,19 +133,21 @@ public:
     [[gnu::always_inline]] Pixels<3, rows, Columns::evenThenOdd> operator()(const Subsampled<rows>& ycc) const
     {
         const u8v uv = zipHalves(ycc.chroma);
-        const Chroma chroma[3] = {chromaHalves<0, k.r, k.constantR>(uv), chromaHalves<-k.g1, -k.g2, k.constantG>(uv),
-                                  chromaHalves<k.b, 0, k.constantB>(uv)};
+        const s16v u = firstOfPairs(uv), v = secondOfPairs(uv);
+        const Chroma chroma[3] = {limited(halves<k.r, k.constantR>(v)),
+                                  limited(sum(halves<-k.g1, 0>(u), halves<-k.g2, k.constantG>(v))),
+                                  limited(halves<k.b, k.constantB>(u))};
         Pixels<3, rows, Columns::evenThenOdd> rgb;
         for (int row = 0; row < rows; ++row) {
-            const Luma even = lumaHalves(mulAddPairs(ycc.y[row], fillPair8(2, 0)));
-            const Luma odd = lumaHalves(mulAddPairs(ycc.y[row], fillPair8(0, 2)));
+            const Halves even = lumaHalves(mulAddPairs(ycc.y[row], fillPair8(2, 0)));
+            const Halves odd = lumaHalves(mulAddPairs(ycc.y[row], fillPair8(0, 2)));
             for (int c = 0; c < 3; ++c) rgb.c[row][c] = packUnsigned(whole(even, chroma[c]), whole(odd, chroma[c]));
         }
         return rgb;
     }
 
 private:
-    struct Luma {
+    struct Halves {
         s16v high;
         u16v low;
     };
@@ -153,25 +157,45 @@ private:
     };
 
     // From luma doubled, which brings its weight into 16 bits.
-    ZORCC_INLINE Luma lumaHalves(s16v twice)
+    ZORCC_INLINE Halves lumaHalves(s16v twice)
     {
         static_assert(k.y % 2 == 0);
         const u16v weight = (u16v)fill16(k.y / 2);
         return {(s16v)mulHigh((u16v)twice, weight), (u16v)twice * weight};
     }
 
-    template <int first, int second, int constant> ZORCC_INLINE Chroma chromaHalves(u8v uv)
+    // A weight times v, and a constant, as 65536 high + low. Of the weight as 65536 whole + rest, with an unsigned
+    // rest, the rest is multiplied by v + t, where rest t has the fraction of the constant: so both halves of that
+    // product are those of the sum. What is below `unit`, which divides the rest and the weight of luma, never carries.
+    template <int weight, int constant> ZORCC_INLINE Halves halves(s16v v)
     {
-        const s16v u = firstOfPairs(uv), v = secondOfPairs(uv);
-        const s16v rests = fillPair16(restOf(first), restOf(second));
-        const s32v lo = mulAddPairs(fill32(constant), (s16v)zipLow(uv, u8v{}), rests);
-        const s32v hi = mulAddPairs(fill32(constant), (s16v)zipHigh(uv, u8v{}), rests);
-        const u16v carryLimit = (u16v)fill16(-1 - constant) - scaleRest<first>(u) - scaleRest<second>(v);
-        return {packSigned(lo >> 16, hi >> 16) + times<wholeOf(first)>(u) + times<wholeOf(second)>(v), carryLimit};
+        constexpr int whole = weight >> 16, rest = weight & 0xffff;
+        constexpr int unit = std::min({rest & -rest, k.y & -k.y, 65536});
+        constexpr int t = offsetOf(rest, constant & (65536 - unit));
+        static_assert(t >= 0 && t + 255 < 65536);
+        constexpr int high = (constant >> 16) - static_cast<int>(int64_t{rest} * t >> 16);
+        const u16v x = (u16v)(v + fill16(static_cast<int16_t>(t))), factor = (u16v)fill16(static_cast<int16_t>(rest));
+        return {(s16v)mulHigh(x, factor) + (times<whole>(v) + fill16(high)), x * factor};
     }
 
+    // The least t with rest t = fraction modulo 65536.
+    static constexpr int offsetOf(int rest, int fraction)
+    {
+        for (int t = 0; t < 65536; ++t)
+            if (((int64_t{rest} * t - fraction) & 0xffff) == 0) return t;
+        return -1;
+    }
+
+    ZORCC_INLINE Halves sum(const Halves& a, const Halves& b)
+    {
+        const u16v low = a.low + b.low;
+        return {a.high + b.high + 1 + (s16v)(max(low, a.low) == low), low}; // -1 where nothing is carried
+    }
+
+    ZORCC_INLINE Chroma limited(const Halves& sum) { return {sum.high, ~sum.low}; }
+
     // The sum without its fraction.
-    ZORCC_INLINE s16v whole(const Luma& y, const Chroma& c)
+    ZORCC_INLINE s16v whole(const Halves& y, const Chroma& c)
     {
         return addOneWhere(y.high + c.high, y.low, c.carryLimit);
     }
