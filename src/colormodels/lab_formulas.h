@@ -30,26 +30,46 @@ template <> inline constexpr LabCode labDecode<uint16_t> = {0.0015259022f, 0.003
 namespace zorcc::ZORCC_TIER {
 namespace {
 
-// To samples of this type.
-template <class Sample> struct RgbToLabFloats {
-    [[gnu::always_inline]] Samples<float> operator()(const Samples<float>& rgb) const
+// To samples of this type; the cube roots of several vectors in lockstep.
+template <class Sample> struct RgbToLab {
+    [[gnu::always_inline]] auto operator()(const Samples<uint8_t>& rgb) const
     {
-        constexpr cie::LabCode code = cie::labCode<Sample>;
-        const auto [x, y, z] = RgbToXyzFloats{}(rgb).c[0];
-        const f32v ratioY = y * cie::toRatio[1], rootY = cubeRoot(ratioY);
-        const s32v isAbove = ratioY > cie::threshold;
-        const f32v fx = curve(x * cie::toRatio[0]), fy = select(isAbove, rootY, line(ratioY)),
-                   fz = curve(z * cie::toRatio[2]);
-        return {{{lightness(isAbove, ratioY, rootY) * code.lightness, ((fx - fy) * 500 + 128) * code.colour,
-                  ((fy - fz) * 200 + 128) * code.colour}}};
+        const Floats<4> channel[3] = {asFloats(rgb.c[0][0]), asFloats(rgb.c[0][1]), asFloats(rgb.c[0][2])};
+        constexpr int together = vectorBytes == 64 ? 4 : 2; // as many as the registers hold
+        Widened<4> lab[3];
+        for (int p = 0; p < 4; p += together) {
+            Lockstep<float, 3 * together> ratio;
+            for (int i = 0; i < together; ++i) {
+                const Samples<float> xyz =
+                    RgbToXyzFloats{}({{{channel[0].part[p + i], channel[1].part[p + i], channel[2].part[p + i]}}});
+                for (int c = 0; c < 3; ++c) ratio.v[3 * i + c] = xyz.c[0][c] * cie::toRatio[c];
+            }
+            const Lockstep<float, 3 * together> root = cubeRoot(ratio);
+            for (int i = 0; i < together; ++i) {
+                const Integers<3> codes = of(ratio.v + 3 * i, root.v + 3 * i);
+                for (int c = 0; c < 3; ++c) lab[c].part[p + i] = codes.part[c];
+            }
+        }
+        decltype(narrowParts<Sample>(lab[0])) narrowed[3] = {narrowParts<Sample>(lab[0]), narrowParts<Sample>(lab[1]),
+                                                             narrowParts<Sample>(lab[2])};
+        return channelsOf<Sample>(narrowed);
     }
 
 private:
-    ZORCC_INLINE f32v line(f32v ratio) { return ratio * 7.787f + 0.137931034f; }
-    ZORCC_INLINE f32v curve(f32v ratio) { return select(ratio > cie::threshold, cubeRoot(ratio), line(ratio)); }
-};
+    ZORCC_INLINE f32v curve(f32v ratio, f32v root)
+    {
+        return select(ratio > cie::threshold, root, ratio * 7.787f + 0.137931034f);
+    }
 
-template <class Sample> using RgbToLab = OnIntegers<Sample, RgbToLabFloats<Sample>, RoundedToEven>;
+    ZORCC_INLINE Integers<3> of(const f32v* ratio, const f32v* root)
+    {
+        constexpr cie::LabCode code = cie::labCode<Sample>;
+        const f32v fx = curve(ratio[0], root[0]), fy = curve(ratio[1], root[1]), fz = curve(ratio[2], root[2]);
+        return {{roundToEven(lightness(ratio[1] > cie::threshold, ratio[1], root[1]) * code.lightness),
+                 roundToEven(((fx - fy) * 500 + 128) * code.colour),
+                 roundToEven(((fy - fz) * 200 + 128) * code.colour)}};
+    }
+};
 
 // From samples of this type. The cube stands for the line, too.
 template <class Sample> struct LabToRgbFloats {

@@ -19,7 +19,7 @@ struct InverseCubeRoot {
 // with e = u - 1, so that only the small second term brings rounding errors; q interpolates at the Chebyshev nodes.
 // Its terms are added in two chains, one half as long as Horner's, since what follows waits for them. Within 1.89 units
 // in the last place for every t in (0.008856, 1.1]. Neither infinity nor NaN has a root.
-template <class F> [[gnu::always_inline]] constexpr F cubeRoot(F t, F estimate)
+template <class F> [[gnu::always_inline]] constexpr F cubeRoot(const F& t, const F& estimate)
 {
     const F root = t * estimate * estimate, e = root * estimate - 1, square = e * e;
     const F q = e * 0.555539131f + -0.666666687f + (e * 0.458421737f + -0.493818045f + square * -0.427206635f) * square;
@@ -39,6 +39,7 @@ constexpr float cubeRoot(float t)
 
 #if defined(ZORCC_TIER)
     #include "simd/floats.h"
+    #include "simd/lockstep.h"
 
 namespace zorcc::ZORCC_TIER {
 namespace {
@@ -51,6 +52,13 @@ ZORCC_INLINE f32v inverseCubeRoot(f32v t)
 }
 
 ZORCC_INLINE f32v cubeRoot(f32v t) { return zorcc::cubeRoot(t, inverseCubeRoot(t)); }
+
+template <int count> ZORCC_INLINE Lockstep<float, count> cubeRoot(const Lockstep<float, count>& t)
+{
+    Lockstep<float, count> estimate;
+    for (int i = 0; i < count; ++i) estimate.v[i] = inverseCubeRoot(t.v[i]);
+    return zorcc::cubeRoot(t, estimate);
+}
 
 } // namespace
 } // namespace zorcc::ZORCC_TIER
