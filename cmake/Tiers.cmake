@@ -4,7 +4,7 @@ if(NOT "ssse3;avx2;avx512" MATCHES "^${ZORCC_TIERS}(;|$)")
   message(FATAL_ERROR "ZORCC_TIERS is ${ZORCC_TIERS}: it must be the first one, two or all of ssse3;avx2;avx512")
 endif()
 set(ZORCC_TIER_FLAGS_ssse3 -mssse3)
-set(ZORCC_TIER_FLAGS_avx2 -mavx2)
+set(ZORCC_TIER_FLAGS_avx2 -mavx2 -mfma)
 set(ZORCC_TIER_FLAGS_avx512 -mavx512f -mavx512bw -mavx512dq -mavx512vl -mavx512vbmi -mavx512vnni -mgfni)
 
 # Adds the row files to `target`, in one object library a tier.

@@ -27,12 +27,14 @@ namespace {
 struct Chromaticity {
     f32v u, v;
 
-    // Of integers, which are all 0 where the divisor is.
     ZORCC_INLINE Chromaticity ofIntegers(f32v x, f32v y, f32v z)
     {
-        const f32v d = max(divisor(x, y, z), fillFloat(0x1p-64f));
+        const f32v d = divisorOfIntegers(x, y, z);
         return {x * 4 / d, y * 9 / d};
     }
+
+    // What they are divided by. Integers are all 0 where it would be.
+    ZORCC_INLINE f32v divisorOfIntegers(f32v x, f32v y, f32v z) { return max(divisor(x, y, z), fillFloat(0x1p-64f)); }
 
     ZORCC_INLINE Chromaticity of(f32v x, f32v y, f32v z)
     {
@@ -100,17 +102,24 @@ template <int parts> constexpr LightnessCodes lightnessCodes(int first, int end)
     return codes;
 }
 
-// In quarters, from Y rounded to bytes and rounded to quarters, saturated.
-ZORCC_INLINE Floats<4> quartersOfLightness(u8v y, u8v quartersOfY)
+// Less `shift` bits after `raise` is added, saturated.
+template <int raise, int shift> ZORCC_INLINE u8v shiftedToBytes(const WideChannel<uint16_t>& v)
+{
+    return packUnsigned((s16v)((v.half[0] + (uint16_t)raise) >> shift), (s16v)((v.half[1] + (uint16_t)raise) >> shift));
+}
+
+// In quarters, of Y in eighths raised by one, rounded down: half of it is Y rounded to quarters.
+ZORCC_INLINE WideChannel<uint16_t> quartersOfLightness(const WideChannel<uint16_t>& eighths)
 {
     static constexpr LightnessCodes bytes = lightnessCodes<1>(32, 256), quarters = lightnessCodes<4>(0, 128);
     static constexpr CurveTable ofBytes(bytes.low), ofQuarters(quarters.low);
+    const u8v y = shiftedToBytes<3, 3>(eighths), quartersOfY = shiftedToBytes<0, 1>(eighths);
     const u8v bright = lookUp(ofBytes, y), dark = lookUp(ofQuarters, quartersOfY);
     const u8v isDark = (u8v)(min(y, fill8(31)) == y),
               isLarge = (u8v)(max(quartersOfY, fill8(quarters.from256)) == quartersOfY);
     const u8v low = select(isDark, dark, shiftBytes<-2>(bright)),
               high = select(isDark, isLarge & 1, shiftBytes<6>(bright));
-    return asFloats(WideChannel<uint16_t>{{(u16v)zipLow(low, high), (u16v)zipHigh(low, high)}});
+    return {{(u16v)zipLow(low, high), (u16v)zipHigh(low, high)}};
 }
 
 template <> struct RgbToLuv<uint8_t> {
@@ -119,29 +128,37 @@ template <> struct RgbToLuv<uint8_t> {
         const auto [r, g, b] = rgb.c[0];
         const Floats<4> red = asFloats(r), green = asFloats(g), blue = asFloats(b);
         Floats<4> x, y, z;
-        Widened<4> bytes, quarters;
+        Widened<4> eighths;
         for (int p = 0; p < 4; ++p) {
             const Samples<float> xyz = RgbToXyzFloats{}({{{red.part[p], green.part[p], blue.part[p]}}});
             x.part[p] = xyz.c[0][0];
             y.part[p] = xyz.c[0][1];
             z.part[p] = xyz.c[0][2];
-            bytes.part[p] = truncate(y.part[p] + 0.5f);
-            quarters.part[p] = truncate(y.part[p] * 4 + 0.5f);
+            eighths.part[p] = truncate(y.part[p] * 8 + 1);
         }
-        return throughFloats<uint8_t>(codes, x, y, z,
-                                      quartersOfLightness(narrow<uint8_t>(bytes), narrow<uint8_t>(quarters)));
+        const WideChannel<uint16_t> quarters = quartersOfLightness(narrowParts<uint16_t>(eighths));
+        const Floats<4> l = asFloats(quarters);
+        Widened<4> u, v;
+        for (int p = 0; p < 4; ++p) {
+            const Integers<2> colour = codes(x.part[p], y.part[p], z.part[p], l.part[p]);
+            u.part[p] = colour.part[0];
+            v.part[p] = colour.part[1];
+        }
+        return {{{shiftedToBytes<2, 2>(quarters), narrow<uint8_t>(u), narrow<uint8_t>(v)}}};
     }
 
 private:
-    ZORCC_INLINE Integers<3> codes(f32v x, f32v y, f32v z, f32v quarters)
+    // Of u* and v*. What is multiplied by a power of two is multiplied by it elsewhere: that rounds nothing.
+    ZORCC_INLINE Integers<2> codes(f32v x, f32v y, f32v z, f32v quarters)
     {
         constexpr Divisor full(255);
-        const f32v l = quarters * 0.25f;
-        const auto [u, v] =
-            Chromaticity::ofIntegers(divideModerate(x, full), divideModerate(y, full), divideModerate(z, full));
+        x = divideModerate(x, full);
+        y = divideModerate(y, full);
+        z = divideModerate(z, full);
+        const f32v d = Chromaticity::divisorOfIntegers(x, y, z);
         // 13 of 1/2.55 of 255 of 354 units, and of 262; the codes of u* = v* = 0 with the half that rounds.
-        return {{truncate(l + 0.5f), truncate(l * 3.6723163f * (u - cie::luvWhite.u) + 97.02543f),
-                 truncate(l * 4.961832f * (v - cie::luvWhite.v) + 136.75955f)}};
+        return {{truncate(quarters * 3.6723163f * (x / d - cie::luvWhite.u / 4) + 97.02543f),
+                 truncate(quarters * (4.961832f / 4) * (y * 9 / d - cie::luvWhite.v) + 136.75955f)}};
     }
 };
 

@@ -60,13 +60,18 @@ struct Divisor {
     }
 };
 
-#if defined(ZORCC_TIER_avx512)
-// sum + a b, rounded once. That it says how to round tells it from multiply-adds that a compiler makes of what must not
-// be one.
+#if !defined(ZORCC_TIER_ssse3)
+// sum + a b and sum - a b, rounded once. That AVX-512 says how to round tells them from multiply-adds that a compiler
+// makes of what must not be one.
 ZORCC_INLINE f32v addProduct(f32v sum, f32v a, f32v b)
 {
+    #if defined(ZORCC_TIER_avx512)
     return (f32v)_mm512_fmadd_round_ps(reg(a), reg(b), reg(sum), _MM_FROUND_TO_NEAREST_INT | _MM_FROUND_NO_EXC);
+    #else
+    return (f32v)_mm256_fmadd_ps(reg(a), reg(b), reg(sum));
+    #endif
 }
+ZORCC_INLINE f32v subProduct(f32v sum, f32v a, f32v b) { return addProduct(sum, -a, b); }
 #endif
 
 // v / divisor, rounded as a division does, for 3, 60, 116, 185.12712, 250.13359, 255, 360 and 903.3: v times the
@@ -74,10 +79,10 @@ ZORCC_INLINE f32v addProduct(f32v sum, f32v a, f32v b)
 // as long as the second term loses no digits: v is 0 or, without its sign, from 2^-60 to 2^120.
 ZORCC_INLINE f32v divideModerate(f32v v, Divisor divisor)
 {
-#if defined(ZORCC_TIER_avx512)
-    return addProduct(v * divisor.rest, v, fillFloat(divisor.most));
-#else
+#if defined(ZORCC_TIER_ssse3)
     return v / divisor.value;
+#else
+    return addProduct(v * divisor.rest, v, fillFloat(divisor.most));
 #endif
 }
 
@@ -85,24 +90,38 @@ ZORCC_INLINE f32v divideModerate(f32v v, Divisor divisor)
 ZORCC_INLINE f32v divideByEither(s32v mask, f32v v, Divisor one, Divisor other)
 {
     const auto term = [&](float a, float b) { return select(mask, fillFloat(a), fillFloat(b)); };
-#if defined(ZORCC_TIER_avx512)
-    return addProduct(v * term(one.rest, other.rest), v, term(one.most, other.most));
-#else
+#if defined(ZORCC_TIER_ssse3)
     return v / term(one.value, other.value);
+#else
+    return addProduct(v * term(one.rest, other.rest), v, term(one.most, other.most));
 #endif
 }
+
+#if !defined(ZORCC_TIER_ssse3)
+// Whether v, without its sign, is from `least` to the greatest number, or 0, in every lane. Negative ones, which are
+// rare, may count as outside.
+ZORCC_INLINE bool allWithin(f32v v, float least)
+{
+    const uint32_t first = __builtin_bit_cast(uint32_t, least), infinity = 0x7f800000;
+    const u32v bits = (u32v)v;
+    #if defined(ZORCC_TIER_avx512)
+    const __mmask16 notZero = _mm512_test_epi32_mask(reg(bits), reg(bits));
+    return !_mm512_mask_cmpge_epu32_mask(notZero, reg(bits - first), reg(u32v{} + (infinity - first)));
+    #else
+    const s32v outside = ((s32v)(bits - first - 0x80000000) >= fill32(infinity - first - 0x80000000)) & (bits != 0);
+    return _mm256_testz_si256(reg(outside), reg(outside));
+    #endif
+}
+#endif
 
 // The same for any v. Where digits may have been lost (quotients below 2^-64), or where there are none (infinity, NaN),
 // it takes a division.
 template <int divisor> ZORCC_INLINE f32v divideBy(f32v v)
 {
     constexpr Divisor by(divisor);
-#if defined(ZORCC_TIER_avx512)
-    constexpr uint32_t least = 0x1f800000, infinity = 0x7f800000; // bits of 2^-64
+#if !defined(ZORCC_TIER_ssse3)
     const f32v quotient = divideModerate(v, by);
-    const u32v bits = (u32v)quotient; // of negative ones, which are rare, beyond infinity's
-    const __mmask16 notZero = _mm512_test_epi32_mask(reg(bits), reg(bits));
-    if (!_mm512_mask_cmpge_epu32_mask(notZero, reg(bits - least), reg(u32v{} + (infinity - least)))) [[likely]]
+    if (allWithin(quotient, 0x1p-64f)) [[likely]]
         return quotient;
 #endif
     return v / by.value;

@@ -16,7 +16,7 @@ Tier bestTierOfProcessor()
         __builtin_cpu_supports("avx512vl") && __builtin_cpu_supports("avx512vbmi") &&
         __builtin_cpu_supports("avx512vnni") && __builtin_cpu_supports("gfni"))
         return Tier::avx512;
-    return __builtin_cpu_supports("avx2") ? Tier::avx2 : Tier::ssse3;
+    return __builtin_cpu_supports("avx2") && __builtin_cpu_supports("fma") ? Tier::avx2 : Tier::ssse3;
 }
 
 } // namespace
