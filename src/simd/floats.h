@@ -61,7 +61,7 @@ struct Divisor {
 };
 
 #if !defined(ZORCC_TIER_ssse3)
-// sum + a b and sum - a b, rounded once. That AVX-512 says how to round tells them from multiply-adds that a compiler
+// sum + a b, rounded once. That AVX-512 says how to round tells them from multiply-adds that a compiler
 // makes of what must not be one.
 ZORCC_INLINE f32v addProduct(f32v sum, f32v a, f32v b)
 {
@@ -71,7 +71,6 @@ ZORCC_INLINE f32v addProduct(f32v sum, f32v a, f32v b)
     return (f32v)_mm256_fmadd_ps(reg(a), reg(b), reg(sum));
     #endif
 }
-ZORCC_INLINE f32v subProduct(f32v sum, f32v a, f32v b) { return addProduct(sum, -a, b); }
 #endif
 
 // v / divisor, rounded as a division does, for 3, 60, 116, 185.12712, 250.13359, 255, 360 and 903.3: v times the
@@ -97,31 +96,17 @@ ZORCC_INLINE f32v divideByEither(s32v mask, f32v v, Divisor one, Divisor other)
 #endif
 }
 
-#if !defined(ZORCC_TIER_ssse3)
-// Whether v, without its sign, is from `least` to the greatest number, or 0, in every lane. Negative ones, which are
-// rare, may count as outside.
-ZORCC_INLINE bool allWithin(f32v v, float least)
-{
-    const uint32_t first = __builtin_bit_cast(uint32_t, least), infinity = 0x7f800000;
-    const u32v bits = (u32v)v;
-    #if defined(ZORCC_TIER_avx512)
-    const __mmask16 notZero = _mm512_test_epi32_mask(reg(bits), reg(bits));
-    return !_mm512_mask_cmpge_epu32_mask(notZero, reg(bits - first), reg(u32v{} + (infinity - first)));
-    #else
-    const s32v outside = ((s32v)(bits - first - 0x80000000) >= fill32(infinity - first - 0x80000000)) & (bits != 0);
-    return _mm256_testz_si256(reg(outside), reg(outside));
-    #endif
-}
-#endif
-
 // The same for any v. Where digits may have been lost (quotients below 2^-64), or where there are none (infinity, NaN),
-// it takes a division.
+// it takes a division. With 256 bits the division takes less time than the test.
 template <int divisor> ZORCC_INLINE f32v divideBy(f32v v)
 {
     constexpr Divisor by(divisor);
-#if !defined(ZORCC_TIER_ssse3)
+#if defined(ZORCC_TIER_avx512)
+    constexpr uint32_t least = 0x1f800000, infinity = 0x7f800000; // bits of 2^-64
     const f32v quotient = divideModerate(v, by);
-    if (allWithin(quotient, 0x1p-64f)) [[likely]]
+    const u32v bits = (u32v)quotient; // of negative ones, which are rare, beyond infinity's
+    const __mmask16 notZero = _mm512_test_epi32_mask(reg(bits), reg(bits));
+    if (!_mm512_mask_cmpge_epu32_mask(notZero, reg(bits - least), reg(u32v{} + (infinity - least)))) [[likely]]
         return quotient;
 #endif
     return v / by.value;
