@@ -33,7 +33,21 @@ void forEach(int threads, int count, FunctionRef<void(int)> body)
 // A caller that is parallel itself already keeps the processors busy.
 int threadsHere() { return omp_in_parallel() ? 1 : ownGetNumThreads(); }
 
-void sections(int count, FunctionRef<void(int)> section) { forEach(omp_in_parallel() ? 1 : count, count, section); }
+void Member::waitForOthers() const
+{
+    if (count == 1) return;
+#pragma omp barrier
+}
+
+void team(int threads, FunctionRef<void(const Member&)> work)
+{
+    if (threads == 1 || omp_in_parallel()) {
+        work({0, 1});
+        return;
+    }
+#pragma omp parallel num_threads(threads)
+    work({omp_get_thread_num(), omp_get_num_threads()});
+}
 
 void rowsAboveThreshold(int width, int height, FunctionRef<void(int)> row)
 {

@@ -13,9 +13,16 @@ namespace zorcc {
 // Threads that a call may use here, at least 1: one inside a parallel region.
 int threadsHere();
 
-// Calls section(0) .. section(count - 1), each on a thread of its own; asks for `count` threads, whatever the number
-// that is configured. With more sections than the runtime gives threads, some threads take several.
-void sections(int count, FunctionRef<void(int index)> section);
+// One of the threads of a team.
+struct Member {
+    int index, count;
+
+    void waitForOthers() const; // every member must, equally often
+};
+
+// Calls work on every member of a team for which `threads` threads are asked, whatever the number that is configured;
+// the runtime may give fewer.
+void team(int threads, FunctionRef<void(const Member&)> work);
 
 // Calls row(y) for every row; forks above 4096 pixels. Each member gets one contiguous band of rows.
 void rowsAboveThreshold(int width, int height, FunctionRef<void(int y)> row);

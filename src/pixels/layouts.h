@@ -90,6 +90,15 @@ using Bgr = C3<uint8_t, Order::reversed>;
 using Bgra = C4<uint8_t, Order::reversed>;
 using Bgrx = AC4<uint8_t, Order::reversed>; // alpha ignored, or left as it is
 
+// The formula of a change of layout.
+struct Unchanged {
+    template <class S, int channels>
+    [[gnu::always_inline]] Samples<S, channels> operator()(const Samples<S, channels>& p) const
+    {
+        return p;
+    }
+};
+
 // ---- samples that have twice as many bits as those on the other side ---
 
 // Three interleaved channels.
@@ -221,14 +230,24 @@ template <PackedOrder order> struct Packed422 : Lines<Line{{4, 1}}> {
     static constexpr int luma = order == PackedOrder::lumaFirst ? 0 : 1, chroma = 1 - luma; // bytes of a pixel
     using Remainder = YccPixels;
 
-    [[gnu::always_inline]] Subsampled<1> load(int x) const
+    // Of the chroma bytes those of the first channel and of the second alternate.
+    struct LumaAndChroma {
+        u8v luma, chroma;
+    };
+    [[gnu::always_inline]] LumaAndChroma lumaAndChroma(int x) const
     {
         u8v v[2];
         toBlocks({zorcc::ZORCC_TIER::load(at(0, x)), zorcc::ZORCC_TIER::load(at(0, x) + vectorBytes)}, v);
         const u8v even = packUnsigned(firstOfPairs(v[0]), firstOfPairs(v[1]));
         const u8v odd = packUnsigned(secondOfPairs(v[0]), secondOfPairs(v[1]));
-        if constexpr (luma == 0) return {{even}, unzipHalves(odd)};
-        return {{odd}, unzipHalves(even)};
+        if constexpr (luma == 0) return {even, odd};
+        return {odd, even};
+    }
+
+    [[gnu::always_inline]] Subsampled<1> load(int x) const
+    {
+        const LumaAndChroma from = lumaAndChroma(x);
+        return {{from.luma}, unzipHalves(from.chroma)};
     }
 
     // The last pixel of an odd row has its own first chroma sample. The second is that of the pair before it, or the

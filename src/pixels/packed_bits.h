@@ -102,11 +102,6 @@ private:
 template <FieldBits bits> using Rgb16 = PackedBits<bits, Order::asStored>;
 template <FieldBits bits> using Bgr16 = PackedBits<bits, Order::reversed>;
 
-// The formula of a change of layout.
-struct Unchanged {
-    [[gnu::always_inline]] Pixels<3> operator()(const Pixels<3>& rgb) const { return rgb; }
-};
-
 // ---- to interleaved bytes, without channels between them ---
 
 template <FieldBits bits> struct Words : Lines<Line{{2}}> {

@@ -15,8 +15,8 @@
 namespace zorcc::ZORCC_TIER {
 namespace {
 
-constexpr int bandRows = 32;    // several vectors, which do not wait for each other, on every tier
-constexpr int tileSamples = 64; // samples of a row in a tile, at most
+static_assert(bandRows % 16 == 0); // several vectors, which do not wait for each other, on every tier
+constexpr int tileSamples = 64;    // samples of a row in a tile, at most
 constexpr float outside = -1e9f;
 
 // Weights of the errors that a sample gathers: of its own row, one column back and so on; of the row above and of the

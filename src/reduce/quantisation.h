@@ -89,7 +89,7 @@ private:
     bool byStaircases(const Formula& formula, const float (&threshold)[side][side], EachRow eachRow) const
     {
         if constexpr (sizeof(Src) == 1) {
-            constexpr int64_t minSamples = 1 << 15;
+            constexpr int64_t minSamples = 1 << 13;
             Staircases<side> staircases;
             if (int64_t{size.width} * samplesPerPixel * size.height < minSamples ||
                 !staircases.build(formula, threshold, samplesPerPixel))

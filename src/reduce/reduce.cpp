@@ -5,6 +5,8 @@
 #include <limits.h>
 #include <string.h>
 
+#include <algorithm>
+
 #include "frame/memory.h"
 #include "frame/parallel.h"
 #include "reduce/reduce_rows.h"
@@ -31,18 +33,28 @@ ZorStatus quantiseOrdered(const ReduceDrivers& drivers, const Reduction& reducti
 
 ZorStatus diffuse(DiffusionDriver& driver, int rowsAbove, const Reduction& reduction, float step, int noise)
 {
-    const int channels = reduction.channels, threads = threadsHere();
-    const int64_t count = (int64_t{reduction.size.width} + 2 * errorMargin) * rowsAbove * channels;
-    const Owned<float> errors(count > INT_MAX ? nullptr : zorsMalloc_32f(static_cast<int>(count)));
-    if (!errors) return zorStatusNoMemory;
-    memset(errors.get(), 0, static_cast<size_t>(count) * sizeof(float));
+    const auto [width, height] = reduction.size;
+    const int channels = reduction.channels;
+    const int64_t errors = ((int64_t{width} + 2 * errorMargin) * rowsAbove * channels + 15) & -16;
+    const auto floatsFor = [&](int workers) {
+        const int64_t levels = workers > 1 ? 2 * bandRows * channels * (levelsStep(width) / int64_t{sizeof(float)}) : 0;
+        return errors + workers * workspaceFloats + levels;
+    };
+    int workers = std::min(threadsHere(), channels);
+    if (floatsFor(workers) > INT_MAX) workers = 1;
+    const int64_t count = floatsFor(workers);
+    const Owned<float> floats(count > INT_MAX ? nullptr : zorsMalloc_32f(static_cast<int>(count)));
+    if (!floats) return zorStatusNoMemory;
+    float* const workspaces = floats.get() + errors;
+    memset(floats.get(), 0, static_cast<size_t>(errors) * sizeof(float));
 
     Noise thresholds; // half a step, give or take noise percent of a step
     const float low = static_cast<float>(50 - noise) * step / 100.0f,
                 high = static_cast<float>(50 + noise) * step / 100.0f;
     if (noise != 0)
         if (const ZorStatus s = thresholds.create(low, high); s != zorStatusOk) return s;
-    driver(reduction, noise != 0 ? &thresholds : nullptr, errors.get(), threads < channels ? threads : channels);
+    driver(reduction, noise != 0 ? &thresholds : nullptr,
+           {floats.get(), workspaces, workspaces + workers * workspaceFloats}, workers);
     return zorStatusOk;
 }
 

@@ -34,11 +34,20 @@ template <class Sample> inline constexpr float white = 65535;
 template <> inline constexpr float white<uint8_t> = 255;
 template <> inline constexpr float white<float> = 1;
 
-// Error diffusion; no noise if that is null. `workers` threads share out the channels. `errors` holds, for every
-// channel that is converted, as many rows of zeros as the method looks up. A row has a margin on both sides of its
-// columns: samples there, which a band of rows passes on its way, leave no error and may be read and written.
-using DiffusionDriver = void(const Reduction&, const Noise* noise, float* errors, int workers);
-inline constexpr int errorMargin = 160;
+// What error diffusion works in, on 64-byte boundaries. `errors` holds, for every channel that is converted, as many
+// rows of zeros as the method looks up. A row has a margin on both sides of its columns: samples there, which a band of
+// rows passes on its way, leave no error and may be read and written. Every worker has workspaceFloats floats of
+// `workspaces` for itself. Several workers need `levels`: the planes of two bands.
+struct DiffusionMemory {
+    float *errors, *workspaces, *levels;
+};
+inline constexpr int errorMargin = 160, workspaceFloats = 136 * 256, bandRows = 32;
+
+// Bytes from row to row of a band's plane, whose samples have up to 16 bits. No two rows share a cache line.
+constexpr ptrdiff_t levelsStep(int width) { return (width * ptrdiff_t{2} + 63) & ptrdiff_t{-64}; }
+
+// No noise if that is null. `workers` threads share out the channels.
+using DiffusionDriver = void(const Reduction&, const Noise* noise, const DiffusionMemory&, int workers);
 
 struct ReduceDrivers {
     void (&plain)(const Reduction&);

@@ -16,12 +16,12 @@ public:
     template <class Formula>
     bool build(const Formula& formula, const float (&thresholds)[side][side], int samplesPerPixel)
     {
-        uint8_t outputs[side][side][256];
+        alignas(64) uint8_t outputs[side][side][256];
         bool present[256] = {};
+        evaluate(formula, thresholds, outputs);
         for (int y = 0; y < side; ++y)
             for (int x = 0; x < side; ++x) {
-                uint8_t* const output = outputs[y][x];
-                evaluate(formula, thresholds[y][x], output);
+                const uint8_t* const output = outputs[y][x];
                 if (falls(output)) return false;
                 for (int i = 0; i < 256; i = firstAbove(output, output[i])) present[output[i]] = true;
             }
@@ -37,9 +37,7 @@ public:
                 int8_t last[side]; // input whose output is not above value r; less 128
                 for (int x = 0; x < side; ++x)
                     last[x] = static_cast<int8_t>(firstAbove(outputs[y][x], values.byte[r]) - 129);
-                int8_t* const row = below[y][r];
-                for (int i = 0; i < period; ++i) row[i] = last[i / samplesPerPixel % side];
-                for (int i = period; i < period + step; i += period) __builtin_memcpy(row + i, row, period);
+                repeat(last, samplesPerPixel, below[y][r]);
             }
         return true;
     }
@@ -74,13 +72,25 @@ private:
     int rises;
     alignas(64) int8_t below[side][maxValues - 1][period + step];
 
-    template <class Formula> static void evaluate(const Formula& formula, float threshold, uint8_t* output)
+    // All thresholds for one vector of inputs after the other: most of the formula does not depend on them.
+    template <class Formula>
+    static void evaluate(const Formula& formula, const float (&thresholds)[side][side], uint8_t (&to)[side][side][256])
     {
-        for (int i = 0; i < 256; i += lanes) {
-            f32v input;
-            for (int j = 0; j < lanes; ++j) input[j] = static_cast<float>(i + j);
-            storeSamples(output + i, formula(input, fillFloat(threshold)));
-        }
+        f32v input;
+        for (int j = 0; j < lanes; ++j) input[j] = static_cast<float>(j);
+        for (int i = 0; i < 256; i += lanes, input += lanes)
+            for (int y = 0; y < side; ++y)
+                for (int x = 0; x < side; ++x) storeSamples(to[y][x] + i, formula(input, fillFloat(thresholds[y][x])));
+    }
+
+    // Each of `last` as often as a pixel has samples, all of that again and again.
+    static void repeat(const int8_t (&last)[side], int samplesPerPixel, int8_t (&row)[period + step])
+    {
+        int known = 0;
+        for (int x = 0; x < side; ++x)
+            for (int c = 0; c < samplesPerPixel; ++c) row[known++] = last[x];
+        for (; known < period + step; known *= 2)
+            __builtin_memcpy(row + known, row, known < period + step - known ? known : period + step - known);
     }
 
     static bool falls(const uint8_t* output)

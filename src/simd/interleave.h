@@ -113,6 +113,18 @@ ZORCC_INLINE u8v loadHalves(const uint8_t* low, const uint8_t* high)
 #endif
 }
 
+// Half as many bytes as a vector has, each in 16 bits.
+ZORCC_INLINE s16v loadWidened(const uint8_t* p)
+{
+#if defined(ZORCC_TIER_avx512)
+    return (s16v)_mm512_cvtepu8_epi16(_mm256_loadu_si256((const __m256i*)p));
+#elif defined(ZORCC_TIER_avx2)
+    return (s16v)_mm256_cvtepu8_epi16(_mm_loadu_si128((const __m128i*)p));
+#else
+    return (s16v)zipLow((u8v)_mm_loadl_epi64((const __m128i*)p), u8v{});
+#endif
+}
+
 // Halves from a quarter of the bytes: each byte twice.
 ZORCC_INLINE u8v loadDoubledQuarters(const uint8_t* low, const uint8_t* high)
 {

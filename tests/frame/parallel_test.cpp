@@ -110,14 +110,23 @@ TEST_F(Parallel, EveryRowOnceFromSeveralThreadsAtOnce)
     for (std::thread& caller : callers) caller.join();
 }
 
-TEST_F(Parallel, SectionsEachOnceAndOnAThreadOfItsOwn)
+TEST_F(Parallel, TeamsHaveAThreadForEachMemberAndWaitForAll)
 {
     ASSERT_EQ(zorSetNumThreads(1), zorStatusOk); // of no consequence: the caller says how many
     for (int count = 1; count <= 4; ++count) {
         std::vector<std::thread::id> threadOf(count);
-        sections(count, [&](int index) {
-            EXPECT_EQ(std::exchange(threadOf.at(index), std::this_thread::get_id()), std::thread::id{});
+        std::vector<std::atomic<int>> rounds(count);
+        std::atomic<int> behind = 0;
+        team(count, [&](const Member& member) {
+            EXPECT_EQ(member.count, count);
+            EXPECT_EQ(std::exchange(threadOf.at(member.index), std::this_thread::get_id()), std::thread::id{});
+            for (int round = 1; round <= 100; ++round) {
+                rounds[member.index] = round;
+                member.waitForOthers();
+                for (const auto& reached : rounds) behind += reached < round;
+            }
         });
+        EXPECT_EQ(behind, 0);
         const std::set<std::thread::id> threads(threadOf.begin(), threadOf.end());
         EXPECT_EQ(static_cast<int>(threads.size()), count);
         EXPECT_FALSE(threads.contains({}));
@@ -137,11 +146,14 @@ TEST_F(Parallel, StaysOnTheCallingThreadInsideAParallelRegion)
             ++calls;
             strangers += std::this_thread::get_id() != self;
         };
-        sections(3, look);
+        team(3, [&](const Member& member) {
+            look();
+            member.waitForOthers();
+        });
         for (const Pattern& pattern : patterns) pattern.run(1000, 1000, look);
     }
     EXPECT_EQ(inside, 2);
-    EXPECT_EQ(calls, 2 * (3 + 1000 + 1000 + 1 + 1)); // sections, rows twice, one band, one band of groups
+    EXPECT_EQ(calls, 2 * (1 + 1000 + 1000 + 1 + 1)); // a team, rows twice, one band, one band of groups
     EXPECT_EQ(strangers, 0);
 }
 

@@ -7,7 +7,7 @@
 
 #include "lumachroma/common/weighted_sums.h"
 #include "pixels/alpha.h"
-#include "pixels/layouts.h"
+#include "pixels/chroma_words.h"
 #include "pixels/ordered_dither.h"
 
 namespace zorcc::ZORCC_TIER {
@@ -23,9 +23,10 @@ struct WideRgb {
 // The floors of the chroma products, which are all that rounding needs where luma is whole.
 template <ToRgb k> class ChromaOffsets {
 public:
-    ZORCC_INLINE WideRgb of(u8v uv)
+    // Of chroma from 0 to 255.
+    ZORCC_INLINE WideRgb of(s16v first, s16v second)
     {
-        const s16v u = firstOfPairs(uv) - 128, v = secondOfPairs(uv) - 128;
+        const s16v u = first - 128, v = second - 128;
         return {
             {product<k.r, k.constantR>(v), product2<-k.g1, -k.g2, k.constantG>(u, v), product<k.b, k.constantB>(u)}};
     }
@@ -86,7 +87,7 @@ private:
     {
         const s16v y = firstOfPairs(yv), v = secondOfPairs(yv), u = firstOfPairs(uv);
         if constexpr (k.y == 65536) {
-            const WideRgb offset = ChromaOffsets<k>::of(uv);
+            const WideRgb offset = ChromaOffsets<k>::of(u, v);
             return {{y + offset.c[0], y + offset.c[1], y + offset.c[2]}};
         } else {
             return {{y + fromOneChroma<yRest, k.r, k.constantR>(yv, v), y + fromBothChroma(yv, uv, u, v),
@@ -110,9 +111,9 @@ private:
 // Offsets are formed once for a pair of columns and applied to the bytes of luma as what is to be added and what is to
 // be subtracted, one of them being 0. That they saturate at 255 makes no difference to the saturated result.
 template <ToRgb k> struct SharedChromaOnWholeLuma {
-    template <int rows> [[gnu::always_inline]] Pixels<3, rows> operator()(const Subsampled<rows>& ycc) const
+    template <int rows> [[gnu::always_inline]] Pixels<3, rows> operator()(const SubsampledWords<rows>& ycc) const
     {
-        const WideRgb offset = ChromaOffsets<k>::of(zipHalves(ycc.chroma));
+        const WideRgb offset = ChromaOffsets<k>::of(ycc.u, ycc.v);
         Pixels<3, rows> rgb;
         for (int c = 0; c < 3; ++c) {
             const u8v both = packUnsigned(offset.c[c], -offset.c[c]);
@@ -209,9 +210,15 @@ template <ToRgb k> struct YccToRgb {
     template <int rows> [[gnu::always_inline]] auto operator()(const Subsampled<rows>& ycc) const
     {
         if constexpr (k.y == 65536)
-            return SharedChromaOnWholeLuma<k>{}(ycc);
+            return operator()(inWords(ycc));
         else
             return SharedChromaOnScaledLuma<k>{}(ycc);
+    }
+
+    template <int rows>
+    requires(k.y == 65536) [[gnu::always_inline]] auto operator()(const SubsampledWords<rows>& ycc) const
+    {
+        return SharedChromaOnWholeLuma<k>{}(ycc);
     }
 };
 
