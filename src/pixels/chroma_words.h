@@ -44,8 +44,8 @@ template <> struct InWords<Planar420> : Planar420 {
 template <PackedOrder order> struct InWords<Packed422<order>> : Packed422<order> {
     [[gnu::always_inline]] SubsampledWords<1> load(int x) const
     {
-        const auto [luma, chroma] = this->lumaAndChroma(x);
-        return {{luma}, firstOfPairs(chroma), secondOfPairs(chroma)};
+        const auto from = this->lumaAndChroma(x);
+        return {{from.luma}, firstOfPairs(from.chroma), secondOfPairs(from.chroma)};
     }
 };
 
