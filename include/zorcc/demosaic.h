@@ -37,13 +37,17 @@ ZOR_API ZorStatus zoriCFAToRGB_16u_C1C3R(const uint16_t* pSrc, ZorRect srcRoi, Z
  * Adaptive homogeneity-directed demosaicing (K. Hirakawa and T. W. Parks, 2005); images from 5 x 5.
  *
  * Green at a red or blue pixel is estimated once along the row and once along the column: the average of the two green
- * neighbours, rounded down, plus a quarter, rounded down, of twice the pixel less the nearest pixels of its colour on
- * both sides, limited to the range of the two green neighbours. Both candidates, with red and blue from interpolated
- * differences to green, are compared in CIE L*a*b* (white D65): the direction that has more neighbours of like
- * lightness and colour around a pixel gives the pixel its green; where they are about even it is the mean of both. The
- * differences of red and blue to that green are interpolated and moved half of the way to their 3 x 3 median. The image
- * is mirrored at its edges. 16-bit results of samples 257 times as large as 8-bit samples are within 2 x 257 of 257
- * times the 8-bit results.
+ * neighbours plus a quarter of twice the pixel less the nearest pixels of its colour on both sides, limited to the
+ * range of the two green neighbours. Both candidates, with red and blue from interpolated differences to green, are
+ * compared in CIE L*a*b* (white D65): at every pixel each has up to four neighbours of like lightness and colour. The
+ * candidate along the row has a share of 1/2 in the difference to green, and 1/64 more for every such neighbour that it
+ * has more than the other one in the 5 x 5 pixels around, from 0 to 1. The difference of the opposite colour, blue or
+ * red, is averaged along both diagonals; each average is weighted by the square of how much differences and greens
+ * change along the other diagonal. Both differences at a green pixel are averages of two neighbours in the row and of
+ * two in the column, mixed by the same share. At last all differences are moved three quarters of the way to the median
+ * of themselves and their four neighbours; at red and blue pixels green follows from that. Nothing is rounded before
+ * the result, to nearest. The image is mirrored at its edges. 16-bit results of samples 257 times as large as 8-bit
+ * samples are within 129 of 257 times the 8-bit results, as near as rounding lets them be.
  *
  * `pTmp` is scratch memory: 64 rows of 32 x (w + 32) bytes, at a distance of `tmpStep` bytes, where w is the width of
  * the region inside the image. It needs no alignment and no initial values, is not checked, holds nothing of use after

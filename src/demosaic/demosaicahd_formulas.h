@@ -2,8 +2,9 @@
 // The steps of adaptive homogeneity-directed demosaicing, each a loop along one line of floats.
 //
 // Green is estimated at the sites (red or blue pixels) once along the row and once along the column. A *difference*
-// line holds, at the sites, the site's colour less its green, and zeros between: what the other pixels miss is the tent
-// filter of these. All samples, greens and differences are exact: multiples of 1/64 below 2^17.
+// line holds, at the sites, the site's colour less its green, and zeros between: what the other pixels of a candidate
+// miss is the tent filter of these. The candidates' samples, greens and differences are exact: multiples of 1/64 below
+// 2^17. What is mixed from them is rounded to single precision, in the order that is written here.
 #pragma once
 
 #include "demosaic/demosaicahd_lab.h"
@@ -15,81 +16,40 @@ namespace {
 
 // ---- green ----------------------------------------------------------------------------------------------------------
 
-// The samples on both sides of a site along one direction.
-struct Sides {
-    f32v nearSum, low, high; // of the greens beside it
-    f32v bend;               // twice the site less its colour two pixels before and after it
-
-    Sides(f32v site, f32v before, f32v after, f32v before2, f32v after2)
-        : nearSum(before + after), low(min(before, after)), high(max(before, after)),
-          bend((site + site) - (before2 + after2))
-    {
-    }
-
-    f32v within(f32v green) const { return min(max(green, low), high); }
-
-    // The average of the greens, corrected by a quarter of the bend.
-    f32v green() const { return within(nearSum * 0.5f + bend * 0.25f); }
-
-    // The same from integers, the average and the quarter each rounded down.
-    f32v greenRoundedDown() const
-    {
-        // Truncation of a positive number. Unsigned, as lanes beyond the samples hold anything.
-        const u32v quarter = (u32v)truncate(bend * 0.25f + 65536.f) - 65536;
-        return within(toFloat((s32v)((u32v)truncate(nearSum * 0.5f) + quarter)));
-    }
-};
-
-ZORCC_INLINE Sides sidesAcross(const Rows<5>& samples, int i)
+// The average of the greens on both sides, corrected by a quarter of how far the site is above its colour two pixels
+// before and after it, and limited to the range of both greens.
+ZORCC_INLINE f32v greenBetween(f32v site, f32v before, f32v after, f32v before2, f32v after2)
 {
-    const float* const row = samples.line[2] + i;
-    return {at(row, 0), at(row, -1), at(row, 1), at(row, -2), at(row, 2)};
-}
-
-ZORCC_INLINE Sides sidesDown(const Rows<5>& samples, int i)
-{
-    const auto row = [&](int r) { return at(samples.line[r], i); };
-    return {row(2), row(1), row(3), row(0), row(4)};
+    const f32v bend = (site + site) - (before2 + after2);
+    const f32v green = (before + after) * 0.5f + bend * 0.25f;
+    return min(max(green, min(before, after)), max(before, after));
 }
 
 ZORCC_STAGE void greenDifferences(Rows<5> samples, s32v sites, float* across, float* down, int length)
 {
+    const float* const row = samples.line[2];
     alongLine(length, [&](int i) {
-        const f32v own = at(samples.line[2], i);
-        store(across + i, (s32v)(own - sidesAcross(samples, i).green()) & sites);
-        store(down + i, (s32v)(own - sidesDown(samples, i).green()) & sites);
+        const auto beside = [&](int k) { return at(row, i + k); };
+        const auto above = [&](int k) { return at(samples.line[2 + k], i); };
+        const f32v own = at(row, i);
+        store(across + i, (s32v)(own - greenBetween(own, beside(-1), beside(1), beside(-2), beside(2))) & sites);
+        store(down + i, (s32v)(own - greenBetween(own, above(-1), above(1), above(-2), above(2))) & sites);
     });
 }
 
-// ---- red and blue ---------------------------------------------------------------------------------------------------
-
-// From rows of differences, calls body(i, same, other) with that of the colour of the row's sites and that of the
-// colour of the sites above and below.
-template <class Body> ZORCC_INLINE void alongTents(const Rows<3>& rows, int length, Body body)
-{
-    alongNeighbours(
-        length,
-        [&](int i) {
-            return Values<2>{{at(rows.line[1], i), at(rows.line[0], i) + at(rows.line[2], i)}};
-        },
-        [&](int i, const Values<2>& left, const Values<2>& here, const Values<2>& right) {
-            body(i, here.v[0] + (left.v[0] + right.v[0]) * 0.5f, here.v[1] * 0.5f + (left.v[1] + right.v[1]) * 0.25f);
-        });
-}
-
-ZORCC_STAGE void chroma(Rows<3> differences, float* sameRow, float* otherRows, int length)
-{
-    alongTents(differences, length, [&](int i, f32v same, f32v other) {
-        store(sameRow + i, same);
-        store(otherRows + i, other);
-    });
-}
+// ---- candidates -----------------------------------------------------------------------------------------------------
 
 // A candidate's pixels in the space that its homogeneity is judged in.
 template <bool red>
 ZORCC_STAGE void candidateLab(const float* samples, Rows<3> differences, float scale, LabLines lab, int length)
 {
-    alongTents(differences, length, [&](int i, f32v same, f32v other) {
+    // Differences of the colour of the row's sites, and of the colour of the sites above and below.
+    const auto columns = [&](int i) {
+        return Values<2>{{at(differences.line[1], i), at(differences.line[0], i) + at(differences.line[2], i)}};
+    };
+    alongNeighbours(length, columns, [&](int i, const Values<2>& left, const Values<2>& here, const Values<2>& right) {
+        const f32v same = here.v[0] + (left.v[0] + right.v[0]) * 0.5f;
+        const f32v other = here.v[1] * 0.5f + (left.v[1] + right.v[1]) * 0.25f;
         const f32v green = at(samples, i) - at(differences.line[1], i);
         storeLab(toLab(green * scale, (red ? same : other) * scale, (red ? other : same) * scale), lab, i);
     });
@@ -182,27 +142,68 @@ ZORCC_STAGE void homogeneity(JudgedRow across, JudgedRow down, float* to, int le
 
 // ---- the choice -----------------------------------------------------------------------------------------------------
 
-// A lead of up to 4 near neighbours of the 36 in a 3 x 3 window is no lead: the mean of both directions is taken. On
-// real pictures that is 0.1 dB better than taking a narrow winner.
-constexpr float noLead = 4;
+// The share of the candidate across in a pixel. It is half where both candidates have as many near neighbours around
+// the 5 x 5 pixels, and all or nothing from a lead of 32 of the 100: hard choices of one candidate by less than that
+// are wrong too often.
+ZORCC_INLINE f32v shareAcross(f32v lead) { return min(max(lead * (1 / 64.f) + 0.5f, f32v{}), fillFloat(1)); }
 
-// `near` are three rows of homogeneity. `green` is the result's green, `differences` those of the unrounded choice.
-ZORCC_STAGE void choose(Rows<3> near, Rows<5> samples, s32v sites, const float* across, const float* down, float* green,
-                        float* differences, int length)
+// `near` are five rows of homogeneity, of which `columns` takes the sums of the columns.
+ZORCC_STAGE void choose(Rows<5> near, float* columns, const float* samples, const float* across, const float* down,
+                        float* share, float* green, float* differences, int length)
 {
-    const auto columns = [&](int i) {
-        return Values<1>{{at(near.line[0], i) + at(near.line[1], i) + at(near.line[2], i)}};
-    };
-    alongNeighbours(length, columns, [&](int i, const Values<1>& left, const Values<1>& here, const Values<1>& right) {
-        const f32v lead = left.v[0] + here.v[0] + right.v[0];
-        const s32v isAcross = lead > fillFloat(noLead), isDown = lead < fillFloat(-noLead);
-        const auto chosen = [&](f32v a, f32v d, f32v both) { return select(isAcross, a, select(isDown, d, both)); };
-        const f32v a = at(across, i), d = at(down, i);
-        store(differences + i, chosen(a, d, (a + d) * 0.5f));
-        const f32v greenAcross = sidesAcross(samples, i).greenRoundedDown(),
-                   greenDown = sidesDown(samples, i).greenRoundedDown();
-        const f32v mean = (greenAcross + greenDown) * 0.5f; // to be rounded with all results
-        store(green + i, select(sites, chosen(greenAcross, greenDown, mean), at(samples.line[2], i)));
+    alongLine(length, [&](int i) {
+        const auto row = [&](int r) { return at(near.line[r], i); };
+        store(columns + i, row(0) + row(1) + row(2) + row(3) + row(4));
+    });
+    alongLine(length, [&](int i) {
+        const auto column = [&](int k) { return at(columns, i + k); };
+        const f32v t = shareAcross(column(-2) + column(-1) + column(0) + column(1) + column(2));
+        const f32v d = at(down, i), difference = d + (at(across, i) - d) * t;
+        store(share + i, t);
+        store(differences + i, difference);
+        store(green + i, at(samples, i) - difference);
+    });
+}
+
+// ---- red and blue everywhere ----------------------------------------------------------------------------------------
+
+// What differences and greens change at least along a diagonal, of 8-bit samples: below that all diagonals are alike.
+constexpr float leastChange = 4;
+
+// The third colour's differences at the sites, from both diagonals, weighted by the squares of how much differences and
+// greens change along the other one.
+ZORCC_STAGE void diagonals(Rows<3> differences, Rows<3> greens, s32v sites, float least, float* to, int length)
+{
+    alongLine(length, [&](int i) {
+        const f32v green = at(greens.line[1], i);
+        f32v sum[2], change[2];
+        for (int d = 0; d < 2; ++d) { // falling to the right, rising to the right
+            const int x = d == 0 ? 1 : -1;
+            const f32v above = at(differences.line[0], i - x), below = at(differences.line[2], i + x);
+            const f32v total = fillFloat(least) + abs(above - below) + abs(green - at(greens.line[0], i - x)) +
+                               abs(green - at(greens.line[2], i + x));
+            sum[d] = above + below;
+            change[d] = total * total;
+        }
+        const f32v weights = change[0] + change[1];
+        store(to + i, (s32v)((sum[0] * change[1] + sum[1] * change[0]) / (weights + weights)) & sites);
+    });
+}
+
+// Differences everywhere, of the colour of the row's sites and of the third colour. At a green pixel the neighbours
+// across and those down have both, and are mixed as the candidates are. Lines of both are zero at green pixels, so that
+// sites keep their own.
+ZORCC_STAGE void chroma(Rows<3> sites, Rows<3> thirds, const float* share, float* same, float* other, int length)
+{
+    alongLine(length, [&](int i) {
+        const f32v across = at(share, i) * 0.5f, down = 0.5f - across; // of two neighbours each
+        const auto mixed = [&](const Rows<3>& inRow, const Rows<3>& inColumn) {
+            const float* const row = inRow.line[1];
+            return at(row, i) + ((at(row, i - 1) + at(row, i + 1)) * across +
+                                 (at(inColumn.line[0], i) + at(inColumn.line[2], i)) * down);
+        };
+        store(same + i, mixed(sites, thirds));
+        store(other + i, mixed(thirds, sites));
     });
 }
 
@@ -210,34 +211,36 @@ ZORCC_STAGE void choose(Rows<3> near, Rows<5> samples, s32v sites, const float* 
 
 ZORCC_INLINE f32v medianOfThree(f32v a, f32v b, f32v c) { return max(min(a, b), min(max(a, b), c)); }
 
-// The differences of one colour in a row, from three rows of them. Where the colour is missing, its difference goes
-// half of the way to the median of 3 x 3: that takes away single wrong choices, while the whole way would take away
-// thin coloured lines, too. The median is that of the greatest of the columns' lowest, the median of the columns'
-// medians, and the lowest of the columns' greatest.
-ZORCC_STAGE void smooth(Rows<3> rows, float* to, int length)
+// The middle one is between the greater minimum and the lesser maximum of two pairs.
+ZORCC_INLINE f32v medianOfFive(f32v a, f32v b, f32v c, f32v d, f32v e)
 {
-    const auto column = [&](int i) {
-        const f32v a = at(rows.line[0], i), b = at(rows.line[1], i), c = at(rows.line[2], i);
-        const f32v less = min(a, b), more = max(a, b);
-        return Values<3>{{min(less, c), max(less, min(more, c)), max(more, c)}};
-    };
-    alongNeighbours(length, column, [&](int i, const Values<3>& left, const Values<3>& here, const Values<3>& right) {
-        const f32v low = max(max(left.v[0], here.v[0]), right.v[0]);
-        const f32v high = min(min(left.v[2], here.v[2]), right.v[2]);
-        const f32v median = medianOfThree(low, medianOfThree(left.v[1], here.v[1], right.v[1]), high);
-        store(to + i, (at(rows.line[1], i) + median) * 0.5f);
-    });
+    return medianOfThree(max(min(a, b), min(c, d)), min(max(a, b), max(c, d)), e);
 }
 
-// A row of the result as numbers to be rounded: the colour of the row's sites and the third colour, each in place of
-// its smoothed differences. Green comes from choose().
-ZORCC_STAGE void addGreen(const float* samples, const float* differences, s32v sites, float* siteColour,
-                          float* thirdColour, int length)
+// Differences go three quarters of the way to the median of the pixel and its four neighbours: that takes away single
+// wrong choices, while the whole way would take away thin coloured lines, too.
+ZORCC_INLINE f32v smoothed(const Rows<3>& rows, int i)
+{
+    const float* const row = rows.line[1];
+    const f32v own = at(row, i);
+    const f32v median = medianOfFive(at(row, i - 1), at(row, i + 1), at(rows.line[0], i), at(rows.line[2], i), own);
+    return own + (median - own) * 0.75f;
+}
+
+// A row of the result as numbers to be rounded: the colour of the row's sites, green, and the third colour.
+struct ResultLines {
+    float *site, *green, *third;
+};
+
+// Sites have their colour and lack green, the other pixels have green: the smoothed difference is between both.
+ZORCC_STAGE void finish(const float* samples, Rows<3> same, Rows<3> other, s32v sites, ResultLines to, int length)
 {
     alongLine(length, [&](int i) {
-        const f32v own = at(samples, i), green = own - at(differences, i);
-        store(siteColour + i, select(sites, own, green + at(siteColour, i)));
-        store(thirdColour + i, green + at(thirdColour, i));
+        const f32v own = at(samples, i), difference = smoothed(same, i);
+        const f32v green = own - (f32v)((s32v)difference & sites);
+        store(to.green + i, green);
+        store(to.site + i, own + (f32v)((s32v)difference & ~sites));
+        store(to.third + i, green + smoothed(other, i));
     });
 }
 

@@ -8,9 +8,13 @@ namespace zorcc::ZORCC_TIER {
 
 namespace {
 
-// What a pixel depends on: the median looks at neighbours, a difference is a tent over neighbours, the choice sums
-// over neighbours, nearness is to neighbours, a candidate's differences are tents, and green looks two pixels far.
-constexpr int reach = 1 + 1 + 1 + 1 + 1 + 2;
+// What a pixel depends on: the median looks at neighbours, a difference is mixed from neighbours and at them from
+// diagonal neighbours, the choice sums over 5 x 5 pixels, nearness is to neighbours, a candidate's differences are
+// tents, and green looks two pixels far.
+constexpr int greenReach = 2, reach = 1 + 1 + 1 + 2 + 1 + 1 + greenReach;
+
+// Only samples are needed as far as that. Other lines have so many columns more than the strip on both sides.
+constexpr int border = reach - greenReach;
 
 // The strip of columns that is worked on at a time: its lines stay in the first-level cache.
 constexpr int stripWidth = 256;
@@ -29,7 +33,7 @@ struct DistanceRing {
 };
 
 struct Candidate {
-    Ring<4> differences;
+    Ring<5> differences;
     LabRing lab;
     DistanceRing down; // to the row below
 
@@ -38,12 +42,16 @@ struct Candidate {
 
 // All lines of a strip. How many rows of each are kept follows from Strip::step.
 struct Lines {
-    Ring<8> samples;
+    Ring<10> samples;
     Candidate candidate[2]; // across: along the row; down: along the column
-    Ring<3> near;
-    Ring<3> green, differences; // of the choice
-    Ring<3> red, blue;          // differences everywhere
-    Ring<1> siteColour, thirdColour;
+    Ring<5> near;
+    Ring<1> nearColumns;
+    Ring<3> share; // of the candidate across
+    Ring<3> green; // of the choice; differences of the sites' colour and of the third colour
+    Ring<4> differences;
+    Ring<3> thirdDifferences;
+    Ring<3> red, blue; // differences everywhere
+    Ring<1> siteColour, resultGreen, thirdColour;
 };
 constexpr int lineCount = sizeof(Lines) / sizeof(float*);
 
@@ -58,7 +66,7 @@ public:
         __builtin_memcpy(&lines, all, sizeof lines);
     }
 
-    static int lineLength(int columns) { return (columns + 2 * reach + 15) / 16 * 16; }
+    static int lineLength(int columns) { return (columns + 2 * border + 15) / 16 * 16; }
 
     // Rows y0 .. y1 - 1 of the result.
     void run(int y0, int y1)
@@ -71,26 +79,28 @@ private:
     const MosaicOf<Sample>& mosaic;
     const int x, width, length;
     int top = 0; // the image row of row 0
+    static constexpr bool is8Bit = sizeof(Sample) == 1;
     Lines lines;
 
     // Brings in row i and takes everything that now can be done one row further.
     void step(int i)
     {
         loadLine(mosaic.row(mirrored(top + i, mosaic.size.height)), mosaic.size.width, x - reach, width + 2 * reach,
-                 lines.samples[i]);
+                 lines.samples[i] - greenReach);
         if (i >= 4) estimateGreen(i - 2);
         if (i >= 6) judge(i - 3);
         if (i == 7) measure(i - 4);
         if (i >= 8) compare(i - 4);
-        if (i >= 10) chooseGreen(i - 5);
-        if (i >= 12) interpolateColours(i - 6);
-        if (i >= 14) finish(i - 7);
+        if (i >= 12) mix(i - 6);
+        if (i >= 14) crossDiagonals(i - 7);
+        if (i >= 16) interpolateColours(i - 8);
+        if (i >= 18) result(i - 9);
     }
 
     RowColours coloursOf(int row) const { return mosaic.colours(top + row); }
     s32v sitesOf(int row) const
     {
-        return alternatingMask<s32v>(coloursOf(row).sitesAreOdd != (((x - reach) & 1) != 0));
+        return alternatingMask<s32v>(coloursOf(row).sitesAreOdd != (((x - border) & 1) != 0));
     }
 
     void estimateGreen(int row)
@@ -102,7 +112,7 @@ private:
     // Homogeneity is judged on a scale of 16 bits, so that 8-bit pictures are treated as the same at 16 bits would be.
     void judge(int row)
     {
-        constexpr float scale = sizeof(Sample) == 1 ? 257.f : 1.f;
+        constexpr float scale = is8Bit ? 257.f : 1.f;
         const auto convert = coloursOf(row).red ? candidateLab<true> : candidateLab<false>;
         for (const Candidate& c : lines.candidate)
             convert(lines.samples[row], c.differences.around(row), scale, c.lab[row], length);
@@ -119,29 +129,35 @@ private:
         homogeneity(lines.candidate[0].judged(row), lines.candidate[1].judged(row), lines.near[row], length);
     }
 
-    void chooseGreen(int row)
+    void mix(int row)
     {
-        choose(lines.near.around(row), lines.samples.farAround(row), sitesOf(row), lines.candidate[0].differences[row],
-               lines.candidate[1].differences[row], lines.green[row], lines.differences[row], length);
+        choose(lines.near.farAround(row), lines.nearColumns[0], lines.samples[row], lines.candidate[0].differences[row],
+               lines.candidate[1].differences[row], lines.share[row], lines.green[row], lines.differences[row], length);
     }
+
+    void crossDiagonals(int row)
+    {
+        diagonals(lines.differences.around(row), lines.green.around(row), sitesOf(row),
+                  is8Bit ? leastChange : leastChange * 257, lines.thirdDifferences[row], length);
+    }
+
+    const Ring<3>& siteColours(int row) const { return coloursOf(row).red ? lines.red : lines.blue; }
+    const Ring<3>& thirdColours(int row) const { return coloursOf(row).red ? lines.blue : lines.red; }
 
     void interpolateColours(int row)
     {
-        const bool red = coloursOf(row).red;
-        chroma(lines.differences.around(row), (red ? lines.red : lines.blue)[row], (red ? lines.blue : lines.red)[row],
-               length);
+        chroma(lines.differences.around(row), lines.thirdDifferences.around(row), lines.share[row],
+               siteColours(row)[row], thirdColours(row)[row], length);
     }
 
-    void finish(int row)
+    void result(int row)
     {
+        const ResultLines to{lines.siteColour[0], lines.resultGreen[0], lines.thirdColour[0]};
+        finish(lines.samples[row], siteColours(row).around(row), thirdColours(row).around(row), sitesOf(row), to,
+               length);
         const bool red = coloursOf(row).red;
-        smooth((red ? lines.red : lines.blue).around(row), lines.siteColour[0], length);
-        smooth((red ? lines.blue : lines.red).around(row), lines.thirdColour[0], length);
-        addGreen(lines.samples[row], lines.differences[row], sitesOf(row), lines.siteColour[0], lines.thirdColour[0],
-                 length);
-        const float *const site = lines.siteColour[0] + reach, *const third = lines.thirdColour[0] + reach;
-        storePixels({red ? site : third, lines.green[row] + reach, red ? third : site}, width,
-                    mosaic.pixel(x, top + row));
+        storePixels({(red ? to.site : to.third) + border, to.green + border, (red ? to.third : to.site) + border},
+                    width, mosaic.pixel(x, top + row));
     }
 };
 

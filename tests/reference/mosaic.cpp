@@ -62,7 +62,7 @@ namespace {
 // Values of a mosaic that is mirrored on all sides, for as many pixels as any pixel depends on.
 template <class T> class Plane {
 public:
-    static constexpr int margin = 8;
+    static constexpr int margin = 10;
 
     explicit Plane(ZorSize size)
         : width(size.width + 2 * margin), values(static_cast<std::size_t>(width) * (size.height + 2 * margin))
@@ -92,39 +92,33 @@ struct Step {
 };
 constexpr Step across{1, 0}, down{0, 1};
 
-// Green at a site along one direction: exact, and as integers are rounded.
-struct Green {
-    float exact;
-    int rounded;
-};
-
-Green estimate(const Mosaic& m, int x, int y, Step s)
+// Green at a site along one direction.
+float estimate(const Mosaic& m, int x, int y, Step s)
 {
     const int a = m(x - s.x, y - s.y), b = m(x + s.x, y + s.y), own = m(x, y);
     const int bend = (own - m(x - 2 * s.x, y - 2 * s.y)) + (own - m(x + 2 * s.x, y + 2 * s.y));
-    const int low = std::min(a, b), high = std::max(a, b);
-    return {std::clamp(static_cast<float>(2 * (a + b) + bend) / 4, static_cast<float>(low), static_cast<float>(high)),
-            std::clamp(((a + b) >> 1) + (bend >> 2), low, high)};
+    return std::clamp(static_cast<float>(2 * (a + b) + bend) / 4, static_cast<float>(std::min(a, b)),
+                      static_cast<float>(std::max(a, b)));
 }
 
-// Red and blue less green at a pixel, from those of the sites around it.
+// Red and blue less green at a pixel.
 struct Chroma {
     float red, blue;
 };
 
-Chroma chromaAt(const Mosaic& m, const Plane<float>& differences, int x, int y)
+// Of the colour of the row's sites, and of the third colour.
+Chroma inRow(const Mosaic& m, int x, int y, float same, float other)
 {
-    const auto d = [&](int dx, int dy) { return differences(x + dx, y + dy); };
-    float same, other; // of the colour of the row's sites, of the third colour
-    if (m.colour(x, y) == green) {
-        same = (d(-1, 0) + d(1, 0)) / 2;
-        other = (d(0, -1) + d(0, 1)) / 2;
-    } else {
-        same = d(0, 0);
-        other = (d(-1, -1) + d(1, -1) + d(-1, 1) + d(1, 1)) / 4;
-    }
     const bool rowHasRed = m.colour(x, y) == red || m.colour(x + 1, y) == red;
     return rowHasRed ? Chroma{same, other} : Chroma{other, same};
+}
+
+// A candidate's: averages of those at the sites around the pixel.
+Chroma averaged(const Mosaic& m, const Plane<float>& differences, int x, int y)
+{
+    const auto d = [&](int dx, int dy) { return differences(x + dx, y + dy); };
+    if (m.colour(x, y) == green) return inRow(m, x, y, (d(-1, 0) + d(1, 0)) / 2, (d(0, -1) + d(0, 1)) / 2);
+    return inRow(m, x, y, d(0, 0), (d(-1, -1) + d(1, -1) + d(-1, 1) + d(1, 1)) / 4);
 }
 
 // The curve as the library forms it, so that no choice depends on the last bit of another.
@@ -164,20 +158,18 @@ Distance distance(const Lab& a, const Lab& b)
 }
 
 struct Candidate {
-    Plane<Green> estimates;
     Plane<float> differences;
     Plane<Lab> lab;
 
-    Candidate(const Mosaic& m, Step direction) : estimates(m.size), differences(m.size), lab(m.size)
+    Candidate(const Mosaic& m, Step direction) : differences(m.size), lab(m.size)
     {
-        each(m.size, 6, [&](int x, int y) {
+        each(m.size, 8, [&](int x, int y) {
             if (m.colour(x, y) == green) return;
-            estimates(x, y) = estimate(m, x, y, direction);
-            differences(x, y) = static_cast<float>(m(x, y)) - estimates(x, y).exact;
+            differences(x, y) = static_cast<float>(m(x, y)) - estimate(m, x, y, direction);
         });
         const float scale = m.maximum == 255 ? 257.f : 1.f;
-        each(m.size, 4, [&](int x, int y) {
-            const Chroma chroma = chromaAt(m, differences, x, y);
+        each(m.size, 6, [&](int x, int y) {
+            const Chroma chroma = averaged(m, differences, x, y);
             lab(x, y) = toLab((static_cast<float>(m(x, y)) - differences(x, y)) * scale, chroma.red * scale,
                               chroma.blue * scale);
         });
@@ -208,13 +200,46 @@ int lead(const Candidate (&candidate)[2], int x, int y)
     return count;
 }
 
-// The colour's difference, half of the way to the median around it.
+// How much of a pixel is of the candidate across: half, and a 64th more for each near neighbour that this candidate has
+// more than the other among those of the 5 x 5 pixels around.
+float shareAcross(const Plane<int>& leads, int x, int y)
+{
+    int sum = 0;
+    for (int i = 0; i < 25; ++i) sum += leads(x + i % 5 - 2, y + i / 5 - 2);
+    return std::clamp(0.5f + static_cast<float>(sum) / 64, 0.f, 1.f);
+}
+
+// The third colour's difference at a site, from those of the sites on both diagonals, by the squares of how much
+// differences and greens change along each.
+float acrossDiagonals(const Mosaic& m, const Plane<float>& differences, int x, int y)
+{
+    const auto d = [&](int dx, int dy) { return differences(x + dx, y + dy); };
+    const auto g = [&](int dx, int dy) { return static_cast<float>(m(x + dx, y + dy)) - d(dx, dy); };
+    const float still = m.maximum == 255 ? 4.f : 4.f * 257;
+    const auto change = [&](int toTheRight) { // of a diagonal that goes down
+        const float total = still + std::abs(d(-toTheRight, -1) - d(toTheRight, 1)) +
+                            std::abs(g(0, 0) - g(-toTheRight, -1)) + std::abs(g(0, 0) - g(toTheRight, 1));
+        return total * total;
+    };
+    const float falling = change(1), rising = change(-1);
+    return ((d(-1, -1) + d(1, 1)) * rising + (d(1, -1) + d(-1, 1)) * falling) / (2 * (falling + rising));
+}
+
+// At a green pixel, where its four neighbours have both colours: the averages of those across and down, by share.
+float averagedByShare(const Plane<Chroma>& chroma, float Chroma::*colour, float share, int x, int y)
+{
+    return share * ((chroma(x - 1, y).*colour + chroma(x + 1, y).*colour) / 2) +
+           (1 - share) * ((chroma(x, y - 1).*colour + chroma(x, y + 1).*colour) / 2);
+}
+
+// The colour's difference, three quarters of the way to the median of it and of those of the four neighbours.
 float smoothed(const Plane<Chroma>& chroma, float Chroma::*colour, int x, int y)
 {
-    float values[9];
-    for (int i = 0; i < 9; ++i) values[i] = chroma(x + i % 3 - 1, y + i / 3 - 1).*colour;
-    std::nth_element(values, values + 4, values + 9);
-    return (chroma(x, y).*colour + values[4]) / 2;
+    const float own = chroma(x, y).*colour;
+    float values[5] = {own, chroma(x - 1, y).*colour, chroma(x + 1, y).*colour, chroma(x, y - 1).*colour,
+                       chroma(x, y + 1).*colour};
+    std::sort(std::begin(values), std::end(values));
+    return own + (values[2] - own) * 0.75f;
 }
 
 } // namespace
@@ -222,30 +247,33 @@ float smoothed(const Plane<Chroma>& chroma, float Chroma::*colour, int x, int y)
 Picture adaptive(const Mosaic& m)
 {
     const Candidate candidate[2] = {{m, across}, {m, down}};
-    Plane<int> leads(m.size), result(m.size);
-    each(m.size, 3, [&](int x, int y) { leads(x, y) = lead(candidate, x, y); });
-    Plane<float> differences(m.size);
-    each(m.size, 2, [&](int x, int y) {
-        if (m.colour(x, y) == green) return;
-        int sum = 0;
-        for (int i = 0; i < 9; ++i) sum += leads(x + i % 3 - 1, y + i / 3 - 1);
-        const Green a = candidate[0].estimates(x, y), d = candidate[1].estimates(x, y);
-        const Green chosen = sum > 4    ? a
-                             : sum < -4 ? d
-                                        : Green{(a.exact + d.exact) / 2, (a.rounded + d.rounded + 1) / 2};
-        differences(x, y) = static_cast<float>(m(x, y)) - chosen.exact;
-        result(x, y) = chosen.rounded;
+    Plane<int> leads(m.size);
+    each(m.size, 5, [&](int x, int y) { leads(x, y) = lead(candidate, x, y); });
+    Plane<float> shares(m.size), differences(m.size);
+    each(m.size, 3, [&](int x, int y) {
+        const float a = candidate[0].differences(x, y), d = candidate[1].differences(x, y);
+        shares(x, y) = shareAcross(leads, x, y);
+        if (m.colour(x, y) != green) differences(x, y) = d + (a - d) * shares(x, y);
     });
     Plane<Chroma> chroma(m.size);
-    each(m.size, 1, [&](int x, int y) { chroma(x, y) = chromaAt(m, differences, x, y); });
+    each(m.size, 2, [&](int x, int y) {
+        if (m.colour(x, y) == green) return;
+        chroma(x, y) = inRow(m, x, y, differences(x, y), acrossDiagonals(m, differences, x, y));
+    });
+    each(m.size, 1, [&](int x, int y) {
+        if (m.colour(x, y) != green) return;
+        chroma(x, y) = {averagedByShare(chroma, &Chroma::red, shares(x, y), x, y),
+                        averagedByShare(chroma, &Chroma::blue, shares(x, y), x, y)};
+    });
     Picture picture{m.size};
     each(m.size, 0, [&](int x, int y) {
         const Channel own = m.colour(x, y);
-        const float exact = static_cast<float>(m(x, y)) - differences(x, y);
+        const float r = smoothed(chroma, &Chroma::red, x, y), b = smoothed(chroma, &Chroma::blue, x, y);
+        const float g = static_cast<float>(m(x, y)) - (own == green ? 0 : own == red ? r : b);
         const auto rounded = [&](float v) { return std::clamp(static_cast<int>(std::floor(v + 0.5f)), 0, m.maximum); };
-        picture(x, y, red) = own == red ? m(x, y) : rounded(exact + smoothed(chroma, &Chroma::red, x, y));
-        picture(x, y, green) = own == green ? m(x, y) : result(x, y);
-        picture(x, y, blue) = own == blue ? m(x, y) : rounded(exact + smoothed(chroma, &Chroma::blue, x, y));
+        picture(x, y, red) = own == red ? m(x, y) : rounded(g + r);
+        picture(x, y, green) = own == green ? m(x, y) : rounded(g);
+        picture(x, y, blue) = own == blue ? m(x, y) : rounded(g + b);
     });
     return picture;
 }
