@@ -1,12 +1,13 @@
 # SPDX-License-Identifier: MIT
 # What both shared libraries have in common: the file name is the SONAME, nothing is exported but what is listed, no
-# executable stack, relocations read-only from the start, and no dependency that nothing needs.
+# executable stack, relocations read-only from the start, and no dependency that nothing needs. Once opened they stay:
+# the OpenMP runtime's idle threads run on, in code that must not be unmapped under them.
 function(zorcc_shared_library target)
   set_target_properties(${target} PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION}
     BUILD_WITH_INSTALL_RPATH ON INSTALL_RPATH "$ORIGIN" LINK_DEPENDS_NO_SHARED ON)
   target_link_libraries(${target} PRIVATE zorcc_options)
   target_compile_options(${target} PRIVATE -fno-exceptions -fno-rtti)
-  target_link_options(${target} PRIVATE -Wl,--as-needed -Wl,-z,relro,-z,now -Wl,-z,noexecstack)
+  target_link_options(${target} PRIVATE -Wl,--as-needed -Wl,-z,relro,-z,now -Wl,-z,noexecstack -Wl,-z,nodelete)
   if(NOT ZORCC_SANITIZE) # whose runtime comes with the program
     target_link_options(${target} PRIVATE -Wl,-z,defs)
   endif()
