@@ -7,14 +7,24 @@
 namespace zorcc::ZORCC_TIER {
 namespace {
 
+// What a worker keeps while it goes through its channels; too much for the stack of a small thread.
+template <class Weights> struct DiffusionMemory {
+    Errors<Weights> errors[maxChannels];
+    alignas(64) TileSteps samples, thresholds;
+    alignas(64) TileRows rows, rowThresholds;
+};
+
 // Converts some neighbouring channels of an image, band by band.
 template <class Src, class Dst, class Weights> class Diffusion {
 public:
-    Diffusion(const Reduction& r, const Noise* n, Channels c)
-        : reduction(r), noise(n), channels(c), steps(c.steps), formula(r)
+    // `memory` has diffusionFloats floats.
+    Diffusion(const Reduction& r, const Noise* n, Channels c, float* memoryOfWorker)
+        : reduction(r), noise(n), channels(c), steps(c.steps), formula(r),
+          memory(*(DiffusionMemory<Weights>*)memoryOfWorker)
     {
+        static_assert(sizeof memory <= diffusionFloats * sizeof(float) && alignof(DiffusionMemory<Weights>) <= 64);
         const float half = 0.5f * r.step(white<Src>);
-        for (auto& step : thresholds)
+        for (auto& step : memory.thresholds)
             for (float& threshold : step) threshold = half;
     }
 
@@ -23,10 +33,10 @@ public:
     {
         const auto [width, height] = reduction.size;
         const ptrdiff_t rowsOfChannel = rowsAbove<Weights> * (width + ptrdiff_t{2} * errorMargin);
-        for (int y = 0; y < height; y += bandRows) {
-            const int rows = height - y < bandRows ? height - y : bandRows;
+        for (ptrdiff_t y = 0; y < height; y += bandRows) {
+            const int rows = height - y < bandRows ? static_cast<int>(height - y) : bandRows;
             for (int c = 0; c < channels.count; ++c)
-                errors[c].startBand(errorRows + (channels.first + c) * rowsOfChannel, width);
+                memory.errors[c].startBand(errorRows + (channels.first + c) * rowsOfChannel, width);
             for (int64_t s = 0; s < int64_t{width} + lag<Weights> * (rows - 1); s += steps) convertTile(y, rows, s);
         }
     }
@@ -37,21 +47,19 @@ private:
     const Channels channels;
     const int steps;
     const AboveThreshold<Src, Dst> formula;
-
-    Errors<Weights> errors[maxChannels];
-    alignas(64) TileSteps samples, thresholds;
+    DiffusionMemory<Weights>& memory;
 
     // The tile that begins with step `first` of the band of `rows` rows from y on.
-    void convertTile(int y, int rows, int64_t first)
+    void convertTile(ptrdiff_t y, int rows, int64_t first)
     {
+        auto& [_, samples, thresholds, row, rowThresholds] = memory;
         const auto columnsFrom = [&](int64_t x) { return Span(x, reduction.size.width, steps); };
-        alignas(64) TileRows row, rowThresholds;
         for (int r = 0; r < bandRows; ++r) {
             const int64_t x = first - lag<Weights> * r;
             const Span in = columnsFrom(r < rows ? x : reduction.size.width);
             loadRow((const Src*)reduction.from.row(0, y + r) + x * channels.perPixel, channels, in, row[r]);
             if (noise)
-                for (int j = in.begin; j < in.end; ++j) rowThresholds[r][j] = noise->at(static_cast<int>(x + j), y + r);
+                for (int j = in.begin; j < in.end; ++j) rowThresholds[r][j] = noise->at(x + j, y + r);
         }
         transpose(row, samples, bandRows, steps * channels.count);
         if (noise) transpose(rowThresholds, thresholds, bandRows, steps);
@@ -72,6 +80,9 @@ private:
     {
         // Copies, which the stores below cannot change.
         const AboveThreshold<Src, Dst> quantise = formula;
+        Errors<Weights>* const errors = memory.errors;
+        TileSteps& samples = memory.samples;
+        const TileSteps& thresholds = memory.thresholds;
         const int count = channels.count, end = steps;
         for (int s = 0; s < end; ++s)
             for (int c = 0; c < count; ++c)
@@ -88,13 +99,14 @@ private:
 };
 
 template <class Src, class Dst, class Weights>
-void diffuseChannels(const Reduction& reduction, const Noise* noise, float* errors, int workers)
+void diffuseChannels(const Reduction& reduction, const Noise* noise, float* errors, float* memory, int workers)
 {
     sections(workers, [&](int worker) {
         // Where channels do not divide evenly the first workers have one more.
         const auto firstOf = [&](int w) { return (w * reduction.channels + workers - 1) / workers; };
         const int first = firstOf(worker), count = firstOf(worker + 1) - first;
-        Diffusion<Src, Dst, Weights>(reduction, noise, {first, count, reduction.samplesPerPixel}).convert(errors);
+        const Channels channels = {first, count, reduction.samplesPerPixel};
+        Diffusion<Src, Dst, Weights>(reduction, noise, channels, memory + worker * diffusionFloats).convert(errors);
     });
 }
 

@@ -21,7 +21,7 @@ public:
     ZorStatus create(float low, float high);
 
     // The noise of the pixel in column x of row y, whatever its channels.
-    [[gnu::always_inline]] float at(int x, int y) const
+    [[gnu::always_inline]] float at(int64_t x, int64_t y) const
     {
         const unsigned column = static_cast<unsigned>(x), start = static_cast<unsigned>(offset[column % period]);
         return amount[(start + 2 * static_cast<unsigned>(y) + column) % period];

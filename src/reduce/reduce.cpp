@@ -31,10 +31,11 @@ ZorStatus quantiseOrdered(const ReduceDrivers& drivers, const Reduction& reducti
 
 ZorStatus diffuse(DiffusionDriver& driver, int rowsAbove, const Reduction& reduction, float step, int noise)
 {
-    const int channels = reduction.channels, threads = threadsHere();
+    const int channels = reduction.channels, threads = threadsHere(), workers = threads < channels ? threads : channels;
     const int64_t count = (int64_t{reduction.size.width} + 2 * errorMargin) * rowsAbove * channels;
     const Owned<float> errors(count > INT_MAX ? nullptr : zorsMalloc_32f(static_cast<int>(count)));
-    if (!errors) return zorStatusNoMemory;
+    const Owned<float> memory(errors ? zorsMalloc_32f(workers * diffusionFloats) : nullptr);
+    if (!memory) return zorStatusNoMemory;
     memset(errors.get(), 0, static_cast<size_t>(count) * sizeof(float));
 
     Noise thresholds; // half a step, give or take noise percent of a step
@@ -42,7 +43,7 @@ ZorStatus diffuse(DiffusionDriver& driver, int rowsAbove, const Reduction& reduc
                 high = static_cast<float>(50 + noise) * step / 100.0f;
     if (noise != 0)
         if (const ZorStatus s = thresholds.create(low, high); s != zorStatusOk) return s;
-    driver(reduction, noise != 0 ? &thresholds : nullptr, errors.get(), threads < channels ? threads : channels);
+    driver(reduction, noise != 0 ? &thresholds : nullptr, errors.get(), memory.get(), workers);
     return zorStatusOk;
 }
 

@@ -34,11 +34,12 @@ template <class Sample> inline constexpr float white = 65535;
 template <> inline constexpr float white<uint8_t> = 255;
 template <> inline constexpr float white<float> = 1;
 
-// Error diffusion; no noise if that is null. `workers` threads share out the channels. `errors` holds, for every
+// Error diffusion; no noise if that is null. `workers` threads share out the channels, each with diffusionFloats floats
+// of `memory`, on 64-byte boundaries, for itself. `errors` holds, for every
 // channel that is converted, as many rows of zeros as the method looks up. A row has a margin on both sides of its
 // columns: samples there, which a band of rows passes on its way, leave no error and may be read and written.
-using DiffusionDriver = void(const Reduction&, const Noise* noise, float* errors, int workers);
-inline constexpr int errorMargin = 160;
+using DiffusionDriver = void(const Reduction&, const Noise* noise, float* errors, float* memory, int workers);
+inline constexpr int errorMargin = 160, diffusionFloats = 136 * 256;
 
 struct ReduceDrivers {
     void (&plain)(const Reduction&);
