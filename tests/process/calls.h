@@ -21,9 +21,14 @@ public:
     // Into a destination that always holds the same before.
     ZorStatus operator()()
     {
+        prepare();
+        return function.bound({images.source.image(), images.destination.image(), size, extra});
+    }
+
+    void prepare()
+    {
         images.destination.fillPattern(2);
         if (function.signature.inPlace) fill(images.destination, Contents::random, 1);
-        return function.bound({images.source.image(), images.destination.image(), size, extra});
     }
 
     void expectThisAgain() { images.destination.copyToShadow(); }

@@ -55,7 +55,7 @@ TEST_F(LimitsDeathTest, NoCountOfThreadsIsTooManyForAPicture)
     EXPECT_EXIT(std::_Exit(wrongCalls(INT_MAX, {300, 300})), testing::ExitedWithCode(0), "");
 }
 
-#if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__) // which map terabytes
+#ifndef ZORCC_SANITIZED // which maps terabytes
 TEST_F(LimitsDeathTest, ManyThreadsInLittleAddressSpace)
 {
     EXPECT_EXIT((limitAddressSpace(700 << 20), std::_Exit(wrongCalls(100, {300, 300}))), testing::ExitedWithCode(0),
