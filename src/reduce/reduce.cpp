@@ -32,7 +32,7 @@ ZorStatus quantiseOrdered(const ReduceDrivers& drivers, const Reduction& reducti
 ZorStatus diffuse(DiffusionDriver& driver, int rowsAbove, const Reduction& reduction, float step, int noise)
 {
     const int channels = reduction.channels, threads = threadsHere(), workers = threads < channels ? threads : channels;
-    const int64_t count = (int64_t{reduction.size.width} + 2 * errorMargin) * rowsAbove * channels;
+    const int64_t count = (int64_t{reduction.size.width} + int64_t{2} * errorMargin) * rowsAbove * channels;
     const Owned<float> errors(count > INT_MAX ? nullptr : zorsMalloc_32f(static_cast<int>(count)));
     const Owned<float> memory(errors ? zorsMalloc_32f(workers * diffusionFloats) : nullptr);
     if (!memory) return zorStatusNoMemory;

@@ -1,9 +1,9 @@
 # SPDX-License-Identifier: MIT
 """The binary interface is what it was: abi.py LIBRARY BASELINE COMPILER
 
-BASELINE has the types and the functions that callers have been compiled with, in C++. A library of the same name is made
-of it and compared with LIBRARY by abidiff: functions and their versions, sizes and members of types, enumerators. What a
-release adds is added to the baseline; nothing in it is changed.
+BASELINE has the types and the functions that callers have been compiled with, in C++. A library of the same name is
+made of it and compared with LIBRARY by abidiff: functions and their versions, sizes and members of types, enumerators.
+What a release adds is added to the baseline; nothing in it is changed.
 """
 import pathlib
 import re
