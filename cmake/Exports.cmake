@@ -1,22 +1,24 @@
 # SPDX-License-Identifier: MIT
 # What both shared libraries have in common: the file name is the SONAME, nothing is exported but what is listed, no
-# executable stack, relocations read-only from the start, and no dependency that nothing needs.
+# executable stack, relocations read-only from the start, and no dependency that nothing needs. Once opened they stay:
+# the OpenMP runtime's idle threads run on, in code that must not be unmapped under them.
 function(zorcc_shared_library target)
   set_target_properties(${target} PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION}
     BUILD_WITH_INSTALL_RPATH ON INSTALL_RPATH "$ORIGIN" LINK_DEPENDS_NO_SHARED ON)
-  target_link_libraries(${target} PRIVATE zorcc_options)
-  target_compile_options(${target} PRIVATE -fno-exceptions -fno-rtti)
-  target_link_options(${target} PRIVATE -Wl,--as-needed -Wl,-z,relro,-z,now -Wl,-z,noexecstack)
+  target_link_libraries(${target} PRIVATE zorcc_library_options)
+  # The C library's start files are marked for neither half of control-flow enforcement here; shadow stacks suit them.
+  target_link_options(${target} PRIVATE -Wl,--as-needed -Wl,-z,nodelete -Wl,-z,shstk)
   if(NOT ZORCC_SANITIZE) # whose runtime comes with the program
     target_link_options(${target} PRIVATE -Wl,-z,defs)
   endif()
 endfunction()
 
-# Exports exactly the named symbols.
+# Exports exactly the named symbols, as of this version of the target.
 function(zorcc_export target)
   list(JOIN ARGN ";\n    " symbols)
+  string(TOUPPER ${target}_${PROJECT_VERSION} version)
   set(script ${CMAKE_CURRENT_BINARY_DIR}/${target}.map)
-  file(CONFIGURE OUTPUT ${script} CONTENT "{\n  global:\n    ${symbols};\n  local:\n    *;\n};\n")
+  file(CONFIGURE OUTPUT ${script} CONTENT "${version} {\n  global:\n    ${symbols};\n  local:\n    *;\n};\n")
   target_link_options(${target} PRIVATE -Wl,--version-script=${script})
   set_property(TARGET ${target} APPEND PROPERTY LINK_DEPENDS ${script})
 endfunction()

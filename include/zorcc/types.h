@@ -33,17 +33,22 @@ typedef struct {
     int32_t x, y, width, height;
 } ZorRect;
 
+/*
+ * Enumerations whose values are arguments. In C++, too, they may be given any int: one that names nothing has the
+ * status that the function says.
+ */
+#if defined(__cplusplus)
+    #define ZOR_ENUM enum : int
+#else
+    #define ZOR_ENUM enum
+#endif
+
 /* Colours of the 2 x 2 cell at pixel (0, 0) of a Bayer mosaic, read row by row. */
-typedef enum { zorBayerBGGR = 0, zorBayerRGGB = 1, zorBayerGBRG = 2, zorBayerGRBG = 3 } ZorBayerGrid;
+typedef ZOR_ENUM{zorBayerBGGR = 0, zorBayerRGGB = 1, zorBayerGBRG = 2, zorBayerGRBG = 3} ZorBayerGrid;
 
 /* How bit-depth reduction chooses a level: see zorcc/reduce.h. */
-typedef enum {
-    zorDitherMethodNone = 0,
-    zorDitherMethodFloydSteinberg = 1,
-    zorDitherMethodJarvisJudiceNinke = 2,
-    zorDitherMethodStucki = 3,
-    zorDitherMethodOrdered = 4
-} ZorDitherMethod;
+typedef ZOR_ENUM{zorDitherMethodNone = 0, zorDitherMethodFloydSteinberg = 1, zorDitherMethodJarvisJudiceNinke = 2,
+                 zorDitherMethodStucki = 3, zorDitherMethodOrdered = 4} ZorDitherMethod;
 
 /* Begins the declaration of an exported function: C linkage, visible outside the library. */
 #if defined(__GNUC__)

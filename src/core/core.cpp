@@ -4,6 +4,7 @@
 #include <cpuid.h>
 #include <limits.h>
 #include <omp.h>
+#include <pthread.h>
 #include <stdlib.h>
 #include <unistd.h>
 
@@ -12,6 +13,15 @@ namespace {
 constexpr size_t blockAlignment = 64; // a cache line, and the widest vector
 
 int configuredThreads = 0; // 0: not set, the OpenMP runtime decides
+
+// A child of a fork has the memory of the OpenMP runtime, but not its threads: a team there would be waited for for
+// ever. Set before the child's only thread goes on.
+bool isForkedChild = false;
+
+__attribute__((constructor)) void handleForks()
+{
+    static_cast<void>(pthread_atfork(nullptr, nullptr, [] { isForkedChild = true; }));
+}
 
 int knownCacheBytes = 0; // 0: not asked yet; every thread finds the same value, so it does not matter who stores it
 
@@ -73,6 +83,7 @@ ZorStatus zorGetMaxCacheSizeB(int* bytes)
 
 int ownGetNumThreads(void)
 {
+    if (isForkedChild) return 1;
     const int configured = __atomic_load_n(&configuredThreads, __ATOMIC_RELAXED);
     if (configured > 0) return configured;
     const int usual = omp_get_max_threads();

@@ -25,7 +25,7 @@ public:
     // A row of the border: y and its neighbours.
     void fillBorderRow(int y)
     {
-        const int up = mirrored(y - 1, mosaic.size.height), down = mirrored(y + 1, mosaic.size.height);
+        const int up = rowNear(y, -1), down = rowNear(y, 1);
         load(up);
         load(y);
         load(down);
@@ -52,6 +52,12 @@ private:
     const int x, width;
     alignas(64) Sample planes[ring][2][planeLength];
 
+    // A neighbour of row y, as which the image may be mirrored.
+    int rowNear(int y, int distance) const
+    {
+        return static_cast<int>(mirrored(ptrdiff_t{y} + distance, mosaic.size.height));
+    }
+
     Sample* plane(int row, int which) { return planes[row % ring][which] + margin; }
 
     // Sets one column of the planes, counted from x.
@@ -60,7 +66,7 @@ private:
     void load(int row)
     {
         const Sample* const samples = mosaic.row(row);
-        const auto at = [&](int column) { return samples[mirrored(x + column, mosaic.size.width)]; };
+        const auto at = [&](int column) { return samples[mirrored(ptrdiff_t{x} + column, mosaic.size.width)]; };
         put(row, -2, at(-2));
         put(row, -1, at(-1));
         const int inside = between(0, mosaic.size.width - x, width + 2);
@@ -126,13 +132,12 @@ private:
     void plainBorderColumns(int y)
     {
         const RowColours colours = mosaic.colours(y);
-        const auto plain = [&](int column) {
-            if (column < x || column >= x + width || !colours.isSite(column)) return;
+        const auto plain = [&](ptrdiff_t column) {
+            if (column < x || column - x >= width || !colours.isSite(column)) return;
             const Sample* const row = mosaic.row(y);
-            const int sum = row[mirrored(column - 1, mosaic.size.width)] +
-                            row[mirrored(column + 1, mosaic.size.width)] + mosaic.row(y - 1)[column] +
-                            mosaic.row(y + 1)[column];
-            mosaic.pixel(column, y)[1] = static_cast<Sample>((sum + 2) >> 2);
+            const auto beside = [&](int distance) { return row[mirrored(column + distance, mosaic.size.width)]; };
+            const int sum = beside(-1) + beside(1) + mosaic.row(y - 1)[column] + mosaic.row(y + 1)[column];
+            mosaic.pixel(static_cast<int>(column), y)[1] = static_cast<Sample>((sum + 2) >> 2);
         };
         for (int k = 0; k < border; ++k) {
             plain(k);
@@ -150,10 +155,10 @@ template <class Sample> void cfaToRgb(const Mosaic& untyped)
     const int left = between(region.x0, border, region.x1), right = between(left, width - border, region.x1);
     const int top = between(region.y0, border, region.y1), bottom = between(top, height - border, region.y1);
     const auto eachStrip = [&](auto fill) {
-        for (int x = region.x0; x < region.x1; x += Strip<Sample>::maxWidth) {
-            Strip<Sample> strip(mosaic, x, between(0, region.x1 - x, Strip<Sample>::maxWidth));
+        eachStripOf<Strip<Sample>::maxWidth>(region, [&](int x, int columns) {
+            Strip<Sample> strip(mosaic, x, columns);
             fill(strip);
-        }
+        });
     };
     eachStrip([&](Strip<Sample>& strip) {
         for (int y = region.y0; y < top; ++y) strip.fillBorderRow(y);

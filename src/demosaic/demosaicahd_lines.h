@@ -25,7 +25,7 @@ public:
     {
     }
 
-    int lines() const { return scratchRows * linesPerRow; }
+    int64_t lines() const { return int64_t{scratchRows} * linesPerRow; }
 
     float* line(int index) const
     {

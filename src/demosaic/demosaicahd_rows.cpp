@@ -71,22 +71,22 @@ public:
     // Rows y0 .. y1 - 1 of the result.
     void run(int y0, int y1)
     {
-        top = y0 - reach;
+        top = ptrdiff_t{y0} - reach;
         for (int i = 0; i < y1 - y0 + 2 * reach; ++i) step(i);
     }
 
 private:
     const MosaicOf<Sample>& mosaic;
     const int x, width, length;
-    int top = 0; // the image row of row 0
+    ptrdiff_t top = 0; // the image row of row 0, as mirrored
     static constexpr bool is8Bit = sizeof(Sample) == 1;
     Lines lines;
 
     // Brings in row i and takes everything that now can be done one row further.
     void step(int i)
     {
-        loadLine(mosaic.row(mirrored(top + i, mosaic.size.height)), mosaic.size.width, x - reach, width + 2 * reach,
-                 lines.samples[i] - greenReach);
+        loadLine(mosaic.row(mirrored(top + i, mosaic.size.height)), mosaic.size.width, ptrdiff_t{x} - reach,
+                 width + 2 * reach, lines.samples[i] - greenReach);
         if (i >= 4) estimateGreen(i - 2);
         if (i >= 6) judge(i - 3);
         if (i == 7) measure(i - 4);
@@ -157,7 +157,7 @@ private:
                length);
         const bool red = coloursOf(row).red;
         storePixels({(red ? to.site : to.third) + border, to.green + border, (red ? to.third : to.site) + border},
-                    width, mosaic.pixel(x, top + row));
+                    width, mosaic.pixel(x, static_cast<int>(top + row)));
     }
 };
 
@@ -166,13 +166,14 @@ template <class Sample> void demosaicAhd(const Mosaic& untyped, const Image& scr
     const MosaicOf<Sample> mosaic{untyped};
     const Region region = mosaic.region;
     const int width = region.x1 - region.x0, height = region.y1 - region.y0;
-    const auto stripAt = [&](int x) { return region.x1 - x < stripWidth ? region.x1 - x : stripWidth; };
-    const Scratch scratch(scratchImage, width, Strip<Sample>::lineLength(stripAt(region.x0)));
-    bandsAboveThreshold(width, height, scratch.lines() / lineCount, [&](int band, int first, int count) {
-        const int y0 = region.y0 + first;
-        for (int x = region.x0; x < region.x1; x += stripWidth)
-            Strip<Sample>(mosaic, scratch, band * lineCount, x, stripAt(x)).run(y0, y0 + count);
-    });
+    const Scratch scratch(scratchImage, width, Strip<Sample>::lineLength(width < stripWidth ? width : stripWidth));
+    bandsAboveThreshold(width, height, static_cast<int>(scratch.lines() / lineCount),
+                        [&](int band, int first, int count) {
+                            const int y0 = region.y0 + first;
+                            eachStripOf<stripWidth>(region, [&](int x, int columns) {
+                                Strip<Sample>(mosaic, scratch, band * lineCount, x, columns).run(y0, y0 + count);
+                            });
+                        });
 }
 
 } // namespace

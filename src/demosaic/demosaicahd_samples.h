@@ -11,7 +11,7 @@ namespace zorcc::ZORCC_TIER {
 namespace {
 
 // `count` samples of a row of `width`, from column x on, which like the last may lie outside.
-template <class Sample> void loadLine(const Sample* row, int width, int x, int count, float* line)
+template <class Sample> void loadLine(const Sample* row, int width, ptrdiff_t x, int count, float* line)
 {
     int i = 0;
     for (; i < count && x + i < 0; ++i) line[i] = row[mirrored(x + i, width)];

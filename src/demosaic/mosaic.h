@@ -13,14 +13,14 @@ struct RowColours {
     bool red;         // the sites are red, not blue
     bool sitesAreOdd; // they lie in the odd columns
 
-    bool isSite(int x) const { return (x & 1) == sitesAreOdd; }
+    bool isSite(ptrdiff_t x) const { return (x & 1) == sitesAreOdd; }
 };
 
 template <class Sample> struct MosaicOf : Mosaic {
-    const Sample* row(int y) const { return (const Sample*)from.row(0, y); }
-    Sample* pixel(int x, int y) const { return (Sample*)to.row(0, y - region.y0) + 3 * (x - region.x0); }
+    const Sample* row(ptrdiff_t y) const { return (const Sample*)from.row(0, y); }
+    Sample* pixel(int x, int y) const { return (Sample*)to.row(0, y - region.y0) + ptrdiff_t{3} * (x - region.x0); }
 
-    RowColours colours(int y) const
+    RowColours colours(ptrdiff_t y) const // a row that may lie outside the image
     {
         const bool odd = (y & 1) != 0;
         return {(grid == zorBayerRGGB || grid == zorBayerGRBG) != odd,
@@ -30,10 +30,20 @@ template <class Sample> struct MosaicOf : Mosaic {
 
 // The index inside 0 .. count - 1 that stands for one outside: the image is mirrored at its first and last pixel, which
 // keeps every colour at its place in the mosaic.
-ZORCC_INLINE int mirrored(int i, int count)
+ZORCC_INLINE ptrdiff_t mirrored(ptrdiff_t i, ptrdiff_t count)
 {
     while (i < 0 || i >= count) i = i < 0 ? -i : 2 * (count - 1) - i;
     return i;
+}
+
+// Calls strip(first column, columns) for strips of `width` columns of a region, from left to right; the last may be
+// narrower. A region may end at the greatest int.
+template <int width, class Strip> ZORCC_INLINE void eachStripOf(const Region& region, Strip strip)
+{
+    for (ptrdiff_t x = region.x0; x < region.x1; x += width) {
+        const ptrdiff_t columns = region.x1 - x;
+        strip(static_cast<int>(x), columns < width ? static_cast<int>(columns) : width);
+    }
 }
 
 } // namespace

@@ -5,6 +5,8 @@
 #include <omp.h>
 #include <stdint.h>
 
+#include <algorithm>
+
 #include "zorcore.h"
 
 namespace zorcc {
@@ -17,10 +19,14 @@ constexpr int minGroupedWidth = 128;
 constexpr int maxSerialGroupedHeight = 128;
 constexpr int rowsPerGroup = 4;
 
-// Calls body(0) .. body(count - 1), contiguous ranges on each of at most `threads` threads.
-void forEach(int threads, int count, FunctionRef<void(int)> body)
+// No team is larger than the greater of both: the runtime ends the process when it cannot start what it is asked for.
+constexpr int largestTeam = 32, largestTeamPerProcessor = 4;
+
+// Calls body(0) .. body(count - 1), contiguous ranges on each of at most `wanted` threads.
+void forEach(int wanted, int count, FunctionRef<void(int)> body)
 {
-    if (threads == 1) {
+    const int threads = std::min(wanted, count);
+    if (threads <= 1) {
         for (int i = 0; i < count; ++i) body(i);
         return;
     }
@@ -31,7 +37,13 @@ void forEach(int threads, int count, FunctionRef<void(int)> body)
 } // namespace
 
 // A caller that is parallel itself already keeps the processors busy.
-int threadsHere() { return omp_in_parallel() ? 1 : ownGetNumThreads(); }
+int threadsHere()
+{
+    if (omp_in_parallel()) return 1;
+    const int threads = ownGetNumThreads();
+    if (threads <= largestTeam) return threads; // to count processors takes a system call
+    return std::min(threads, std::max(largestTeam, largestTeamPerProcessor * omp_get_num_procs()));
+}
 
 void Member::waitForOthers() const
 {
@@ -69,7 +81,7 @@ void bandsAboveThreshold(int width, int height, FunctionRef<void(int, int)> band
 void bandsAboveThreshold(int width, int height, int mostBands, FunctionRef<void(int, int, int)> band)
 {
     const int threads = width >= minBandedSize && height >= minBandedSize ? threadsHere() : 1;
-    const int bands = threads < mostBands ? threads : mostBands;
+    const int bands = std::max(1, std::min({threads, mostBands, height}));
     const int share = height / bands;
     forEach(bands, bands, [&](int index) {
         const int first = index * share;
@@ -81,7 +93,8 @@ void bandsAboveThreshold(int width, int height, int mostBands, FunctionRef<void(
 void groupsAboveThreshold(int width, int height, FunctionRef<void(GroupBand)> band)
 {
     const int groups = height / rowsPerGroup;
-    const int threads = width >= minGroupedWidth && height > maxSerialGroupedHeight ? threadsHere() : 1;
+    const bool isLarge = width >= minGroupedWidth && height > maxSerialGroupedHeight;
+    const int threads = isLarge ? std::min(threadsHere(), groups) : 1;
     if (threads == 1) {
         band({0, groups, true, true});
         return;

@@ -10,7 +10,8 @@
 
 namespace zorcc {
 
-// Threads that a call may use here, at least 1: one inside a parallel region.
+// Threads that a call may use here, at least 1: one inside a parallel region, and no more than a machine can make use
+// of. What follows also uses no more than there are rows, bands or sections.
 int threadsHere();
 
 // One of the threads of a team.

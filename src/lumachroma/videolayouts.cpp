@@ -14,7 +14,7 @@ namespace {
 // Bits of the slice argument.
 constexpr int first = 1, middle = 4, last = 16, whole = first | middle | last;
 
-// A slice that is not the first also converts what the one before it had to leave: it starts two rows of luma earlier.
+// Where a slice's driver starts that is not the first.
 Image twoRowsEarlier(Image image, int planesOfHalfHeight)
 {
     for (int p = 0; p < image.planes; ++p)
@@ -31,8 +31,7 @@ ZorStatus deinterlace(DriverWith<FrameEdges>& driver, const Image& from, const I
     else if (slice == first)
         driver(from, to, size, {true, false});
     else if (slice == middle || slice == last)
-        driver(twoRowsEarlier(from, 1), twoRowsEarlier(to, to.planes - 1), {size.width, size.height + 2},
-               {false, slice == last});
+        driver(twoRowsEarlier(from, 1), twoRowsEarlier(to, to.planes - 1), size, {false, slice == last});
     return status;
 }
 

@@ -216,7 +216,7 @@ template <class Layout> ZORCC_INLINE void prefetchAhead(const Layout& row, int x
     if constexpr (requires { typename Layout::Sample; }) {
         constexpr int step = Layout::pixelsAtOnce;
         constexpr int ahead = (prefetchedBytes / Layout::line[0].unit.bytes + step - 1) / step * step;
-        if (sizeof(typename Layout::Sample) == 1 || x + ahead >= width) return;
+        if (sizeof(typename Layout::Sample) == 1 || ahead >= width - x) return;
         Layout::each([&](int l) {
             for (ptrdiff_t b = 0; b < Layout::line[l].unit.offset(step); b += 64)
                 __builtin_prefetch(row.at(l, x + ahead) + b);

@@ -35,7 +35,7 @@ ZorStatus diffuse(DiffusionDriver& driver, int rowsAbove, const Reduction& reduc
 {
     const auto [width, height] = reduction.size;
     const int channels = reduction.channels;
-    const int64_t errors = ((int64_t{width} + 2 * errorMargin) * rowsAbove * channels + 15) & -16;
+    const int64_t errors = ((int64_t{width} + int64_t{2} * errorMargin) * rowsAbove * channels + 15) & -16;
     const auto floatsFor = [&](int workers) {
         const int64_t levels = workers > 1 ? 2 * bandRows * channels * (levelsStep(width) / int64_t{sizeof(float)}) : 0;
         return errors + workers * workspaceFloats + levels;

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <atomic>
+#include <climits>
 #include <functional>
 #include <mutex>
 #include <set>
@@ -133,6 +134,18 @@ TEST_F(Parallel, TeamsHaveAThreadForEachMemberAndWaitForAll)
     }
 }
 
+TEST_F(Parallel, TeamsAreNoLargerThanTheMachineOrTheWork)
+{
+    ASSERT_EQ(zorSetNumThreads(INT_MAX), zorStatusOk);
+    const int largest = threadsHere();
+    EXPECT_EQ(largest, std::max(32, 4 * omp_get_num_procs()));
+    for (const Pattern& pattern : patterns)
+        EXPECT_LE(static_cast<int>(observe(pattern, INT_MAX, 1000, 1000).threads.size()), largest) << pattern.name;
+    EXPECT_FALSE(observe(rows, 4, 5000, 1).forked);
+    EXPECT_FALSE(observe(always, 4, 5000, 1).forked);
+    EXPECT_EQ(observe(always, 4, 1, 3).threads.size(), 3u);
+}
+
 TEST_F(Parallel, StaysOnTheCallingThreadInsideAParallelRegion)
 {
     ASSERT_EQ(zorSetNumThreads(4), zorStatusOk);
@@ -164,10 +177,10 @@ TEST_F(Parallel, ForksFromItsSizeOn)
         int threads, width, height;
         bool forks;
     } cases[] = {
-        {rows, 4, 64, 64, false},     {rows, 4, 65, 64, true},       {rows, 4, 4096, 1, false},
-        {rows, 4, 4097, 1, true},     {rows, 4, 1, 4096, false},     {rows, 4, 1, 4097, true},
+        {rows, 4, 64, 64, false},     {rows, 4, 65, 64, true},       {rows, 4, 2048, 2, false},
+        {rows, 4, 2049, 2, true},     {rows, 4, 1, 4096, false},     {rows, 4, 1, 4097, true},
         {rows, 4, 17, 241, true},     {rows, 4, 65536, 65536, true}, // a product that 32 bits would lose
-        {rows, 1, 1000, 1000, false}, {always, 4, 1, 1, true},       {always, 4, 4096, 2, true},
+        {rows, 1, 1000, 1000, false}, {always, 4, 1, 2, true},       {always, 4, 4096, 2, true},
         {always, 1, 9, 1000, false},  {bands, 4, 192, 192, true},    {bands, 4, 191, 192, false},
         {bands, 4, 192, 191, false},  {bands, 4, 5000, 191, false},  {bands, 4, 191, 5000, false},
         {bands, 1, 999, 999, false},  {groups, 4, 128, 129, true},   {groups, 4, 127, 129, false},
@@ -211,7 +224,6 @@ TEST_F(Parallel, SharesByHand)
         {bands, 3, 200, 200, {{0, 66}, {66, 66}, {132, 68}}},
         {bands, 7, 192, 192, {{0, 27}, {27, 27}, {54, 27}, {81, 27}, {108, 27}, {135, 27}, {162, 30}}},
         {bands, 5, 5000, 191, {{0, 191}}},
-        {bands, 193, 192, 192, {{0, 192}}}, // quotient 0: the remainder is everything
         // first group, group count, is first, is last
         {groups, 2, 500, 4, {{0, 1, 1, 1}}},
         {groups, 2, 500, 3, {{0, 0, 1, 1}}},
@@ -221,7 +233,7 @@ TEST_F(Parallel, SharesByHand)
         {groups, 3, 128, 131, {{0, 10, 1, 0}, {10, 10, 0, 0}, {20, 12, 0, 1}}}, // three rows left over
         // 64 groups, 63 divided
         {groups, 4, 999, 256, {{0, 15, 1, 0}, {15, 15, 0, 0}, {30, 15, 0, 0}, {45, 19, 0, 1}}},
-        {groups, 40, 128, 131, {{0, 32, 1, 1}}}, // quotient 0
+        {groups, 32, 128, 131, {{0, 32, 1, 1}}}, // quotient 0
     };
     for (const auto& c : cases)
         EXPECT_EQ(observe(c.pattern, c.threads, c.width, c.height).shares, c.shares)

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <climits>
 #include <cmath>
 #include <limits>
 #include <numeric>
@@ -104,6 +105,15 @@ TEST(ReduceInputs, FloatsOfEveryKind)
     expectAll(zoriReduceBits_32f8u_C1R, floats, levels);
     expectAll(zoriReduceBits_32f16u_C1R, floats, levels);
     expectAll(zoriReduceBits_32f16s_C1R, floats, levels);
+}
+
+TEST(ReduceInputs, MethodsThatAreNone)
+{
+    const std::uint8_t sample = 100;
+    std::uint8_t result = 99;
+    for (const ZorDitherMethod method : {ZorDitherMethod{5}, ZorDitherMethod{-1}, ZorDitherMethod{INT_MIN}})
+        EXPECT_EQ(zoriReduceBits_8u_C1R(&sample, 1, &result, 1, {1, 1}, 0, method, 2), zorStatusOk);
+    EXPECT_EQ(result, 99);
 }
 
 // What saturates is extreme and leaves no error: the samples around it are as if it were not there.

@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: MIT
+// Processes and threads that have little: address space, stack, time.
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <unistd.h>
+
+#include <climits>
+#include <cstdio>
+#include <cstdlib>
+
+#include "tests/process/calls.h"
+#include "tests/process/small_threads.h"
+#include "zorcore.h"
+
+namespace zorcc::test {
+namespace {
+
+// Address space of this process, in bytes.
+rlim_t mappedBytes()
+{
+    long pages = 0;
+    std::FILE* const file = std::fopen("/proc/self/statm", "r");
+    if (!file || std::fscanf(file, "%ld", &pages) != 1) std::abort();
+    std::fclose(file);
+    return static_cast<rlim_t>(pages) * static_cast<rlim_t>(sysconf(_SC_PAGESIZE));
+}
+
+void limitAddressSpace(rlim_t more)
+{
+    const rlim_t bytes = mappedBytes() + more;
+    const rlimit limit{bytes, bytes};
+    if (setrlimit(RLIMIT_AS, &limit) != 0) std::abort();
+}
+
+// Calls of every function for a process of its own; how many were not as `expected`.
+int wrongCalls(int threads, ZorSize size)
+{
+    int wrong = 0;
+    static_cast<void>(zorSetNumThreads(threads));
+    for (const interface::Function& function : interface::functions()) wrong += PreparedCall(function, size)() < -6;
+    return wrong;
+}
+
+struct LimitsDeathTest : testing::Test {
+    LimitsDeathTest() { GTEST_FLAG_SET(death_test_style, "threadsafe"); }
+};
+
+TEST_F(LimitsDeathTest, NoCountOfThreadsIsTooManyForAPixel)
+{
+    EXPECT_EXIT(std::_Exit(wrongCalls(INT_MAX, {1, 1})), testing::ExitedWithCode(0), "");
+}
+
+TEST_F(LimitsDeathTest, NoCountOfThreadsIsTooManyForAPicture)
+{
+    EXPECT_EXIT(std::_Exit(wrongCalls(INT_MAX, {300, 300})), testing::ExitedWithCode(0), "");
+}
+
+#ifndef ZORCC_SANITIZED // which maps terabytes
+TEST_F(LimitsDeathTest, ManyThreadsInLittleAddressSpace)
+{
+    EXPECT_EXIT((limitAddressSpace(700 << 20), std::_Exit(wrongCalls(100, {300, 300}))), testing::ExitedWithCode(0),
+                "");
+}
+#endif
+
+} // namespace
+} // namespace zorcc::test
