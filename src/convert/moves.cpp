@@ -2,7 +2,7 @@
 #include "convert/moves.h"
 
 #include <algorithm>
-#include <cmath>
+#include <climits>
 #include <cstring>
 #include <type_traits>
 
@@ -107,7 +107,8 @@ ZorSize extentOf(const Format& format, char letter, ZorSize size)
 
 // Samples of every format stand at multiples of their size, by the library's own check.
 template <class To, class From, bool truncate>
-void scaleRow(const std::uint8_t* s, std::ptrdiff_t sStride, std::uint8_t* d, std::ptrdiff_t dStride, int count)
+[[gnu::always_inline]] inline void scaleRow(const std::uint8_t* s, std::ptrdiff_t sStride, std::uint8_t* d,
+                                            std::ptrdiff_t dStride, int count)
 {
     for (std::ptrdiff_t x = 0; x < count; ++x) {
         From value;
@@ -125,10 +126,14 @@ void moveChannel(Sample from, const Samples& source, Sample to, const Samples& d
             // 32-bit integers are not scaled.
             if constexpr (std::is_same_v<To, From> ||
                           !(std::is_same_v<To, std::int32_t> || std::is_same_v<From, std::int32_t>))
-                for (int y = 0; y < extent.height; ++y)
-                    scaleRow<To, From, truncate>(source.first + source.step * y, source.stride,
-                                                 destination.first + destination.step * y, destination.stride,
-                                                 extent.width);
+                for (int y = 0; y < extent.height; ++y) {
+                    const std::uint8_t* const s = source.first + source.step * y;
+                    std::uint8_t* const d = destination.first + destination.step * y;
+                    if (source.stride == sizeof(From) && destination.stride == sizeof(To))
+                        scaleRow<To, From, truncate>(s, sizeof(From), d, sizeof(To), extent.width); // vectors
+                    else
+                        scaleRow<To, From, truncate>(s, source.stride, d, destination.stride, extent.width);
+                }
         });
     });
 }
@@ -224,6 +229,20 @@ bool moveBits(const Format& from, const Image& source, const Format& to, const I
     return true;
 }
 
+// All channels of a pixel, where they are in the same order.
+bool scalePixels(const Format& from, const Image& source, const Format& to, const Image& destination, ZorSize size,
+                 bool truncate)
+{
+    if (from.layout != Layout::interleaved || to.layout != Layout::interleaved || from.channels != to.channels)
+        return false;
+    const int count = static_cast<int>(to.channels.size());
+    if (size.width > INT_MAX / count) return false;
+    moveChannel(from.sample, {rowAt(source, 0, 0), source.step[0], sampleBytes(from.sample)}, to.sample,
+                {rowAt(destination, 0, 0), destination.step[0], sampleBytes(to.sample)},
+                {size.width * count, size.height}, truncate);
+    return true;
+}
+
 // The channel of the source that becomes this one; 0 for alpha that it does not have.
 char sourceOf(const Format& from, char letter)
 {
@@ -286,7 +305,9 @@ int movedBytes(const Format& from, const Format& to, const SamePlanes& same)
 void move(const Format& from, const Image& source, const Format& to, const Image& destination, ZorSize size,
           bool truncate)
 {
-    if (moveBits(from, source, to, destination, size) || movePixels(from, source, to, destination, size)) return;
+    if (moveBits(from, source, to, destination, size) || movePixels(from, source, to, destination, size) ||
+        scalePixels(from, source, to, destination, size, truncate))
+        return;
     const std::string_view inOnePlane = divide<false>(from, source, to, destination, size)  ? sharedPlane(from)
                                         : divide<true>(to, destination, from, source, size) ? sharedPlane(to)
                                                                                             : std::string_view{};

@@ -2,6 +2,7 @@
 // Every pair of formats that a plan connects gives what its functions give when they are called by hand.
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <map>
 
 #include "tests/convert/by_hand.h"
@@ -153,6 +154,26 @@ TEST(Plans, SameBytesInStripsAndThreads)
                     EXPECT_TRUE(isSame(result, expected)) << zorPlanDescribe(other.get());
                 }
         }
+}
+
+// Neither do functions that divide their rows among threads themselves.
+TEST(PlansDeathTest, OneMeansOne)
+{
+    GTEST_FLAG_SET(death_test_style, "threadsafe"); // in a new process
+    const auto tasks = [] {
+        int count = 0;
+        for ([[maybe_unused]] const auto& task : std::filesystem::directory_iterator("/proc/self/task")) ++count;
+        return count;
+    };
+    const auto newThreads = [&](int threads) {
+        const ZorSize size{640, 480};
+        const Plan plan = planOf({"rgb24", "hls24", colours[0], colours[0]}, size, optionsOf(threads, 0));
+        const PictureInMemory source("rgb24", size), destination("hls24", size);
+        const int before = tasks();
+        return run(plan, source, destination) == zorStatusOk ? tasks() - before : -1;
+    };
+    EXPECT_EXIT(std::exit(newThreads(1)), testing::ExitedWithCode(0), "");
+    EXPECT_EXIT(std::exit(newThreads(3)), testing::ExitedWithCode(2), "");
 }
 
 // Pixels worked out by hand, and the ways to them.
