@@ -61,8 +61,10 @@ typedef enum {
  * is begun. Such pictures are converted as if their last column and row were repeated.
  *
  * RGB is red, green and blue as they are; from and to HLS, HSV and PhotoYCC it is R'G'B', from and to XYZ, LUV and Lab
- * it counts as linear light, in which the description of the plan says so. In packed 16-bit formats without "le" the
- * channel named first is in the low bits, as in zorcc/rgb565.h; rgb565le is what it is elsewhere, red in the high bits.
+ * it counts as linear light, which the description of the plan says. YCoCg of 16 bits holds what it was made of, bytes
+ * or words: it is taken for bytes where the other end has 8 bits, for words otherwise. In packed 16-bit formats without
+ * "le" the channel named first is in the low bits, as in zorcc/rgb565.h; rgb565le is what it is elsewhere, red in the
+ * high bits.
  */
 typedef struct {
     const char* format;

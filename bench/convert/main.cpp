@@ -20,7 +20,9 @@ using namespace zorcc::bench;
 struct Conversion {
     const char *from, *to;
 };
-constexpr Conversion conversions[] = {{"nv12", "rgb24"}, {"yuyv", "bgra"}, {"rgb24", "nv12"}, {"yuv420p", "rgba"}};
+// The last two are what the first and the third are without their chroma in pairs.
+constexpr Conversion conversions[] = {{"nv12", "rgb24"},   {"yuyv", "bgra"},     {"rgb24", "nv12"},
+                                      {"yuv420p", "rgba"}, {"yuv420p", "rgb24"}, {"rgb24", "yuv420p"}};
 
 using Plan = std::unique_ptr<ZorPlan, void (*)(ZorPlan*)>;
 
@@ -79,11 +81,16 @@ int main(int argc, char** argv)
     CLI::App app("The conversion layer beside libswscale, libyuv and zimg");
     double seconds = 2;
     int stripRows = 0;
+    std::string filter;
     app.add_option("--seconds", seconds, "time for each conversion and size");
     app.add_option("--strip-rows", stripRows, "rows of a strip; 0: as the plan wants");
+    app.add_option("--filter", filter, "conversions with this text, such as 'nv12 -> '");
     CLI11_PARSE(app, argc, argv);
-    for (const Conversion& conversion : conversions)
+    for (const Conversion& conversion : conversions) {
+        const std::string name = std::string(conversion.from) + " -> " + conversion.to;
+        if (name.find(filter) == std::string::npos) continue;
         for (const ZorSize size : {ZorSize{1920, 1080}, ZorSize{3840, 2160}})
             measure(conversion, size, stripRows, seconds);
+    }
     return 0;
 }

@@ -27,6 +27,16 @@ using Peers = std::vector<Peer>;
 void addLibyuv(const std::string& from, const std::string& to, const Frame& s, const Frame& d, Peers& peers)
 {
     const auto [width, height] = s.size;
+    if (from == "yuv420p" && to == "rgb24")
+        peers.push_back({"libyuv I420ToRAW", [=, &s, &d] {
+                             libyuv::I420ToRAW(s.bytes(0), s.step[0], s.bytes(1), s.step[1], s.bytes(2), s.step[2],
+                                               d.bytes(0), d.step[0], width, height);
+                         }});
+    if (from == "rgb24" && to == "yuv420p")
+        peers.push_back({"libyuv RAWToI420", [=, &s, &d] {
+                             libyuv::RAWToI420(s.bytes(0), s.step[0], d.bytes(0), d.step[0], d.bytes(1), d.step[1],
+                                               d.bytes(2), d.step[2], width, height);
+                         }});
     if (from == "nv12" && to == "rgb24")
         peers.push_back({"libyuv NV12ToRAW", [=, &s, &d] {
                              libyuv::NV12ToRAW(s.bytes(0), s.step[0], s.bytes(1), s.step[1], d.bytes(0), d.step[0],
@@ -134,7 +144,7 @@ std::vector<Peer> peersOf([[maybe_unused]] const std::string& from, [[maybe_unus
     addSwscale(from, to, source, destination, peers);
 #endif
 #ifdef ZORCC_PEER_ZIMG
-    if (from != "yuyv") addZimg(to, source.size, peers);
+    if (from == "nv12" || to == "nv12" || to == "rgba") addZimg(to, source.size, peers);
 #endif
     return peers;
 }

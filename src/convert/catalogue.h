@@ -51,6 +51,8 @@ struct NamedFormat {
 
 class Catalogue {
 public:
+    static constexpr int maxFormats = 192;
+
     Catalogue();
 
     int count() const { return formatCount; }
@@ -67,7 +69,7 @@ public:
     int destination(std::size_t function) const { return ofFunction[function][1]; }
 
 private:
-    static constexpr int maxFormats = 192, maxFunctions = 1024;
+    static constexpr int maxFunctions = 1024;
 
     Format formats[maxFormats] = {};
     TextOf<24> names[maxFormats];

@@ -178,7 +178,12 @@ void describe(const ZorPlan& plan, const Picture& to, Text& words)
     bool linear = false;
     for (int i = 0; i < chain.route.count; ++i) {
         const Step& step = chain.route.steps[i];
-        words.add(i + 1, ". ", step.function ? step.function->name : "samples change places", ": ");
+        const int before = i == 0 ? from.format : chain.route.steps[i - 1].result.format;
+        words.add(i + 1, ". ",
+                  step.function                  ? step.function->name
+                  : before == step.result.format ? "samples are copied"
+                                                 : "samples change places",
+                  ": ");
         addPicture(words, step.result);
         if (!step.function && chain.same[i].any()) words.add(", whole planes stay");
         if (i + 1 < chain.route.count && isPoorer(step.result.layout(), from.layout(), to.layout()))

@@ -58,7 +58,9 @@ bool isEligible(const Function& f, const Choice& choice)
 class Search {
 public:
     Search(const Picture& source, const Picture& target, const Choice& options)
-        : from(source), to(target), choice(options), first(nodeOf(source)), last(nodeOf(target))
+        : from(source), to(target), choice(options),
+          hasTwoColours(isYcc(source.layout()) && isYcc(target.layout()) && source.colour != target.colour),
+          first(nodeOf(source)), last(nodeOf(target))
     {
         for (Node& node : nodes) node = {};
         nodes[first].cost = 0;
@@ -76,7 +78,7 @@ public:
     }
 
 private:
-    static constexpr int maxNodes = 2 * 192;
+    static constexpr int maxNodes = 2 * Catalogue::maxFormats;
 
     struct Node {
         int cost = INT_MAX;
@@ -87,26 +89,22 @@ private:
 
     const Picture &from, &to;
     const Choice& choice;
+    const bool hasTwoColours;
     const int first, last;
     Node nodes[maxNodes];
 
-    // Formats with luma and chroma are two nodes each, one by either end's colour.
+    // Formats with luma and chroma are two nodes each, one by either end's colour; where there is only one colour the
+    // second is not reached.
     int nodeOf(int format, bool byTarget) const { return format + (byTarget ? catalogue.count() : 0); }
     int nodeOf(const Picture& picture) const
     {
-        return nodeOf(picture.format, isYcc(picture.layout()) && !hasColour(picture.colour, false));
+        return nodeOf(picture.format, hasTwoColours && isYcc(picture.layout()) && picture.colour != from.colour);
     }
     int formatOf(int node) const { return node % catalogue.count(); }
     bool isByTarget(int node) const { return node >= catalogue.count(); }
     const Colour& colourOf(int node) const
     {
         return isByTarget(node) || !isYcc(from.layout()) ? to.colour : from.colour;
-    }
-
-    // The colour of the source is also that of the target, where there is but one.
-    bool hasColour(const Colour& colour, bool byTarget) const
-    {
-        return byTarget || !isYcc(from.layout()) ? colour == to.colour : colour == from.colour;
     }
 
     int cheapest() const
@@ -139,7 +137,7 @@ private:
         const int format = formatOf(node);
         const auto all = functions();
         for (std::size_t i = 0; i < all.size(); ++i)
-            if (catalogue.source(i) == format && isEligible(all[i], choice))
+            if (catalogue.source(i) == format && catalogue.destination(i) >= 0 && isEligible(all[i], choice))
                 visit(node, all[i], catalogue.destination(i));
     }
 
@@ -154,9 +152,11 @@ private:
             reach(nodeOf(destination, toYcc && isByTarget(node)), node, &f, cost);
             return;
         }
-        for (const bool byTarget : {false, true}) // to luma and chroma
-            if (const int next = nodeOf(destination, byTarget); colourOf(next).model() == f.destination->model)
+        for (const bool byTarget : {false, true}) { // to luma and chroma
+            const int next = nodeOf(destination, byTarget);
+            if (byTarget <= hasTwoColours && colourOf(next).model() == f.destination->model)
                 reach(next, node, &f, cost);
+        }
     }
 
     void visitMoves(int node)

@@ -2,6 +2,7 @@
 // What cannot be converted is said, and nothing is written.
 #include <gtest/gtest.h>
 
+#include "interface/functions.h"
 #include "tests/convert/picture.h"
 
 namespace zorcc::test {
@@ -72,7 +73,9 @@ TEST_F(PlanErrors, SamplesOfAnyMatrixMove)
     expect({picture("nv12", "bt2020"), picture("YV12", "bt2020")}, zorStatusOk, "bt2020, limited range");
     expect({picture("yuvj420p"), picture("nv12", "bt601", zorRangeFull)}, zorStatusOk, "bt601, full range");
     expect({picture("yuv420p_bt709"), picture("nv12", "BT709")}, zorStatusOk, "zoriYCbCr420_8u_P3P2R");
-    expect({picture("rgb565le"), picture("bgr565")}, zorStatusOk, "from bgr565 to bgr565");
+    expect({picture("rgb565le"), picture("bgr565")}, zorStatusOk, "samples are copied: bgr565");
+    // Only 4:2:0 leads to BT.709 of limited range.
+    expect({picture("yuyv", "bt601"), picture("yuyv", "bt709")}, zorStatusOk, "there is no other way");
 }
 
 TEST_F(PlanErrors, SizesAndOptions)
@@ -163,6 +166,17 @@ TEST_F(PlanErrors, SamplesAreAligned)
     const void* const oddPlane = source.row(0, 0) + 1;
     EXPECT_EQ(zorPlanRun(plan, &oddPlane, source.step, destination.plane, destination.step), zorStatusBadStep);
     zorPlanFree(plan);
+}
+
+TEST_F(PlanErrors, EveryFormatOfTheTableHasAName)
+{
+    for (const interface::Function& function : interface::functions())
+        for (const interface::Format* format : {function.source, function.destination}) {
+            const ZorLayout layout = layoutOf(std::string(format->name), {8, 8});
+            EXPECT_EQ(layout.channels, format->channels) << format->name;
+            for (int p = 0; p < format->planes; ++p)
+                EXPECT_EQ(layout.rowBytes[p], interface::rowBytes(*format, p, 8)) << format->name;
+        }
 }
 
 // Every name of the outside world, with what it must be like.
