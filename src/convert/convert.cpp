@@ -159,6 +159,7 @@ ZorStatus sayThatNoneLeads(const Picture& from, const Picture& to, const Route& 
     addPicture(words, from);
     words.add(" to ");
     addPicture(words, to);
+    if (route.nearest.format == from.format && route.nearest.colour == from.colour) return zorStatusNoConversion;
     words.add("; the nearest that there is: ");
     addPicture(words, route.nearest);
     return zorStatusNoConversion;

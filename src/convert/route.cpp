@@ -16,7 +16,7 @@ namespace {
 // Costs are for 16 pixels, in bytes moved; what weighs more outweighs any traffic.
 constexpr int costOfPass = 300;           // a call for every strip, and what it costs to leave registers
 constexpr int costOfColour = 100'000;     // a conversion of colours, which rounds
-constexpr int gainOfWideSamples = 32;     // of one that computes with more bits
+constexpr int costOfNarrowSamples = 1000; // a conversion of colours in samples narrower than an end's, for each byte
 constexpr int costOfPoverty = 10'000'000; // a picture between that is poorer than both ends
 constexpr int costOfRenamingPlanes = 10;  // nothing is moved
 constexpr int costOfScatteredBytes = 2;   // moves are not as quick as functions
@@ -143,11 +143,12 @@ private:
 
     void visit(int node, const Function& f, int destination)
     {
+        const int widest = std::max(sampleBytes(from.layout().sample), sampleBytes(to.layout().sample));
         const bool fromYcc = isYcc(catalogue[formatOf(node)]), toYcc = isYcc(catalogue[destination]);
         int cost = costOfPass + bytesOf16Pixels(*f.source) + bytesOf16Pixels(*f.destination);
         if (fromYcc && f.source->model != Model::anyYcc && colourOf(node).model() != f.source->model) return;
         if (f.source->model != f.destination->model)
-            cost += costOfColour - gainOfWideSamples * sampleBytes(f.source->sample);
+            cost += costOfColour + costOfNarrowSamples * std::max(0, widest - sampleBytes(f.source->sample));
         if (fromYcc || !toYcc) {
             reach(nodeOf(destination, toYcc && isByTarget(node)), node, &f, cost);
             return;

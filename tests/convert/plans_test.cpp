@@ -138,21 +138,21 @@ TEST(Plans, SameBytesInStripsAndThreads)
     };
     Random random(7);
     for (const auto& row : cases)
-        for (const ZorSize size : {ZorSize{640, 360}, ZorSize{401, 283}}) {
+        for (const ZorSize size : {ZorSize{480, 280}, ZorSize{301, 223}}) {
             PictureInMemory source(row.pair.from, size), expected(row.pair.to, size), result(row.pair.to, size);
             source.fill(random);
             const ZorPlanOptions inOnePiece = optionsOf(1, size.height + 3, row.depth, zorAlphaDrop, row.fields);
             const Plan plan = planOf(row.pair, size, inOnePiece);
             ASSERT_EQ(run(plan, source, expected), zorStatusOk) << zorPlanDescribe(plan.get());
             EXPECT_TRUE(isSame(expected, *byHand(plan.get(), source, row.pair.to, {row.depth}))) << row.pair.from;
-            for (const int threads : {1, 2, 3, 7})
-                for (const int stripRows : {0, 1, 36, 200}) {
-                    result.fill(random);
-                    const Plan other =
-                        planOf(row.pair, size, optionsOf(threads, stripRows, row.depth, zorAlphaDrop, row.fields));
-                    ASSERT_EQ(run(other, source, result), zorStatusOk);
-                    EXPECT_TRUE(isSame(result, expected)) << zorPlanDescribe(other.get());
-                }
+            for (const auto& [threads, stripRows] :
+                 {std::pair{1, 0}, std::pair{1, 36}, std::pair{2, 0}, std::pair{2, 150}, std::pair{3, 1}}) {
+                result.fill(random);
+                const Plan other =
+                    planOf(row.pair, size, optionsOf(threads, stripRows, row.depth, zorAlphaDrop, row.fields));
+                ASSERT_EQ(run(other, source, result), zorStatusOk);
+                EXPECT_TRUE(isSame(result, expected)) << zorPlanDescribe(other.get());
+            }
         }
 }
 
@@ -197,6 +197,9 @@ TEST(Plans, GoldenPixelsAndWays)
         {{"rgb24", "bgr24", sd, sd}, {""}},
         {{"rgb48", "grey8", sd, sd}, {"zoriRGBToGray_16u_C3C1R", "zoriReduceBits_16u8u_C1R"}},
         {{"rgb24", "xyz24", sd, sd}, {"zoriRGBToXYZ_8u_C3R"}},
+        // Colours are converted in the wider samples, whichever end has them.
+        {{"rgb24", "hls48", sd, sd}, {"", "zoriRGBToHLS_16u_C3R"}},
+        {{"hls48", "lab24", sd, sd}, {"zoriHLSToRGB_16u_C3R", "zoriReduceBits_16u8u_C3R", "", "zoriBGRToLab_8u_C3R"}},
         {{"rgb24", "lab48", sd, sd}, {"", "zoriBGRToLab_8u16u_C3R"}},
     };
     for (const auto& way : ways) {
