@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-# What both shared libraries have in common: the file name is the SONAME, nothing is exported but what is listed, no
+# What the shared libraries have in common: the file name is the SONAME, nothing is exported but what is listed, no
 # executable stack, relocations read-only from the start, and no dependency that nothing needs. Once opened they stay:
 # the OpenMP runtime's idle threads run on, in code that must not be unmapped under them.
 function(zorcc_shared_library target)

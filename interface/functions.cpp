@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "interface/functions.h"
 
-#include <algorithm>
-#include <vector>
-
 namespace zorcc::interface {
 
 namespace {
@@ -36,6 +33,8 @@ template <class Bound, class NameOf> constexpr Function describe(std::string_vie
             Bound::takes(arguments::scratch),
             Bound::takes(arguments::twist),
             Bound::takes(arguments::vMin),
+            Bound::takes(arguments::levels),
+            Bound::takes(arguments::weights),
             Bound::call};
 }
 
@@ -86,18 +85,6 @@ constexpr Table makeTable()
 constexpr Table table = makeTable();
 
 } // namespace
-
-Extra Function::withScratch(Extra extra, ZorSize size) const
-{
-    if (takesScratch) { // what the demosaicing functions ask for
-        thread_local std::vector<std::uint8_t> memory;
-        constexpr int rows = 64;
-        extra.scratchStep = 32 * (size.width + 32);
-        memory.resize(std::max(memory.size(), static_cast<std::size_t>(rows) * extra.scratchStep));
-        extra.scratch = memory.data();
-    }
-    return extra;
-}
 
 std::span<const Function> functions() { return table.entry; }
 

@@ -22,7 +22,7 @@ struct Function {
     const Format* destination;
     Alpha alpha;
     Signature signature;
-    bool takesSlice, takesScratch, takesTwist, takesRange;
+    bool takesSlice, takesScratch, takesTwist, takesRange, takesLevels, takesWeights;
     ZorStatus (*bound)(const Call&);
 
     ZorStatus operator()(const Image& from, const Image& to, ZorSize size, const Extra& extra = {}) const

@@ -10,7 +10,7 @@ trap 'rm -rf "$work"' EXIT
 cmake --install "$build" --prefix "$work/first" >/dev/null
 mv "$work/first" "$work/moved"
 lib=$(dirname "$(find "$work/moved" -name libzorccn8.so.6.1)")
-for file in "$lib/"lib{zorccn8,zorcore}.so{,.6.1}; do
+for file in "$lib/"lib{zorccn8,zorcore,zorconvert}.so{,.6.1}; do
   [ -e "$file" ] || { echo "not installed: ${file#"$work/moved/"}"; exit 1; }
 done
 diff -r "$source/include" "$work/moved/include"
@@ -28,8 +28,8 @@ if ldd "$work/consumer/consumer" | grep -E 'libzor.*(not found|=> /usr)'; then e
 
 echo "-- C++ program, pkg-config"
 export PKG_CONFIG_PATH=$lib/pkgconfig
-[ "$(pkg-config --modversion zorcc)" = 6.1 ]
+[ "$(pkg-config --modversion zorcc)" = 6.1 ] && [ "$(pkg-config --modversion zorconvert)" = 6.1 ]
 # shellcheck disable=SC2046
 "$cxx" -std=c++17 -Wall -Wextra -pedantic -Werror -x c++ "$source/tests/product/consumer/consumer.c" -x none \
-  $(pkg-config --cflags --libs zorcc) -o "$work/program"
+  $(pkg-config --cflags --libs zorconvert) -o "$work/program"
 LD_LIBRARY_PATH=$lib "$work/program"
