@@ -25,8 +25,8 @@ class Names(unittest.TestCase):
 
     def test_nearest_names(self):
         zorcc("chart c.png --size 8x8")
-        for line, text in (("convrt c.png d.png", "no command 'convrt'; did you mean convert?"),
-                           ("help convrt", "no command 'convrt'; did you mean convert?"),
+        for line, text in (("convrt c.png d.png", "no command 'convrt'; did you mean convert"),
+                           ("help convrt", "no command 'convrt'; did you mean convert"),
                            ("paint", "no command 'paint'"),
                            ("convert c.png d.yuv --to yuv42p", "unknown format 'yuv42p'; did you mean yuv420p"),
                            ("convert c.png d.yuv --to nv21", "nv12"), ("convert c.png d.gif", "one of png jpg"),

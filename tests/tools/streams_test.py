@@ -61,17 +61,17 @@ class Streams(unittest.TestCase):
         self.assertIn("none_%d.png: No such file", run("convert none_%d.png out.y4m").stderr)
 
     def test_the_first_failure_of_a_sequence_is_told_and_nothing_is_left(self):
-        os.mkdir("results")
+        os.mkdir("failed")
         for i in range(1, 9):
             write_pnm(f"s_{i}.ppm", 4, 2, bytes(24))
         for i in (4, 6, 7):
             write(f"s_{i}.ppm", b"P6 4 2 255\n")
-        for out in ("results/o_%d.png", "results/o.rgb"):
+        for out in ("failed/o_%d.png", "failed/o.rgb"):
             for threads in (1, 2, 5):
                 result = run(f"convert s_%d.ppm {out} --threads {threads}")
                 self.assertEqual(result.returncode, 1)
                 self.assertRegex(result.stderr, r"^zorcc: s_[467].ppm: the file ends early[^\n]*\n$")
-                self.assertEqual(os.listdir("results"), [])
+                self.assertEqual(os.listdir("failed"), [])
 
     def test_the_result_does_not_depend_on_threads(self):
         write_y4m("in.y4m", 16, 12, frames(40))
