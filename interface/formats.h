@@ -240,6 +240,7 @@ inline constexpr const Format& rgbf32 = interleaved<Model::rgb, 3, Sample::f32>;
 inline constexpr const Format& rgba = interleaved<Model::rgb, 4>;
 inline constexpr const Format& rgba64 = interleaved<Model::rgb, 4, Sample::u16>;
 inline constexpr const Format& bgra = interleaved<Model::rgb, 4, Sample::u8, true>;
+inline constexpr const Format& rgbaf32 = interleaved<Model::rgb, 4, Sample::f32>;
 inline constexpr const Format& rgb444p = planar<Model::rgb, 3>;
 inline constexpr const Format& yuva = interleaved<Model::yuv, 4>;
 inline constexpr const Format& yuv444p = planar<Model::yuv, 3>;

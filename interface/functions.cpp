@@ -17,7 +17,8 @@ constexpr Alpha alphaOf(const Name& name, bool isArgument)
 // Read once for a function.
 template <class NameOf> constexpr Name nameRead = NameOf{}();
 
-template <class Bound, class NameOf> constexpr Function describe(std::string_view text, NameOf)
+template <class Bound, class NameOf>
+constexpr Function describe(std::string_view text, std::string_view argumentNames, NameOf)
 {
     constexpr const Name& name = nameRead<NameOf>;
     static_assert(Bound::signature() == signatureOf(name), "name and parameters differ");
@@ -29,6 +30,7 @@ template <class Bound, class NameOf> constexpr Function describe(std::string_vie
             &format<shapeOf(name, name.destination)>,
             alphaOf(name, Bound::takes(arguments::alpha)),
             Bound::signature(),
+            argumentNames,
             Bound::takes(arguments::slice),
             Bound::takes(arguments::scratch),
             Bound::takes(arguments::twist),
@@ -48,7 +50,8 @@ using namespace arguments;
 
 #define ZOR_FAMILY(text) {text, {}},
 #define ZOR_FUNCTION(function, ...)                                                                                    \
-    {{}, describe<Bound<&function __VA_OPT__(, ) __VA_ARGS__>>(#function, [] { return parse(#function); })},
+    {{},                                                                                                               \
+     describe<Bound<&function __VA_OPT__(, ) __VA_ARGS__>>(#function, #__VA_ARGS__, [] { return parse(#function); })},
 constexpr Row rowTable[] = {
 #include "interface/functions.def"
 };

@@ -22,6 +22,7 @@ struct Function {
     const Format* destination;
     Alpha alpha;
     Signature signature;
+    std::string_view arguments; // beside images and size: "noise, method, levels"
     bool takesSlice, takesScratch, takesTwist, takesRange, takesLevels, takesWeights;
     ZorStatus (*bound)(const Call&);
 

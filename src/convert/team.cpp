@@ -2,13 +2,25 @@
 #include "convert/team.h"
 
 #include <omp.h>
+#include <pthread.h>
 
 namespace zorcc::convert {
+namespace {
+
+// A child of a fork has the memory of the OpenMP runtime, but not its threads: it works alone.
+bool isForkedChild = false;
+
+__attribute__((constructor)) void handleForks()
+{
+    static_cast<void>(pthread_atfork(nullptr, nullptr, [] { isForkedChild = true; }));
+}
+
+} // namespace
 
 ZorStatus forEachStrip(int threads, int count, bool mayFork, FunctionRef<ZorStatus(int strip, int member)> work)
 {
     ZorStatus result = zorStatusOk;
-    if (threads == 1) {
+    if (threads == 1 || isForkedChild) {
         const int levels = omp_get_max_active_levels();
         if (!mayFork) omp_set_max_active_levels(0);
         for (int i = 0; i < count && result == zorStatusOk; ++i) result = work(i, 0);

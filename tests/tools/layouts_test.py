@@ -115,4 +115,4 @@ class Deinterlacing(unittest.TestCase):
         self.assertEqual(read("smooth.yuv"), bytes(v for y in smoothed + 8 * [70] for v in 8 * (y, 90, y, 160)))
         lines = zorcc("convert comb.y4m smooth.rgb --deinterlace --stats").splitlines()
         self.assertEqual([line.split(":")[0] for line in lines],
-                         ["zoriYCbCr420ToYCrCb420_Filter_8u_P2P3R", "zoriYUV420ToRGB_8u_P3C3R"])
+                         ["zoriYCbCr420ToYCrCb420_Filter_8u_P2P3R", "zoriYCbCr420ToRGB_8u_P3C3R"])

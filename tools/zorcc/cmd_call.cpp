@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include <algorithm>
-#include <iostream>
+#include <charconv>
+#include <mutex>
 
+#include "arguments.h"
 #include "commands.h"
 #include "conversion.h"
 #include "error.h"
-#include "io/writer.h"
-#include "progress.h"
+#include "messages.h"
+#include "names.h"
+#include "pipeline.h"
 
 namespace zorcc::tool {
 
@@ -27,22 +30,23 @@ Picture planeOf(const Picture& picture, int plane)
     return result;
 }
 
-// One file for the result, or one for each of its planes.
-class Output {
+// A file for each plane of the result.
+class PlaneWriter : public Writer {
 public:
-    Output(const std::vector<std::string>& names, const VideoTags& tags) : paths(names)
+    PlaneWriter(const CallOptions& options, const VideoTags& tags) : paths(options.out)
     {
-        for (const std::string& path : paths) writers.push_back(openWriter(path, tags));
+        for (const std::string& path : paths) writers.push_back(openWriter({path, options.as}, tags));
     }
 
-    void write(Picture picture)
+    bool mustBeInOrder() const override { return true; }
+
+    void write(Picture picture, int number) override
     {
-        if (writers.size() == 1) return writers[0]->write(std::move(picture));
         for (std::size_t p = 0; p < writers.size(); ++p)
-            writers[p]->write(naming(paths[p], [&] { return planeOf(picture, static_cast<int>(p)); }));
+            writers[p]->write(naming(paths[p], [&] { return planeOf(picture, static_cast<int>(p)); }), number);
     }
 
-    void commit()
+    void commit() override
     {
         for (const auto& writer : writers) writer->commit();
     }
@@ -52,40 +56,57 @@ private:
     std::vector<std::unique_ptr<Writer>> writers;
 };
 
+const Function& functionNamed(const std::string& name)
+{
+    if (const Function* const function = interface::findFunction(name)) return *function;
+    std::vector<std::string> names;
+    for (const Function& function : interface::functions()) names.emplace_back(function.name);
+    throw UsageError("no function " + name + nearest(name, names) + " (zorcc list shows all)");
+}
+
 } // namespace
 
 void call(const CallOptions& options)
 {
-    const Function* const function = interface::findFunction(options.function);
-    if (!function) throw UsageError("no function " + options.function + " (zorcc list shows all)");
-    const Format &source = *function->source, &destination = *function->destination;
+    const Function& function = functionNamed(options.function);
+    const Format &source = *function.source, &destination = *function.destination;
     if (options.out.size() != 1 && options.out.size() != static_cast<std::size_t>(destination.planes))
         throw UsageError(options.function + " gives " + std::string(destination.name) + ": name one file, or " +
                          std::to_string(destination.planes) + " for its planes");
+    const Arguments arguments(function, options.arguments);
 
     const auto reader = openInput(options.in, &source, OddSizes::cutOff);
-    Output output(options.out, reader->tags());
-    Stats stats{options.timing.repeat};
-    bool warned = false;
-    writeAll(*reader, output, [&](Picture picture) {
-        if (!rearrangementCost(picture.format(), source))
-            throw Cause("the file holds " + std::string(picture.format().name) + ", but " + options.function +
-                        " takes " + std::string(source.name) +
-                        (isRgb(source)   ? ": give a PNG, JPEG or PPM file, or a headerless one with --size WxH"
-                         : isYuv(source) ? ": give a Y4M file, or a headerless one with --size WxH"
-                                         : ": give a headerless file with --size WxH"));
-        const ZorSize size = picture.visible();
-        Picture result = run(*function, rearranged(std::move(picture), source, size), stats);
-        if (stats.status != zorStatusOk && !warned)
-            std::cerr << "zorcc: warning: " << reader->path() << ": "
-                      << (stats.status == zorStatusOddSize
-                              ? "odd size " + sizeName(size) + ": only whole 2x2 blocks are converted"
-                              : "the function returned " + std::to_string(stats.status))
-                      << '\n';
-        warned |= stats.status != zorStatusOk;
-        return result;
-    });
-    if (options.timing.stats) std::cout << stats.line();
+    const std::unique_ptr<Writer> writer = options.out.size() == 1
+                                               ? openWriter({options.out[0], options.as}, reader->tags())
+                                               : std::make_unique<PlaneWriter>(options, reader->tags());
+    Stats stats(options.timing.repeat);
+    writeAll(
+        *reader, *writer,
+        [&](Picture picture) {
+            // Whoever names a function with a matrix takes files that leave it open for that.
+            if (isYuv(source) && !ownMatrix(picture.format()))
+                if (const Format* const same = twin(picture.format(), source.model))
+                    picture = std::move(picture).takenFor(*same);
+            if (!rearrangementCost(picture.format(), source))
+                throw Cause("the file holds " + std::string(picture.format().name) + ", but " + options.function +
+                            " takes " + std::string(source.name) +
+                            (isRgb(source)   ? ": give a PNG, JPEG or PPM file, or a headerless one with --size WxH"
+                             : isYuv(source) ? ": give a Y4M file, or a headerless one with --size WxH"
+                                             : ": give a headerless file with --size WxH"));
+            const ZorSize size = picture.visible();
+            ZorStatus status = zorStatusOk;
+            Picture result =
+                run(function, rearranged(std::move(picture), source, size), stats, arguments.forPicture(size), &status);
+            if (status == zorStatusOddSize)
+                warn(reader->path(), "odd size " + sizeName(size) + ": only whole 2x2 blocks are converted");
+            else if (status != zorStatusOk)
+                warn(reader->path(), "the function returned " + std::to_string(status));
+            if (const auto& region = arguments.region())
+                return rearranged(std::move(result), destination, {region->width, region->height});
+            return result;
+        },
+        options.timing.isWanted());
+    if (options.timing.stats) printStats(stats.line(), options.out);
 }
 
 } // namespace zorcc::tool

@@ -2,15 +2,12 @@
 #include "chart.h"
 #include "commands.h"
 #include "error.h"
-#include "io/writer.h"
 
 namespace zorcc::tool {
 
-void chart(const std::string& out, ZorSize size)
+void chart(const ChartOptions& options)
 {
-    const auto writer = openWriter(out);
-    writer->write(naming(out, [&] { return drawChart(size); }));
-    writer->commit();
+    writeOnly(options.out, naming(options.out.path, [&] { return drawChart(options.size); }));
 }
 
 } // namespace zorcc::tool

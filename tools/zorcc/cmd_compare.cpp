@@ -1,120 +1,124 @@
 // SPDX-License-Identifier: MIT
-#include <algorithm>
 #include <cmath>
 #include <cstdio>
-#include <cstring>
 #include <iostream>
+#include <map>
 #include <string>
 
 #include "commands.h"
+#include "difference.h"
 #include "error.h"
 #include "formats.h"
+#include "messages.h"
 
 namespace zorcc::tool {
 
 namespace {
 
-struct Difference {
-    double squares = 0, samples = 0, largest = 0;
-
-    void add(double difference)
-    {
-        squares += difference * difference;
-        largest = std::max(largest, std::abs(difference));
-        ++samples;
-    }
-
-    void add(const Difference& other)
-    {
-        squares += other.squares;
-        samples += other.samples;
-        largest = std::max(largest, other.largest);
-    }
-
-    // Peak signal-to-noise ratio in dB.
-    std::string psnr(double peak) const
-    {
-        if (squares == 0) return "inf";
-        char text[32];
-        std::snprintf(text, sizeof text, "%.2f", 10 * std::log10(peak * peak * samples / squares));
-        return text;
-    }
-};
-
-// Compared as it is at 8 bits, otherwise as floats of 0..1.
-struct Scale {
-    const char* print;
-    double peak;
-};
-
-constexpr Scale bytes = {"%-8s %8s  %g\n", 255}, units = {"%-8s %8s  %.6f\n", 1};
-
-double sampleAt(const Channel& channel, Sample type, int x, int y)
-{
-    const std::uint8_t* const at = channel.first + channel.step * y + channel.stride * x;
-    if (type == Sample::u8) return *at;
-    float value = 0;
-    std::memcpy(&value, at, sizeof value);
-    return value;
-}
-
-// The format to compare pictures in: the samples of both, alpha only if both have it.
+// The format to compare pictures in: the samples of both, and alpha if both have it.
 const Format& commonFormat(const Picture& a, const Picture& b)
 {
     const Format &f = a.format(), &g = b.format();
-    if (!isRgb(f) && &f == &g) return f;
+    if (!isRgb(f) && !isRgb(g) && haveSameMemory(f, g) && f.sample == Sample::u8) return f;
     if (!isRgb(f) || !isRgb(g))
         throw Cause("one holds " + std::string(f.name) + ", the other " + std::string(g.name) +
                     ": convert one of them");
-    const bool exact = f.sample == Sample::u8 && g.sample == Sample::u8;
-    return pictureFormat(isGrey(f) && isGrey(g), exact && hasAlpha(f) && hasAlpha(g), exact ? Sample::u8 : Sample::f32);
+    const bool exact = f.sample == Sample::u8 && g.sample == Sample::u8, alpha = hasAlpha(f) && hasAlpha(g);
+    if (alpha && !exact) return interface::formats::rgbaf32;
+    return pictureFormat(isGrey(f) && isGrey(g), alpha, exact ? Sample::u8 : Sample::f32);
+}
+
+class Comparison {
+public:
+    void add(Picture p, Picture q)
+    {
+        if (!(p.visible() == q.visible()))
+            throw Cause("sizes differ: " + sizeName(p.visible()) + " and " + sizeName(q.visible()));
+        const Format& common = commonFormat(p, q);
+        if (format && format != &common) throw Cause("pictures of several kinds in one file");
+        format = &common;
+        const ZorSize size = p.visible(), sizeP = p.size(), sizeQ = q.size();
+        const Picture one = rearranged(std::move(p), common, sizeP), other = rearranged(std::move(q), common, sizeQ);
+        std::string_view letters = common.channels; // of packed 4:2:2 each once
+        for (std::size_t i = 0; i < letters.size(); ++i)
+            if (letters.find(letters[i]) == i)
+                channels[letters[i]].add(channelOf(one, letters[i], size), channelOf(other, letters[i], size),
+                                         common.sample);
+    }
+
+    Difference all() const
+    {
+        Difference sum;
+        for (const auto& [letter, difference] : channels) sum.add(difference);
+        return sum;
+    }
+
+    void print() const
+    {
+        std::cout << "channel   PSNR dB  largest difference      SSIM\n";
+        std::string_view letters = format->channels;
+        for (std::size_t i = 0; i < letters.size(); ++i)
+            if (letters.find(letters[i]) == i)
+                printLine(isGrey(*format) ? "grey" : std::string(1, letters[i]), channels.at(letters[i]));
+        printLine("all", all());
+    }
+
+private:
+    // Compared as it is at 8 bits, otherwise as floats of 0..1.
+    void printLine(const std::string& name, const Difference& difference) const
+    {
+        char line[120], psnr[32] = "inf";
+        if (std::isfinite(difference.psnr())) std::snprintf(psnr, sizeof psnr, "%.2f", difference.psnr());
+        std::snprintf(line, sizeof line,
+                      format->sample == Sample::u8 ? "%-8s %8s  %18g  %8.5f\n" : "%-8s %8s  %18.6f  %8.5f\n",
+                      name.c_str(), psnr, difference.largest(), difference.ssim());
+        std::cout << line;
+    }
+
+    const Format* format = nullptr;
+    std::map<char, Difference> channels;
+};
+
+bool isHeaderlessPath(const std::string& path)
+{
+    const auto kind = fileKind(path);
+    return kind && isHeaderless(*kind);
+}
+
+void warnOfOneAlpha(const std::string& path, const Format& format, const Format& other)
+{
+    if (hasAlpha(format) && !hasAlpha(other)) warn(path, "its alpha is not compared, the other has none");
 }
 
 } // namespace
 
-void compare(const std::string& a, const std::string& b)
+void compare(const CompareOptions& options)
 {
-    const auto first = openReader(a), second = openReader(b);
-    const Format* format = nullptr;
-    Difference channels[interface::maxPlanes];
+    Input other = options.a;
+    other.path = options.b;
+    // Of a headerless file and one with a header, the names tell which is which.
+    const auto open = [&](Input input, const Input& twin) {
+        const bool hasHeader = input.size && !isHeaderlessPath(input.path) && isHeaderlessPath(twin.path);
+        return hasHeader ? openReader(input.path) : openInput(input, nullptr, OddSizes::roundUp);
+    };
+    const auto first = open(options.a, other), second = open(other, options.a);
+    Comparison comparison;
     for (;;) {
         auto p = first->next(), q = second->next();
         if (!p && !q) break;
         if (!p || !q)
-            throw Error(p ? b : a, "has only " + std::to_string((p ? second : first)->count()) +
-                                       " pictures, the other file has more");
-        naming(a + ", " + b, [&] {
-            if (!(p->visible() == q->visible()))
-                throw Cause("sizes differ: " + sizeName(p->visible()) + " and " + sizeName(q->visible()));
-            const Format& common = commonFormat(*p, *q);
-            if (format && format != &common) throw Cause("pictures of several kinds in one file");
-            format = &common;
-            const Picture one = rearranged(std::move(*p), common, p->size()),
-                          other = rearranged(std::move(*q), common, q->size());
-            for (std::size_t i = 0; i < common.channels.size(); ++i) {
-                const Channel c = channelOf(one, common.channels[i], one.visible());
-                const Channel d = channelOf(other, common.channels[i], other.visible());
-                for (int y = 0; y < c.height; ++y)
-                    for (int x = 0; x < c.width; ++x)
-                        channels[i].add(sampleAt(c, common.sample, x, y) - sampleAt(d, common.sample, x, y));
-            }
-        });
+            throw Error(p ? options.b : options.a.path, "has only " + std::to_string((p ? second : first)->count()) +
+                                                            " pictures, the other file has more");
+        warnOfOneAlpha(options.a.path, p->format(), q->format());
+        warnOfOneAlpha(options.b, q->format(), p->format());
+        naming(options.a.path + ", " + options.b, [&] { comparison.add(*std::move(p), *std::move(q)); });
     }
-
-    const Scale& scale = format->sample == Sample::u8 ? bytes : units;
-    std::cout << "channel   PSNR dB  largest difference\n";
-    const auto print = [&](const std::string& name, const Difference& difference) {
-        char line[80];
-        std::snprintf(line, sizeof line, scale.print, name.c_str(), difference.psnr(scale.peak).c_str(),
-                      difference.largest);
-        std::cout << line;
-    };
-    Difference all;
-    for (std::size_t i = 0; i < format->channels.size(); ++i) {
-        print(isGrey(*format) ? "grey" : std::string(1, format->channels[i]), channels[i]);
-        all.add(channels[i]);
+    comparison.print();
+    if (options.minPsnr && comparison.all().psnr() < *options.minPsnr) {
+        char text[80];
+        std::snprintf(text, sizeof text, "PSNR of %.2f dB, below %g dB", comparison.all().psnr(), *options.minPsnr);
+        throw Error(options.a.path + ", " + options.b, text);
     }
-    print("all", all);
 }
 
 } // namespace zorcc::tool

@@ -7,14 +7,17 @@ namespace zorcc::tool {
 
 namespace {
 
-// The function for pictures as files hold them: bytes and words stay what they are, floats become words.
-const Function& functionFor(const Format& format)
+// The function for pictures as files hold them: bytes and words stay what they are unless the user gives the depth, and
+// floats become words.
+const Function& functionFor(const Format& format, int depth)
 {
-    const std::string types = format.sample == Sample::f32 ? "32f16u" : format.sample == Sample::u16 ? "16u" : "8u";
+    if (!isRgb(format)) throw Cause("cannot reduce " + std::string(format.name) + ": convert it to RGB");
+    const bool isFloat = format.sample == Sample::f32, isDeepFile = isFloat || format.sample == Sample::u16;
+    const std::string source = isFloat ? "32f" : isDeepFile ? "16u" : "8u";
+    const std::string result = depth == 8 || !isDeepFile ? "8u" : "16u";
+    if (depth == 16 && !isDeepFile) throw Cause("a picture of 8 bits cannot be reduced to 16");
     const std::string layout = isGrey(format) ? "C1" : hasAlpha(format) ? "AC4" : "C3";
-    const Function* const function = interface::findFunction("zoriReduceBits_" + types + "_" + layout + "R");
-    if (!function || !isRgb(format)) throw Cause("cannot reduce " + std::string(format.name) + ": convert it to RGB");
-    return *function;
+    return *interface::findFunction("zoriReduceBits_" + source + (source == result ? "" : result) + "_" + layout + "R");
 }
 
 } // namespace
@@ -25,7 +28,7 @@ void reduce(const ReduceOptions& options)
         .noise = options.noise, .levels = options.levels, .method = options.dither
     };
     runOnFile(options.in, options.out, options.timing, [&](const Format& format) {
-        return Work{functionFor(format), arguments};
+        return Work{functionFor(format, options.depth), arguments};
     });
 }
 

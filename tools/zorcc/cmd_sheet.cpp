@@ -5,11 +5,10 @@
 #include "commands.h"
 #include "conversion.h"
 #include "error.h"
-#include "io/writer.h"
 
 namespace zorcc::tool {
 
-void sheet(const std::string& out, const std::vector<std::string>& in)
+void sheet(const SheetOptions& options)
 {
     constexpr int gap = 8;
     constexpr std::uint8_t ground = 32;
@@ -18,10 +17,12 @@ void sheet(const std::string& out, const std::vector<std::string>& in)
     std::vector<Picture> pictures;
     std::int64_t width = 0;
     int height = 0;
-    for (const std::string& path : in) { // the first picture of each file
-        Picture picture = *openReader(path)->next();
+    for (const std::string& path : options.in) { // the first picture of each file
+        const auto reader = openReader(path);
+        Picture picture = *reader->next();
         pictures.push_back(naming(path, [&] {
             Stats stats;
+            picture = withMatrix(std::move(picture), reader->tags());
             const ZorSize visible = picture.visible();
             return rearranged(findConversion(picture.format(), rgb)(std::move(picture), stats), rgb, visible);
         }));
@@ -29,20 +30,19 @@ void sheet(const std::string& out, const std::vector<std::string>& in)
         height = std::max(height, pictures.back().size().height);
     }
 
-    const auto writer = openWriter(out);
-    writer->write(naming(out, [&] {
-        if (width > INT_MAX) throw Cause("the pictures side by side are too wide");
-        Picture all(rgb, {static_cast<int>(width), height});
-        std::fill_n(all.row(0, 0), all.visibleRowBytes(0) * height, ground);
-        std::size_t x = 0;
-        for (const Picture& picture : pictures) {
-            const std::size_t rowBytes = picture.visibleRowBytes(0);
-            for (int y = 0; y < picture.size().height; ++y) std::copy_n(picture.row(0, y), rowBytes, all.row(0, y) + x);
-            x += rowBytes + 3 * gap;
-        }
-        return all;
-    }));
-    writer->commit();
+    writeOnly(options.out, naming(options.out.path, [&] {
+                  if (width > INT_MAX) throw Cause("the pictures side by side are too wide");
+                  Picture all(rgb, {static_cast<int>(width), height});
+                  std::fill_n(all.row(0, 0), all.visibleRowBytes(0) * height, ground);
+                  std::size_t x = 0;
+                  for (const Picture& picture : pictures) {
+                      const std::size_t rowBytes = picture.visibleRowBytes(0);
+                      for (int y = 0; y < picture.size().height; ++y)
+                          std::copy_n(picture.row(0, y), rowBytes, all.row(0, y) + x);
+                      x += rowBytes + 3 * gap;
+                  }
+                  return all;
+              }));
 }
 
 } // namespace zorcc::tool

@@ -2,11 +2,14 @@
 // The commands of zorcc and their options. Each writes its answer to stdout and throws what went wrong.
 #pragma once
 
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "io/reader.h"
+#include "io/writer.h"
+#include "matrix.h"
 
 namespace zorcc::tool {
 
@@ -14,80 +17,136 @@ struct Input {
     std::string path;
     std::optional<ZorSize> size; // given: the file is headerless
     std::string format;
-    Matrix matrix;
 };
 
 struct Timing {
     int repeat = 1;
     bool stats = false;
+
+    bool isWanted() const { return stats || repeat > 1; }
+};
+
+struct ListOptions {
+    std::string pattern;
+    bool formats = false; // in place of functions
 };
 
 struct CallOptions {
     std::string function;
     Input in;
     std::vector<std::string> out;
+    std::string as;
+    std::map<std::string, std::string> arguments; // those that were given, by their names
     Timing timing;
 };
 
 struct ConvertOptions {
     Input in;
-    std::string out, to;
+    OutputPath out;
+    std::string to;
+    Matrix matrix, fromMatrix;
     bool deinterlace = false, dither = false;
     bool linear = false; // RGB is sRGB in files, and linear for the functions
     Timing timing;
 };
 
 struct ReduceOptions {
-    std::string in, out;
+    std::string in;
+    OutputPath out;
     int levels = 2, noise = 0;
+    int depth = 0; // bits of the result; 0: as the file has
     ZorDitherMethod dither = zorDitherMethodFloydSteinberg;
     Timing timing;
 };
 
 struct DemosaicOptions {
-    std::string in, out;
+    std::string in;
+    OutputPath out;
     ZorBayerGrid grid = zorBayerRGGB;
     bool gradient = false; // instead of the adaptive method
     Timing timing;
 };
 
 struct TwistOptions {
-    std::string in, out, matrix;
+    std::string in;
+    OutputPath out;
+    std::string matrix;
     Timing timing;
 };
 
 struct GammaOptions {
-    std::string in, out;
+    std::string in;
+    OutputPath out;
     bool inverse = false;
     Timing timing;
 };
 
 struct GreyOptions {
-    std::string in, out;
+    std::string in;
+    OutputPath out;
     std::vector<float> weights; // of red, green and blue; none: those of luma
     Timing timing;
 };
 
 struct TonemapOptions {
-    std::string in, out;
+    std::string in;
+    OutputPath out;
     bool mean = false; // white is twice the mean, not the maximum
     Timing timing;
 };
 
-void list(const std::string& pattern);
+struct ChartOptions {
+    OutputPath out;
+    ZorSize size = {1280, 720};
+};
+
+struct CompareOptions {
+    Input a;
+    std::string b;
+    std::optional<double> minPsnr; // of all channels together, in dB
+};
+
+struct SheetOptions {
+    OutputPath out;
+    std::vector<std::string> in;
+};
+
+void list(const ListOptions& options);
 void call(const CallOptions& options);
 void convert(const ConvertOptions& options);
 void reduce(const ReduceOptions& options);
-void chart(const std::string& out, ZorSize size);
-void compare(const std::string& a, const std::string& b);
+void chart(const ChartOptions& options);
+void compare(const CompareOptions& options);
 void demosaic(const DemosaicOptions& options);
 void twist(const TwistOptions& options);
 void gamma(const GammaOptions& options);
 void grey(const GreyOptions& options);
 void tonemap(const TonemapOptions& options);
-void sheet(const std::string& out, const std::vector<std::string>& in);
+void sheet(const SheetOptions& options);
 
-// The input of call and convert; a headerless one is of the format `usual` if the user names none.
+// The input of call, convert and compare; a headerless one is of the format `usual` if the user names none.
 std::unique_ptr<Reader> openInput(const Input& input, const Format* usual, OddSizes oddSizes);
+
+// Prints the lines of measurements, to stderr where standard output is one of the results.
+void printStats(const std::string& lines, const std::vector<std::string>& results);
+
+// Where the functions of the library take them by numbers.
+inline const std::vector<std::pair<std::string, int>> ditherMethods = {{"none", zorDitherMethodNone},
+                                                                       {"ordered", zorDitherMethodOrdered},
+                                                                       {"fs", zorDitherMethodFloydSteinberg},
+                                                                       {"jjn", zorDitherMethodJarvisJudiceNinke},
+                                                                       {"stucki", zorDitherMethodStucki}};
+inline const std::vector<std::pair<std::string, int>> bayerGrids = {
+    {"bggr", zorBayerBGGR}, {"rggb", zorBayerRGGB}, {"gbrg", zorBayerGBRG}, {"grbg", zorBayerGRBG}};
+
+// The number of a choice, whatever its letters' case; throws UsageError, which lists them, for others.
+int choiceOf(const std::string& what, const std::string& text, const std::vector<std::pair<std::string, int>>& choices);
+
+// The three or four rows of a colour twist, from "a b c d; ..." or a name (sepia, ...); constants are relative to
+// white.
+struct TwistMatrix {
+    float rows[4][4] = {{1, 0, 0, 0}, {0, 1, 0, 0}, {0, 0, 1, 0}, {0, 0, 0, 1}};
+};
+TwistMatrix parseTwist(const std::string& text);
 
 } // namespace zorcc::tool

@@ -2,7 +2,6 @@
 #include "conversion.h"
 
 #include <algorithm>
-#include <chrono>
 #include <climits>
 #include <cstdio>
 #include <map>
@@ -67,24 +66,42 @@ std::string Stats::line() const
     return std::string(function->name) + text;
 }
 
-Picture run(const Function& function, const Picture& source, Stats& stats, const interface::Extra& arguments)
+void Stats::add(const Function& ran, const Picture& picture, std::chrono::duration<double> time)
+{
+    const std::lock_guard lock(mutex);
+    function = &ran;
+    size = picture.visible();
+    ++pictures;
+    megapixels += 1e-6 * picture.size().width * picture.size().height;
+    seconds += time.count();
+}
+
+namespace {
+
+Picture runInto(Picture destination, const Function& function, const Picture& source, Stats& stats,
+                const interface::Extra& arguments, ZorStatus* status)
 {
     using Clock = std::chrono::steady_clock;
-    Picture destination(*function.destination, source.size(), source.visible());
     if (function.alpha == interface::Alpha::keep) setOpaque(destination);
     Clock::duration best = Clock::duration::max();
     for (int i = 0; i < stats.repeat; ++i) {
         const Clock::time_point start = Clock::now();
-        stats.status = function(source.image(), destination.image(), source.size(), arguments);
+        const ZorStatus result = function(source.image(), destination.image(), source.size(), arguments);
         best = std::min(best, Clock::now() - start);
-        if (stats.status < 0) throw Cause(std::string(function.name) + ": " + statusText(stats.status));
+        if (result < 0) throw Cause(std::string(function.name) + ": " + statusText(result));
+        if (status) *status = result;
     }
-    stats.function = &function;
-    stats.size = source.visible();
-    ++stats.pictures;
-    stats.megapixels += 1e-6 * source.size().width * source.size().height;
-    stats.seconds += std::chrono::duration<double>(best).count();
+    stats.add(function, source, best);
     return destination;
+}
+
+} // namespace
+
+Picture run(const Function& function, const Picture& source, Stats& stats, const interface::Extra& arguments,
+            ZorStatus* status)
+{
+    return runInto(Picture(*function.destination, source.size(), source.visible()), function, source, stats, arguments,
+                   status);
 }
 
 Picture Conversion::operator()(Picture picture, Stats& stats) const
@@ -94,8 +111,9 @@ Picture Conversion::operator()(Picture picture, Stats& stats) const
         return rearranged(std::move(picture), *target, size);
     }
     const ZorSize size = wholeBlocksOf(*function, picture.visible());
-    picture = run(*function, rearranged(std::move(picture), *function->source, size), stats);
-    return rearranged(std::move(picture), *target, size);
+    const Picture source = rearranged(std::move(picture), *function->source, size);
+    Picture result(*function->destination, size, source.visible(), Contents::any); // whole blocks: all is written
+    return rearranged(runInto(std::move(result), *function, source, stats, opaque, nullptr), *target, size);
 }
 
 Conversion findConversion(const Format& from, const Format& to, std::optional<interface::Model> matrix, bool dither)

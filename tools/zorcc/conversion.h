@@ -2,6 +2,8 @@
 // Choosing and running functions of the library.
 #pragma once
 
+#include <chrono>
+#include <mutex>
 #include <optional>
 #include <string>
 
@@ -12,27 +14,34 @@ namespace zorcc::tool {
 
 using interface::Function;
 
-// What a function of the library has been run on, and the time of its work alone.
-struct Stats {
-    int repeat = 1; // runs on each picture, of which the fastest counts
-    int pictures = 0;
-    double megapixels = 0, seconds = 0;
+// What a function of the library has been run on, and the time of its work alone. Several threads may add to it.
+class Stats {
+public:
+    explicit Stats(int runs = 1) : repeat(runs) {}
 
-    // Of the last picture.
-    const Function* function = nullptr;
-    ZorSize size{};
-    ZorStatus status = zorStatusOk;
+    const int repeat; // runs on each picture, of which the fastest counts
+
+    void add(const Function& ran, const Picture& picture, std::chrono::duration<double> time);
+    bool isEmpty() const { return !function; }
 
     // One line: "zoriRGBToYUV_8u_C3R: 1 picture of 1920x1080, 5012.3 megapixels/s (best of 3)".
     std::string line() const;
+
+private:
+    std::mutex mutex;
+    int pictures = 0;
+    double megapixels = 0, seconds = 0;
+    const Function* function = nullptr; // of the last picture
+    ZorSize size{};
 };
 
 // Runs a function on a picture of its source format; the result has the same size, whole and visible. Samples that
-// the function leaves alone are 0, alpha 255. Throws Cause for an error; a warning is left in stats.status.
+// the function leaves alone are 0, alpha 255. Throws Cause for an error and leaves a warning in `status`.
 inline constexpr interface::Extra opaque {
     .alpha = 255
 };
-Picture run(const Function& function, const Picture& source, Stats& stats, const interface::Extra& arguments = opaque);
+Picture run(const Function& function, const Picture& source, Stats& stats, const interface::Extra& arguments = opaque,
+            ZorStatus* status = nullptr);
 
 // The way from one format to another: rearrangement, a function, rearrangement; or, without a function, just that.
 struct Conversion {

@@ -1,29 +1,29 @@
 // SPDX-License-Identifier: MIT
 #include "file_run.h"
 
-#include <iostream>
-
 #include "error.h"
-#include "io/writer.h"
-#include "progress.h"
+#include "pipeline.h"
 
 namespace zorcc::tool {
 
-void runOnFile(const std::string& in, const std::string& out, const Timing& timing,
+void runOnFile(const std::string& in, const OutputPath& out, const Timing& timing,
                const std::function<Work(const Format& format)>& choose)
 {
     const auto reader = openReader(in);
     const auto writer = openWriter(out, reader->tags());
-    Stats stats{timing.repeat};
-    writeAll(*reader, *writer, [&](Picture picture) {
-        const auto [function, arguments] = choose(picture.format());
-        const ZorSize size = picture.visible();
-        const Picture source = rearranged(std::move(picture), *function.source, size);
-        Picture result = run(function, source, stats, arguments);
-        if (function.alpha == interface::Alpha::keep) copyAlpha(source, result);
-        return result;
-    });
-    if (timing.stats) std::cout << stats.line();
+    Stats stats(timing.repeat);
+    writeAll(
+        *reader, *writer,
+        [&](Picture picture) {
+            const auto [function, arguments] = choose(picture.format());
+            const ZorSize size = picture.visible();
+            const Picture source = rearranged(std::move(picture), *function.source, size);
+            Picture result = run(function, source, stats, arguments);
+            if (function.alpha == interface::Alpha::keep) copyAlpha(source, result);
+            return result;
+        },
+        timing.isWanted());
+    if (timing.stats) printStats(stats.line(), {out.path});
 }
 
 const Function& colourFunction(const std::string& operation, const Format& format, const std::string& result)

@@ -15,9 +15,9 @@ struct Work {
     interface::Extra arguments = opaque;
 };
 
-// `choose` says what to do with pictures of a format; they are rearranged to what the function takes. Alpha that it
-// leaves alone is that of the source. Prints the time if that is asked for.
-void runOnFile(const std::string& in, const std::string& out, const Timing& timing,
+// `choose` says what to do with pictures of a format, on any thread; they are rearranged to what the function takes.
+// Alpha that it leaves alone is that of the source. Prints the time if that is asked for.
+void runOnFile(const std::string& in, const OutputPath& out, const Timing& timing,
                const std::function<Work(const Format& format)>& choose);
 
 // The function zori<operation>_<sample type>_<layout>R for pictures as files hold them, of three channels, or of four

@@ -6,6 +6,7 @@
 #include <cstring>
 
 #include "error.h"
+#include "names.h"
 
 namespace zorcc::tool {
 
@@ -52,11 +53,47 @@ template <class From, class To> void copy(const Channel& from, const Channel& to
     for (int y = 0; y < to.height; ++y) {
         const std::uint8_t* const source = from.first + from.step * std::min(y, from.height - 1);
         std::uint8_t* const destination = to.first + to.step * y;
+        if (std::is_same_v<From, To> && from.stride == sizeof(From) && to.stride == sizeof(To) &&
+            from.width >= to.width) {
+            std::memcpy(destination, source, sizeof(To) * to.width);
+            continue;
+        }
         for (int x = 0; x < to.width; ++x) {
             const To value = converted<To>(load<From>(source + from.stride * std::min(x, from.width - 1)));
             std::memcpy(destination + to.stride * x, &value, sizeof value);
         }
     }
+}
+
+// Pixels of interleaved bytes in another order of channels: alpha that does not exist is opaque.
+template <int from, int to> void reorder(const Picture& source, const Picture& destination, const int (&index)[4])
+{
+    const int width = source.size().width;
+    for (int y = 0; y < source.size().height; ++y) {
+        const std::uint8_t* in = source.row(0, y);
+        std::uint8_t* out = destination.row(0, y);
+        for (int x = 0; x < width; ++x, in += from, out += to)
+            for (int c = 0; c < to; ++c) out[c] = index[c] < from ? in[index[c]] : 255;
+    }
+}
+
+bool isInterleavedBytes(const Format& format)
+{
+    return format.layout == Layout::interleaved && format.sample == Sample::u8 && format.channels.size() >= 3;
+}
+
+// What rearranged() does with most pictures of colours.
+void reorder(const Picture& from, const Picture& to)
+{
+    const std::string_view before = from.format().channels, after = to.format().channels;
+    int index[4] = {};
+    for (std::size_t c = 0; c < after.size(); ++c)
+        index[c] = static_cast<int>(std::min(before.find(after[c]), before.size()));
+    const bool fromFour = before.size() == 4, toFour = after.size() == 4;
+    if (fromFour)
+        toFour ? reorder<4, 4>(from, to, index) : reorder<4, 3>(from, to, index);
+    else
+        toFour ? reorder<3, 4>(from, to, index) : reorder<3, 3>(from, to, index);
 }
 
 // Whether samples of one type are those of another times the ratio of their ranges. L*u*v* in floats is not in 0..1,
@@ -157,22 +194,38 @@ void pack(const Picture& bytes, const Picture& to)
 
 } // namespace
 
+const std::vector<const Format*>& namedFormats()
+{
+    static const std::vector<const Format*> all = [] {
+        std::vector<const Format*> found;
+        for (const interface::Function& function : interface::functions())
+            for (const Format* format : {function.source, function.destination})
+                if (std::none_of(found.begin(), found.end(), [&](const Format* f) { return f->name == format->name; }))
+                    found.push_back(format);
+        std::sort(found.begin(), found.end(), [](const Format* f, const Format* g) { return f->name < g->name; });
+        return found;
+    }();
+    return all;
+}
+
 const Format& formatNamed(const std::string& name)
 {
-    // Elsewhere the channel in the highest bits is named first.
-    for (const char* const digits : {"565", "555", "444"})
-        for (const bool rgb : {true, false})
-            if (name == (rgb ? "rgb" : "bgr") + std::string(digits) + "le")
-                return formatNamed((rgb ? "bgr" : "rgb") + std::string(digits));
-    std::string known;
-    for (const interface::Function& function : interface::functions())
-        for (const Format* format : {function.source, function.destination}) {
-            if (format->name == name) return *format;
-            const std::string word = std::string(" ").append(format->name).append(","); // g++ 12 warns of operator+
-            if (known.find(word) == std::string::npos) known += word;
-        }
-    known.pop_back();
-    throw UsageError("unknown format " + name + "; known:" + known);
+    static constexpr std::pair<std::string_view, std::string_view> aliases[] = {
+        // Elsewhere the channel in the highest bits is named first.
+        {"rgb565le", "bgr565"}, {"bgr565le", "rgb565"},   {"rgb555le", "bgr555"}, {"bgr555le", "rgb555"},
+        {"rgb444le", "bgr444"}, {"bgr444le", "rgb444"},   {"yuyv422", "yuy2"},    {"uyvy422", "uyvy"},
+        {"yvyu422", "yvyu"},    {"iyuv", "i420"},         {"gray", "grey8"},      {"gray8", "grey8"},
+        {"gray16le", "grey16"}, {"grayf32le", "greyf32"}, {"rgb48le", "rgb48"},   {"rgba64le", "rgba64"}};
+    std::string known = inSmallLetters(name);
+    for (const auto& [alias, format] : aliases)
+        if (known == alias) known = format;
+    std::vector<std::string> names;
+    for (const Format* format : namedFormats()) {
+        if (format->name == known) return *format;
+        names.emplace_back(format->name);
+    }
+    for (const auto& [alias, format] : aliases) names.emplace_back(alias);
+    throw UsageError("unknown format " + quoted(name) + nearest(name, names) + " (zorcc list --formats shows all)");
 }
 
 const Format* formatOfModel(const std::string& name, const Format& from)
@@ -180,7 +233,7 @@ const Format* formatOfModel(const std::string& name, const Format& from)
     const Format* deep = nullptr;
     for (const interface::Function& function : interface::functions()) {
         const Format& format = *function.destination;
-        if (isRgb(format) || isYuv(format) || interface::propertiesOf(format.model).name != name ||
+        if (isRgb(format) || isYuv(format) || interface::propertiesOf(format.model).name != inSmallLetters(name) ||
             format.layout != Layout::interleaved || format.channels.size() != 3)
             continue;
         if (format.sample == from.sample) return &format;
@@ -197,23 +250,26 @@ const Format& pictureFormat(bool grey, bool alpha, Sample sample)
     return grey ? grey8 : alpha ? rgba : rgb24;
 }
 
-const Format& withModel(const Format& format, interface::Model model)
+const Format* twin(const Format& format, interface::Model model)
 {
     using namespace interface::formats;
     // What files hold although no function has it.
     static constexpr const Format* others[] = {&planar<interface::Model::bt709, 3, 1>,
                                                &planar<interface::Model::bt709full, 3>,
                                                &planar<interface::Model::bt709full, 3, 1>};
-    const auto isTwin = [&](const Format& f) {
-        return f.model == model && f.channels == format.channels && f.sample == format.sample &&
-               f.layout == format.layout && f.log2X() == format.log2X() && f.log2Y() == format.log2Y();
-    };
-    if (isTwin(format)) return format;
+    const auto isTwin = [&](const Format& f) { return f.model == model && haveSameMemory(f, format); };
+    if (isTwin(format)) return &format;
     for (const interface::Function& function : interface::functions())
         for (const Format* f : {function.source, function.destination})
-            if (isTwin(*f)) return *f;
+            if (isTwin(*f)) return f;
     for (const Format* f : others)
-        if (isTwin(*f)) return *f;
+        if (isTwin(*f)) return f;
+    return nullptr;
+}
+
+const Format& withModel(const Format& format, interface::Model model)
+{
+    if (const Format* const found = twin(format, model)) return *found;
     throw Cause(std::string(format.name) + " exists by another matrix only");
 }
 
@@ -237,7 +293,7 @@ const Format& planarYuv(const Format& format)
 
 std::optional<int> rearrangementCost(const Format& from, const Format& to)
 {
-    if (&from == &to) return 0;
+    if (&from == &to || (haveSameMemory(from, to) && isSameModel(from.model, to.model))) return 0;
     if (isGrey(from) && to.model == interface::Model::mosaic && from.sample == to.sample) return 1;
     if (!isSameModel(from.model, to.model) || from.log2X() != to.log2X() || from.log2Y() != to.log2Y()) return {};
     int cost = 1;
@@ -259,10 +315,15 @@ std::optional<int> rearrangementCost(const Format& from, const Format& to)
 
 Picture rearranged(Picture picture, const Format& to, ZorSize size)
 {
-    if (&picture.format() == &to && picture.size() == size) return picture;
+    if (haveSameMemory(picture.format(), to) && picture.size() == size) return std::move(picture).takenFor(to);
     const ZorSize visible = {std::min(picture.visible().width, size.width),
                              std::min(picture.visible().height, size.height)};
-    Picture result(to, size, visible);
+    const bool fillsAll = wholeBlocks(size, to) == size;
+    Picture result(to, size, visible, fillsAll ? Contents::any : Contents::zeros);
+    if (isInterleavedBytes(picture.format()) && isInterleavedBytes(to) && picture.size() == size && visible == size) {
+        reorder(picture, result);
+        return result;
+    }
     if (&picture.format() == &to && to.layout == Layout::packedBits) { // one sample a pixel, whatever it means
         copy<std::uint16_t, std::uint16_t>(
             {picture.row(0, 0), picture.image().step[0], 2, picture.visible().width, picture.visible().height},

@@ -4,13 +4,17 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "picture.h"
 
 namespace zorcc::tool {
 
-// A format that some function takes or gives. Also what others call rgb565le, which is bgr565, and so on: here the
-// channel named first is in the low bits. Throws UsageError for other names.
+// All that some function takes or gives, by name.
+const std::vector<const Format*>& namedFormats();
+
+// One of them, in small or capital letters; also by the names of the outside world, such as yuyv422 and rgb565le, where
+// the channel named first is in the high bits. Throws UsageError for other names.
 const Format& formatNamed(const std::string& name);
 
 // The interleaved format of three channels, of a colour model that is neither RGB nor luma and chroma with a matrix, by
@@ -34,14 +38,9 @@ inline bool isYuv(const Format& format) { return interface::isYcc(format.model);
 // How a picture file that holds red, green and blue, or grey, of the given sample type says it.
 const Format& pictureFormat(bool grey, bool alpha, Sample sample);
 
-// A luma-chroma format's twin by another matrix; throws Cause if there is none.
+// A luma-chroma format's twin by another matrix, null or a Cause if there is none.
+const Format* twin(const Format& format, interface::Model model);
 const Format& withModel(const Format& format, interface::Model model);
-
-// What a plain name such as yuv420p means by the given matrix; formats whose names give their matrix stay as they are.
-inline const Format& byMatrix(const Format& format, interface::Model matrix)
-{
-    return format.model == interface::Model::yuv ? withModel(format, matrix) : format;
-}
 
 // Whether values of one model are values of the other: formats whose samples only change places go with any matrix.
 bool isSameModel(interface::Model a, interface::Model b);

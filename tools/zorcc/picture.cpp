@@ -3,6 +3,8 @@
 
 #include <algorithm>
 #include <climits>
+#include <mutex>
+#include <vector>
 
 #include "error.h"
 
@@ -16,11 +18,61 @@ constexpr std::size_t alignment = 64;
 
 constexpr std::size_t aligned(std::size_t bytes) { return (bytes + alignment - 1) / alignment * alignment; }
 
+// Blocks of pictures that are gone. A video needs the same sizes for every picture, and the system's pages for a new
+// large block cost about as much as a conversion.
+class Pool {
+public:
+    void* take(std::size_t bytes)
+    {
+        const std::lock_guard lock(mutex);
+        for (Block& block : blocks)
+            if (block.bytes == bytes) return std::exchange(block, Block{}).memory;
+        return nullptr;
+    }
+
+    // Whether the block is kept.
+    bool give(void* memory, std::size_t bytes)
+    {
+        if (bytes > largest) return false;
+        const std::lock_guard lock(mutex);
+        Block& oldest = blocks[next];
+        next = (next + 1) % std::size(blocks);
+        std::free(std::exchange(oldest, Block{memory, bytes}).memory);
+        return true;
+    }
+
+private:
+    struct Block {
+        void* memory = nullptr;
+        std::size_t bytes = 0;
+    };
+
+    static constexpr std::size_t largest = 64 << 20;
+
+    std::mutex mutex;
+    Block blocks[8];
+    std::size_t next = 0;
+};
+
+constinit Pool pool;
+
 int roundUp(int value, int log2)
 {
     const std::int64_t rounded = (static_cast<std::int64_t>(value) + (1 << log2) - 1) >> log2 << log2;
     if (rounded > INT_MAX) throw Cause("a side of " + std::to_string(value) + " pixels is too long");
     return static_cast<int>(rounded);
+}
+
+// Planes with shared chroma are in files as a whole.
+std::size_t rowBytesInFile(const Format& format, int plane, ZorSize size, ZorSize visible)
+{
+    const bool shared = format.plane[plane].log2X > 0 || format.layout == Layout::packed422;
+    return interface::rowBytes(format, plane, shared ? size.width : visible.width);
+}
+
+int rowsInFile(const Format& format, int plane, ZorSize size, ZorSize visible)
+{
+    return interface::rows(format, plane, format.plane[plane].log2Y > 0 ? size.height : visible.height);
 }
 
 // Samples of a channel that `pixels` pixels share by 1 << log2, of which `stored` exist.
@@ -42,8 +94,24 @@ void checkRowBytes(const Format& format, ZorSize size)
             throw Cause(sizeName(size) + " pixels: rows are longer than 2 GiB");
 }
 
-Picture::Picture(const Format& format, ZorSize size, ZorSize visible)
-    : pixelFormat(&format), whole(size), shown(visible)
+void checkPixels(ZorSize size)
+{
+    if (static_cast<std::int64_t>(size.width) * size.height > maxPixels)
+        throw Cause(sizeName(size) + " pixels are more than the " + std::to_string(maxPixels) +
+                    " that --max-pixels allows");
+}
+
+bool haveSameMemory(const Format& a, const Format& b)
+{
+    const auto sameShape = [](const interface::PlaneShape& p, const interface::PlaneShape& q) {
+        return p.samples == q.samples && p.log2X == q.log2X && p.log2Y == q.log2Y;
+    };
+    return a.channels == b.channels && a.sample == b.sample && a.layout == b.layout && a.fieldBits == b.fieldBits &&
+           a.roundsUp == b.roundsUp && std::equal(a.plane, a.plane + a.planes, b.plane, b.plane + b.planes, sameShape);
+}
+
+Picture::Picture(const Format& format, ZorSize size, ZorSize visible, Contents contents)
+    : pixelFormat(&format), whole(size), shown(visible), memory(nullptr, Release{0})
 {
     checkRowBytes(format, size); // and so no product below reaches 2^62
     interface::setContiguousSteps(format, size.width, planes);
@@ -52,25 +120,39 @@ Picture::Picture(const Format& format, ZorSize size, ZorSize visible)
         offset[p] = bytes;
         bytes += aligned(interface::rowBytes(format, p, size.width) * interface::rows(format, p, size.height));
     }
-    // calloc, because its zeros cost nothing before they are touched: a damaged file may promise any size.
     std::size_t space = bytes + alignment;
-    if (bytes <= PTRDIFF_MAX - alignment) memory.reset(std::calloc(space, 1));
+    memory = {contents == Contents::any ? pool.take(space) : nullptr, Release{space}};
+    // calloc, because its zeros cost nothing before they are touched: a damaged file may promise any size.
+    if (!memory && bytes <= PTRDIFF_MAX - alignment) memory.reset(std::calloc(space, 1));
     if (!memory) throw Cause(sizeName(size) + " pixels: not enough memory");
     void* first = memory.get();
     std::align(alignment, bytes, first, space);
     for (int p = 0; p < format.planes; ++p) planes.plane[p] = static_cast<std::uint8_t*>(first) + offset[p];
 }
 
-std::size_t Picture::visibleRowBytes(int plane) const
+void Picture::Release::operator()(void* block) const
 {
-    const bool shared = pixelFormat->plane[plane].log2X > 0 || pixelFormat->layout == Layout::packed422;
-    return interface::rowBytes(*pixelFormat, plane, shared ? whole.width : shown.width);
+    if (!pool.give(block, bytes)) std::free(block);
 }
 
-int Picture::visibleRows(int plane) const
+Picture Picture::takenFor(const Format& format) &&
 {
-    const bool shared = pixelFormat->plane[plane].log2Y > 0;
-    return interface::rows(*pixelFormat, plane, shared ? whole.height : shown.height);
+    Picture same = std::move(*this);
+    same.pixelFormat = &format;
+    return same;
+}
+
+std::size_t Picture::visibleRowBytes(int plane) const { return rowBytesInFile(*pixelFormat, plane, whole, shown); }
+
+int Picture::visibleRows(int plane) const { return rowsInFile(*pixelFormat, plane, whole, shown); }
+
+std::uint64_t bytesInFile(const Format& format, ZorSize size, ZorSize visible)
+{
+    std::uint64_t bytes = 0;
+    for (int p = 0; p < format.planes; ++p)
+        bytes +=
+            static_cast<std::uint64_t>(rowBytesInFile(format, p, size, visible)) * rowsInFile(format, p, size, visible);
+    return bytes;
 }
 
 Channel channelOf(const Picture& picture, char letter, ZorSize extent)

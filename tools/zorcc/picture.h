@@ -29,12 +29,27 @@ inline ZorSize wholeBlocks(ZorSize size, const Format& format)
 // Throws Cause if a row of the image has more bytes than a step can say.
 void checkRowBytes(const Format& format, ZorSize size);
 
-// Starts as zeros. Every plane starts on a 64-byte boundary; its rows follow each other without gaps, as the functions
+// What files may hold, unless the user allows more: their headers cost nothing, but the memory for them does.
+inline std::int64_t maxPixels = 1 << 28;
+
+// Throws Cause for pictures of files that are larger.
+void checkPixels(ZorSize size);
+
+// Whether the bytes of images are the same in both, so that one can be taken for the other.
+bool haveSameMemory(const Format& a, const Format& b);
+
+// Of a new picture: whatever its memory held is for those who write all of it.
+enum class Contents { zeros, any };
+
+// Every plane starts on a 64-byte boundary; its rows follow each other without gaps, as the functions
 // without steps want them. Pixels outside `visible` only complete the last blocks.
 class Picture {
 public:
-    Picture(const Format& format, ZorSize size, ZorSize visible);
+    Picture(const Format& format, ZorSize size, ZorSize visible, Contents contents = Contents::zeros);
     Picture(const Format& format, ZorSize size) : Picture(format, size, size) {}
+
+    // The same bytes in a format that has the same memory.
+    Picture takenFor(const Format& format) &&;
 
     const Format& format() const { return *pixelFormat; }
     ZorSize size() const { return whole; }
@@ -51,21 +66,27 @@ public:
     int visibleRows(int plane) const;
 
 private:
-    struct Free {
-        void operator()(void* block) const { std::free(block); }
+    // Keeps the memory for the next picture of as many bytes.
+    struct Release {
+        std::size_t bytes;
+        void operator()(void* block) const;
     };
 
     const Format* pixelFormat;
     ZorSize whole, shown;
     interface::Image planes;
-    std::unique_ptr<void, Free> memory;
+    std::unique_ptr<void, Release> memory;
 };
 
-// What a video file says about its pictures, in the terms of Y4M. Pictures from other files are 25 a second, of full
-// range.
+// All visible rows of all planes.
+std::uint64_t bytesInFile(const Format& format, ZorSize size, ZorSize visible);
+
+// What a video file says about its pictures, in the terms of Y4M.
 struct VideoTags {
     std::string frameRate = "25:1";
-    std::string range = "FULL";          // empty: not said
+    std::string interlacing = "p";       // empty: not said
+    std::string aspect = "1:1";          // of a pixel; empty: not said
+    std::string range;                   // FULL or LIMITED; empty: not said
     std::string sampling420 = "420jpeg"; // where the chroma samples of 4:2:0 lie
 };
 

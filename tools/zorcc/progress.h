@@ -2,11 +2,14 @@
 #pragma once
 
 #include <chrono>
+#include <string>
 
-#include "error.h"
 #include "io/reader.h"
 
 namespace zorcc::tool {
+
+// Columns of the terminal that a file descriptor leads to; 0 where it leads elsewhere.
+int terminalWidth(int descriptor);
 
 // A line on a terminal's stderr that shows how much of a file of many pictures is done; it is erased at the end.
 class Progress {
@@ -16,23 +19,14 @@ public:
     Progress(const Progress&) = delete;
     Progress& operator=(const Progress&) = delete;
 
-    void update(); // after each picture
+    void update(int pictures); // after each picture
 
 private:
+    std::string line(int pictures, double seconds) const;
+
     const Reader& from;
     bool terminal, shown = false;
-    std::chrono::steady_clock::time_point last;
+    std::chrono::steady_clock::time_point begin, last;
 };
-
-// Writes what `make` makes of each picture of a file.
-template <class Output, class Make> void writeAll(Reader& reader, Output& output, Make make)
-{
-    Progress progress(reader);
-    while (auto picture = reader.next()) {
-        output.write(naming(reader.path(), [&] { return make(std::move(*picture)); }));
-        progress.update();
-    }
-    output.commit();
-}
 
 } // namespace zorcc::tool

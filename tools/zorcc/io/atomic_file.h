@@ -4,24 +4,45 @@
 
 #include <cstddef>
 #include <cstdio>
+#include <memory>
 #include <string>
 
 namespace zorcc::tool {
 
-// To be called once, before any thread is started: from then on SIGINT, SIGTERM and SIGHUP remove the unfinished files
-// before they end the program.
-void removeUnfinishedFilesOnSignals();
+// Removes them and lets no new ones appear, nor files that are complete: for the end of the process.
+void removeUnfinishedFiles();
 
-// Written beside its place under a temporary name, renamed by commit(), removed by a destructor without commit(). What
-// is no regular file (a pipe, a device) is written directly.
+// A new file beside the one that it is to become, in a list of all such files from before it exists until it is renamed
+// or removed.
+class TemporaryFile {
+public:
+    TemporaryFile() = default;
+    ~TemporaryFile();
+    TemporaryFile(const TemporaryFile&) = delete;
+    TemporaryFile& operator=(const TemporaryFile&) = delete;
+
+    int create(const std::string& target); // the descriptor
+    bool exists() const { return listed; }
+    void becomes(const std::string& target);
+
+private:
+    friend void removeUnfinishedFiles();
+
+    void leaveList(); // with the list's lock
+
+    std::string name;
+    bool listed = false;
+    TemporaryFile *before = nullptr, *after = nullptr;
+};
+
+// Written under a temporary name, renamed by commit(), removed by a destructor without commit(). What is no regular
+// file (a pipe, a device) is written directly, as is standard output, named "-".
 class AtomicFile {
 public:
     explicit AtomicFile(const std::string& path);
-    ~AtomicFile();
-    AtomicFile(const AtomicFile&) = delete;
-    AtomicFile& operator=(const AtomicFile&) = delete;
 
-    std::FILE* stream() const { return file; }
+    const std::string& name() const { return target; }
+    std::FILE* stream() const { return file.get(); }
     void write(const void* from, std::size_t count);
     void print(const std::string& text) { write(text.data(), text.size()); }
 
@@ -30,8 +51,15 @@ public:
     void commit();
 
 private:
-    std::string target, temporary; // no temporary: written directly
-    std::FILE* file = nullptr;
+    struct Close {
+        void operator()(std::FILE* stream) const { std::fclose(stream); }
+    };
+
+    void adopt(int descriptor); // closes it on failure
+
+    std::string target;
+    TemporaryFile temporary;
+    std::unique_ptr<std::FILE, Close> file; // closed before the temporary file is removed
 };
 
 } // namespace zorcc::tool

@@ -9,6 +9,9 @@
 
 namespace zorcc::tool {
 
+// The visible part in the format of a file, with a warning where that loses alpha or bits.
+Picture toEncode(const AtomicFile& file, Picture picture, const Format& format);
+
 // 1 to 16 bits, palettes, grey, alpha and interlaced files, as 8 or 16 bits.
 Picture decodePng(InputFile& file);
 void encodePng(AtomicFile& file, Picture picture);

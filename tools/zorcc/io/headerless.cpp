@@ -6,19 +6,21 @@ namespace zorcc::tool {
 
 namespace {
 
-class HeaderlessReader : public Reader {
+class HeaderlessReader : public FileReader {
 public:
-    HeaderlessReader(const std::string& path, InputFile input, const Headerless& layout)
-        : Reader(path, std::move(input)), format(*layout.format), visible(layout.size),
+    HeaderlessReader(InputFile input, const Headerless& layout)
+        : FileReader(std::move(input)), format(*layout.format), visible(layout.size),
           size(layout.oddSizes == OddSizes::roundUp ? wholeBlocks(visible, format) : visible)
     {
     }
 
+    bool mayHoldSeveral() const override { return true; }
+
 private:
-    std::optional<Picture> read() override
+    std::optional<Pending> read() override
     {
         if (file.atEnd()) return {};
-        return readPlanes(file, format, size, visible);
+        return Pending(readPlanes(file, format, size, visible));
     }
 
     const Format& format;
@@ -27,9 +29,9 @@ private:
 
 } // namespace
 
-std::unique_ptr<Reader> headerlessReader(const std::string& path, InputFile file, const Headerless& layout)
+std::unique_ptr<Reader> headerlessReader(InputFile file, const Headerless& layout)
 {
-    return std::make_unique<HeaderlessReader>(path, std::move(file), layout);
+    return std::make_unique<HeaderlessReader>(std::move(file), layout);
 }
 
 } // namespace zorcc::tool

@@ -1,16 +1,33 @@
 // SPDX-License-Identifier: MIT
 #include "input_file.h"
 
+#include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <cerrno>
 #include <cstring>
 
 #include "../error.h"
+#include "file_kind.h"
 
 namespace zorcc::tool {
 
-InputFile::InputFile(const std::string& path) : file(std::fopen(path.c_str(), "rbe"))
+namespace {
+
+std::FILE* opened(const std::string& path)
+{
+    if (!isStandardStream(path)) return std::fopen(path.c_str(), "rbe");
+    const int descriptor = fcntl(STDIN_FILENO, F_DUPFD_CLOEXEC, 3);
+    std::FILE* const stream = descriptor < 0 ? nullptr : fdopen(descriptor, "rb");
+    if (!stream && descriptor >= 0) close(descriptor);
+    return stream;
+}
+
+} // namespace
+
+InputFile::InputFile(const std::string& from)
+    : path(isStandardStream(from) ? "standard input" : from), file(opened(from))
 {
     struct stat status {};
     if (!file || fstat(fileno(stream()), &status) != 0) throw Cause(std::strerror(errno));

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A file to read from. Failures throw Cause.
+// A file to read from, or standard input, named "-". Failures throw Cause.
 #pragma once
 
 #include <cstdint>
@@ -14,6 +14,7 @@ class InputFile {
 public:
     explicit InputFile(const std::string& path);
 
+    const std::string& name() const { return path; }
     std::FILE* stream() const { return file.get(); }
 
     // Size in bytes, and how many are left; nothing for pipes and the like.
@@ -36,6 +37,7 @@ private:
 
     [[noreturn]] void fail() const; // after a short read
 
+    std::string path;
     std::unique_ptr<std::FILE, Close> file;
     std::optional<std::uint64_t> bytes;
 };

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
+#include <algorithm>
 #include <csetjmp>
-#include <vector>
 
 #include <png.h>
 
 #include "../error.h"
 #include "../formats.h"
 #include "codecs.h"
+#include "metadata.h"
 
 namespace zorcc::tool {
 
@@ -47,7 +48,6 @@ struct Decoder : Png {
             const auto stream = static_cast<std::FILE*>(png_get_io_ptr(from));
             if (std::fread(data, 1, count, stream) != count) png_error(from, "the file ends early");
         });
-        png_set_user_limits(png, PNG_UINT_31_MAX, PNG_UINT_31_MAX); // memory is the limit
     }
     ~Decoder() { png_destroy_read_struct(&png, &info, nullptr); }
     Decoder(const Decoder&) = delete;
@@ -72,11 +72,13 @@ struct Encoder : Png {
     Encoder& operator=(const Encoder&) = delete;
 };
 
-std::vector<png_bytep> rowPointers(const Picture& picture)
+// A profile or an orientation in the file would change what is to be seen.
+void warnOfMetadata(const InputFile& file, png_structp png, png_infop info)
 {
-    std::vector<png_bytep> rows;
-    for (int y = 0; y < picture.size().height; ++y) rows.push_back(picture.row(0, y));
-    return rows;
+    if (png_get_valid(png, info, PNG_INFO_iCCP) != 0) warnOfProfile(file);
+    png_uint_32 count = 0;
+    png_bytep exif = nullptr;
+    if (png_get_eXIf_1(png, info, &count, &exif) != 0) warnOfOrientation(file, {exif, count});
 }
 
 } // namespace
@@ -93,26 +95,31 @@ Picture decodePng(InputFile& file)
     // Deflate makes at most 1032 bytes of one, so a short file is known to lack rows before memory is taken for them.
     constexpr std::uint64_t maxExpansion = 1032;
     file.expect(static_cast<std::uint64_t>(png_get_rowbytes(png, info)) * size.height / maxExpansion);
+    checkPixels(size);
 
     const int colour = png_get_color_type(png, info);
     const bool alpha = (colour & PNG_COLOR_MASK_ALPHA) != 0 || png_get_valid(png, info, PNG_INFO_tRNS) != 0;
     const bool grey = (colour & PNG_COLOR_MASK_COLOR) == 0 && !alpha;
     const bool deep = png_get_bit_depth(png, info) == 16;
+    int passes = 1;
+    int* const found = &passes;
     decoder.guarded([=] {
         png_set_expand(png); // palettes to RGB, 1, 2 and 4 bits to 8, a transparent colour to alpha
         if (!grey) png_set_gray_to_rgb(png);
         if (deep) png_set_swap(png); // least significant byte first, as in memory
-        png_set_interlace_handling(png);
+        *found = png_set_interlace_handling(png);
         png_read_update_info(png, info);
     });
     Picture picture(pictureFormat(grey, alpha, deep ? Sample::u16 : Sample::u8), size);
     if (png_get_rowbytes(png, info) != picture.visibleRowBytes(0)) throw Cause("unknown kind of PNG");
-    std::vector<png_bytep> rows = rowPointers(picture);
-    const png_bytepp first = rows.data();
+    // Row by row, so that memory is touched only as the file gives rows.
+    const Picture* const to = &picture;
     decoder.guarded([=] {
-        png_read_image(png, first);
+        for (int pass = 0; pass < passes; ++pass)
+            for (int y = 0; y < size.height; ++y) png_read_row(png, to->row(0, y), nullptr);
         png_read_end(png, nullptr);
     });
+    warnOfMetadata(file, png, info);
     return picture;
 }
 
@@ -121,8 +128,10 @@ void encodePng(AtomicFile& file, Picture given)
     const Format& from = given.format();
     const bool grey = isGrey(from), deep = isDeep(from);
     const ZorSize size = given.visible();
+    if (std::max(size.width, size.height) > PNG_USER_WIDTH_MAX)
+        throw Cause(sizeName(size) + " pixels: sides of PNG files have at most " + std::to_string(PNG_USER_WIDTH_MAX));
     const Picture picture =
-        rearranged(std::move(given), pictureFormat(grey, hasAlpha(from), deep ? Sample::u16 : Sample::u8), size);
+        toEncode(file, std::move(given), pictureFormat(grey, hasAlpha(from), deep ? Sample::u16 : Sample::u8));
 
     Encoder encoder(file);
     const png_structp png = encoder.png;
@@ -130,15 +139,13 @@ void encodePng(AtomicFile& file, Picture given)
     const int colour = grey                         ? PNG_COLOR_TYPE_GRAY
                        : hasAlpha(picture.format()) ? PNG_COLOR_TYPE_RGB_ALPHA
                                                     : PNG_COLOR_TYPE_RGB;
-    std::vector<png_bytep> rows = rowPointers(picture);
-    const png_bytepp first = rows.data();
+    const Picture* const rows = &picture;
     encoder.guarded([=] {
-        png_set_user_limits(png, PNG_UINT_31_MAX, PNG_UINT_31_MAX);
         png_set_IHDR(png, info, static_cast<png_uint_32>(size.width), static_cast<png_uint_32>(size.height),
                      deep ? 16 : 8, colour, PNG_INTERLACE_NONE, PNG_COMPRESSION_TYPE_DEFAULT, PNG_FILTER_TYPE_DEFAULT);
         png_write_info(png, info);
         if (deep) png_set_swap(png);
-        png_write_image(png, first);
+        for (int y = 0; y < size.height; ++y) png_write_row(png, rows->row(0, y));
         png_write_end(png, nullptr);
     });
 }

@@ -3,7 +3,6 @@
 #include <cctype>
 #include <climits>
 #include <cstring>
-#include <vector>
 
 #include "../error.h"
 #include "../formats.h"
@@ -43,21 +42,21 @@ int number(InputFile& file, int low, int high)
     return static_cast<int>(value);
 }
 
-// Big-endian samples in the file, or text, to samples in memory, scaled from 0..maximum to the full range.
+// Big-endian samples in the file, or text, to samples in memory, scaled from 0..maximum to the full range. Rows are
+// read into their place: a header may promise any row, and memory costs nothing before it is touched.
 template <class T> void readSamples(InputFile& file, const Picture& picture, int maximum, bool text)
 {
     constexpr int full = sizeof(T) == 1 ? 255 : 65535;
     const std::size_t rowBytes = picture.visibleRowBytes(0);
-    std::vector<std::uint8_t> bytes(rowBytes);
     for (int y = 0; y < picture.size().height; ++y) {
-        if (!text) file.read(bytes.data(), rowBytes);
+        std::uint8_t* const row = picture.row(0, y);
+        if (!text) file.read(row, rowBytes);
+        if (!text && sizeof(T) == 1 && maximum == full) continue;
         for (std::size_t i = 0; i < rowBytes; i += sizeof(T)) {
-            const int value = text             ? number(file, 0, maximum)
-                              : sizeof(T) == 1 ? bytes[i]
-                                               : bytes[i] << 8 | bytes[i + 1];
+            const int value = text ? number(file, 0, maximum) : sizeof(T) == 1 ? row[i] : row[i] << 8 | row[i + 1];
             if (value > maximum) throw Cause("a sample is above the maximum of the header");
             const auto scaled = static_cast<T>((static_cast<std::int64_t>(value) * full + maximum / 2) / maximum);
-            std::memcpy(picture.row(0, y) + i, &scaled, sizeof scaled);
+            std::memcpy(row + i, &scaled, sizeof scaled);
         }
     }
 }
@@ -71,6 +70,7 @@ Picture decodePfm(InputFile& file, bool grey, ZorSize size)
     const Format& format = pictureFormat(grey, false, Sample::f32);
     checkRowBytes(format, size);
     file.expect(interface::rowBytes(format, 0, size.width) * size.height);
+    checkPixels(size);
     Picture picture(format, size);
     const std::size_t rowBytes = picture.visibleRowBytes(0);
     for (int y = size.height - 1; y >= 0; --y) { // the lowest row comes first
@@ -87,7 +87,7 @@ void encodeIntegers(AtomicFile& file, Picture given, bool grey)
     const bool deep = isDeep(given.format());
     const ZorSize size = given.visible();
     const Picture picture =
-        rearranged(std::move(given), pictureFormat(grey, false, deep ? Sample::u16 : Sample::u8), size);
+        toEncode(file, std::move(given), pictureFormat(grey, false, deep ? Sample::u16 : Sample::u8));
     file.print(std::string(grey ? "P5\n" : "P6\n") + std::to_string(size.width) + " " + std::to_string(size.height) +
                (deep ? "\n65535\n" : "\n255\n"));
     const std::size_t rowBytes = picture.visibleRowBytes(0);
@@ -118,6 +118,7 @@ Picture decodePnm(InputFile& file)
     // As text every sample takes a digit and, but for the last, a blank.
     const std::uint64_t bytes = static_cast<std::uint64_t>(interface::rowBytes(format, 0, size.width)) * size.height;
     file.expect(text ? bytes / (deep ? 2 : 1) * 2 - 1 : bytes);
+    checkPixels(size);
     Picture picture(format, size);
     if (deep)
         readSamples<std::uint16_t>(file, picture, maximum, text);
@@ -138,7 +139,7 @@ void encodePfm(AtomicFile& file, Picture given)
 {
     const bool grey = isGrey(given.format());
     const ZorSize size = given.visible();
-    const Picture picture = rearranged(std::move(given), pictureFormat(grey, false, Sample::f32), size);
+    const Picture picture = toEncode(file, std::move(given), pictureFormat(grey, false, Sample::f32));
     file.print(std::string(grey ? "Pf\n" : "PF\n") + std::to_string(size.width) + " " + std::to_string(size.height) +
                "\n-1.0\n"); // least significant byte first
     for (int y = size.height - 1; y >= 0; --y) file.write(picture.row(0, y), picture.visibleRowBytes(0));

@@ -28,13 +28,14 @@ const Format& formatOfTag(const std::string& tag)
     throw Cause("colour space " + quoted(tag) + " is not supported (420, 411, 422 and 444 with 8 bits are)");
 }
 
-// The range that a matrix implies.
-std::optional<std::string> rangeOf(const Format& format)
+// The range to write beside pictures of a model. Where nobody named the matrix, it is that of the input, and limited
+// where that said none, as players take it.
+std::string rangeOf(interface::Model model, const VideoTags& tags)
 {
     using interface::Model;
-    if (format.model == Model::bt709full) return "FULL";
-    if (format.model == Model::bt601 || format.model == Model::bt709) return "LIMITED";
-    return {};
+    if (model == Model::bt709full || model == Model::yuv) return "FULL";
+    if (model == Model::bt601 || model == Model::bt709 || tags.range.empty()) return "LIMITED";
+    return tags.range;
 }
 
 int side(const std::string& digits)
@@ -45,22 +46,27 @@ int side(const std::string& digits)
     return value;
 }
 
-std::string checkedRate(const std::string& rate)
+// A rate of frames or the aspect of a pixel: the quotient of two numbers.
+std::string quotient(const std::string& text, const char* what)
 {
-    if (rate.empty() || rate.find_first_not_of("0123456789:") != rate.npos)
-        throw Cause(quoted(rate) + " is no frame rate");
-    return rate;
+    if (text.empty() || text.find_first_not_of("0123456789:") != text.npos)
+        throw Cause(quoted(text) + " is no " + what);
+    return text;
 }
 
-class Y4mReader : public Reader {
+// Interlacing that differs from frame to frame is left unsaid.
+std::string interlacing(const std::string& text) { return text.find_first_not_of("ptb") == text.npos ? text : ""; }
+
+class Y4mReader : public FileReader {
 public:
-    Y4mReader(const std::string& path, InputFile input, Matrix matrix) : Reader(path, std::move(input))
+    explicit Y4mReader(InputFile input) : FileReader(std::move(input))
     {
         std::istringstream words(file.readLine(longestLine));
         std::string word;
         words >> word;
         if (word != "YUV4MPEG2") throw Cause("not a Y4M file");
-        videoTags.range.clear();
+        videoTags.aspect.clear();
+        videoTags.interlacing.clear();
         while (words >> word) {
             const std::string value = word.substr(1);
             if (word[0] == 'W')
@@ -70,16 +76,19 @@ public:
             else if (word[0] == 'C')
                 readSampling(value);
             else if (word[0] == 'F')
-                videoTags.frameRate = checkedRate(value);
+                videoTags.frameRate = quotient(value, "frame rate");
+            else if (word[0] == 'A')
+                videoTags.aspect = quotient(value, "aspect of a pixel");
+            else if (word[0] == 'I')
+                videoTags.interlacing = interlacing(value);
             else if (word == "XCOLORRANGE=FULL" || word == "XCOLORRANGE=LIMITED")
                 videoTags.range = word.substr(12);
         }
         if (visible.width == 0 || visible.height == 0) throw Cause("the header lacks width and height");
-        // The header has no field for the matrix; it may give the range, and limited range is usual with BT.601.
-        const bool limited = videoTags.range == "LIMITED";
-        format = &byMatrix(*format, matrix.value_or(limited ? interface::Model::bt601 : interface::Model::yuv));
         size = wholeBlocks(visible, *format);
     }
+
+    bool mayHoldSeveral() const override { return true; }
 
 private:
     void readSampling(const std::string& value)
@@ -88,13 +97,13 @@ private:
         if (format == &yuv420p) videoTags.sampling420 = value;
     }
 
-    std::optional<Picture> read() override
+    std::optional<Pending> read() override
     {
         if (file.atEnd()) return {};
         const std::string line = file.readLine(longestLine); // parameters may follow the word
         if (line.substr(0, line.find(' ')) != "FRAME")
             throw Cause("no FRAME line before picture " + std::to_string(count() + 1));
-        return readPlanes(file, *format, size, visible);
+        return Pending(readPlanes(file, *format, size, visible));
     }
 
     const Format* format = &yuv420p;
@@ -103,10 +112,7 @@ private:
 
 } // namespace
 
-std::unique_ptr<Reader> y4mReader(const std::string& path, InputFile file, Matrix matrix)
-{
-    return std::make_unique<Y4mReader>(path, std::move(file), matrix);
-}
+std::unique_ptr<Reader> y4mReader(InputFile file) { return std::make_unique<Y4mReader>(std::move(file)); }
 
 void writeY4mHeader(AtomicFile& file, const Picture& picture, const VideoTags& tags)
 {
@@ -115,10 +121,10 @@ void writeY4mHeader(AtomicFile& file, const Picture& picture, const VideoTags& t
                                  : format.log2X() > 1 ? "411"
                                  : format.log2X() > 0 ? "422"
                                                       : "444";
-    const std::string range = rangeOf(format).value_or(tags.range);
+    const auto tag = [](const char* name, const std::string& value) { return value.empty() ? "" : name + value; };
     file.print("YUV4MPEG2 W" + std::to_string(picture.visible().width) + " H" +
-               std::to_string(picture.visible().height) + " F" + tags.frameRate + " Ip A1:1 C" + sampling +
-               (range.empty() ? "" : " XCOLORRANGE=" + range) + "\n");
+               std::to_string(picture.visible().height) + " F" + tags.frameRate + tag(" I", tags.interlacing) +
+               tag(" A", tags.aspect) + " C" + sampling + " XCOLORRANGE=" + rangeOf(format.model, tags) + "\n");
 }
 
 void writeY4mFrame(AtomicFile& file, const Picture& picture)

@@ -1,0 +1,11 @@
+// SPDX-License-Identifier: MIT
+#include "reader_input.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    using namespace zorcc::tool;
+    return readBytes(data, size, [](const std::string& path) {
+        InputFile file(path);
+        if (file.peek() == 'P') readAll(*openReader(path)); // others are left to their own targets
+    });
+}
