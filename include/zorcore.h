@@ -23,8 +23,8 @@ ZOR_API ZorStatus zorGetMaxCacheSizeB(int* bytes);
 
 /*
  * Threads that one call of zorcc may use, at least 1. Until zorSetNumThreads is called this is what the OpenMP runtime
- * would use, so OMP_NUM_THREADS counts. In a child of fork() it is 1, whatever is set: a child has none of the runtime's
- * threads. What its calls give is the same.
+ * would use, so OMP_NUM_THREADS counts. In a child of fork() it is 1, whatever is set: a child has none of the
+ * runtime's threads. What its calls give is the same.
  */
 ZOR_API int ownGetNumThreads(void);
 

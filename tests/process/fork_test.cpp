@@ -82,7 +82,8 @@ TEST_F(Fork, WhileOtherThreadsAreInCalls)
     PreparedCall call(*interface::findFunction("zoriReduceBits_8u_C3R"), {200, 200});
     call();
     call.expectThisAgain();
-    for (int i = 0; i < 100; ++i) ASSERT_EQ(resultOfChild([&] { return call.givesTheSameAgain() ? 0 : 1; }), 0);
+    for (int i = 0; i < 100 && !HasFailure(); ++i)
+        EXPECT_EQ(resultOfChild([&] { return call.givesTheSameAgain() ? 0 : 1; }), 0);
     done = true;
     caller.join();
 }
