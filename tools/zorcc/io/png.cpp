@@ -143,6 +143,10 @@ void encodePng(AtomicFile& file, Picture given)
     encoder.guarded([=] {
         png_set_IHDR(png, info, static_cast<png_uint_32>(size.width), static_cast<png_uint_32>(size.height),
                      deep ? 16 : 8, colour, PNG_INTERLACE_NONE, PNG_COMPRESSION_TYPE_DEFAULT, PNG_FILTER_TYPE_DEFAULT);
+        // One filter for all rows and a moderate effort: half the time of libpng's defaults, for a few per cent of
+        // size.
+        png_set_filter(png, PNG_FILTER_TYPE_BASE, PNG_FILTER_SUB);
+        png_set_compression_level(png, 3);
         png_write_info(png, info);
         if (deep) png_set_swap(png);
         for (int y = 0; y < size.height; ++y) png_write_row(png, rows->row(0, y));
