@@ -20,7 +20,8 @@ std::vector<std::string> formats()
 
 bool isLumaAndChroma(const std::string& format)
 {
-    const std::string_view channels = layoutOf(format, {8, 8}).channels;
+    const ZorLayout layout = layoutOf(format, {8, 8});
+    const std::string_view channels = layout.channels;
     return channels.find('U') != std::string_view::npos && channels.find('Y') != std::string_view::npos;
 }
 
