@@ -6,6 +6,7 @@
 #include <map>
 
 #include "tests/convert/by_hand.h"
+#include "tests/harness/tiers.h"
 
 namespace zorcc::test {
 
@@ -86,7 +87,7 @@ void expectByHand(const Pair& pair, const Plan& plan, const ZorPlanOptions& opti
 
 } // namespace
 
-// Colours, options, sizes, steps and edges of memory take turns.
+// Colours, options, sizes, tiers, steps and edges of memory take turns.
 TEST(Plans, EveryPairAsByHand)
 {
     constexpr ZorSize sizes[] = {{24, 12}, {21, 9}, {2, 2}, {35, 5}, {1, 1}};
@@ -102,6 +103,7 @@ TEST(Plans, EveryPairAsByHand)
             ++turn;
             const Pair pair{from, to, random.anyOf(colours), random.anyOf(colours)};
             const ZorSize size = sizes[turn % 5];
+            const OnTier tier(tiersHere()[random.below(static_cast<int>(tiersHere().size()))]);
             const ZorPlanOptions& chosen = random.anyOf(options);
             const Plan plan = planOf(pair, size, chosen);
             ASSERT_TRUE(plan);
