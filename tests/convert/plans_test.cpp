@@ -6,6 +6,7 @@
 #include <map>
 
 #include "tests/convert/by_hand.h"
+#include "tests/harness/tiers.h"
 
 namespace zorcc::test {
 
@@ -20,7 +21,8 @@ std::vector<std::string> formats()
 
 bool isLumaAndChroma(const std::string& format)
 {
-    const std::string_view channels = layoutOf(format, {8, 8}).channels;
+    const ZorLayout layout = layoutOf(format, {8, 8});
+    const std::string_view channels = layout.channels;
     return channels.find('U') != std::string_view::npos && channels.find('Y') != std::string_view::npos;
 }
 
@@ -85,7 +87,7 @@ void expectByHand(const Pair& pair, const Plan& plan, const ZorPlanOptions& opti
 
 } // namespace
 
-// Colours, options, sizes, steps and edges of memory take turns.
+// Colours, options, sizes, tiers, steps and edges of memory take turns.
 TEST(Plans, EveryPairAsByHand)
 {
     constexpr ZorSize sizes[] = {{24, 12}, {21, 9}, {2, 2}, {35, 5}, {1, 1}};
@@ -101,6 +103,7 @@ TEST(Plans, EveryPairAsByHand)
             ++turn;
             const Pair pair{from, to, random.anyOf(colours), random.anyOf(colours)};
             const ZorSize size = sizes[turn % 5];
+            const OnTier tier(tiersHere()[random.below(static_cast<int>(tiersHere().size()))]);
             const ZorPlanOptions& chosen = random.anyOf(options);
             const Plan plan = planOf(pair, size, chosen);
             ASSERT_TRUE(plan);
