@@ -35,13 +35,13 @@ template <class Sample> Quality qualityOf(const Picture& picture, const std::vec
     });
 }
 
-Quality gradientMethod(const Picture& picture, const Bytes& mosaic)
+Bytes gradientMethod(const Picture& picture, const Bytes& mosaic)
 {
     const auto [width, height] = picture.size;
     Bytes result(picture.rgb.size());
     check(zoriCFAToRGB_8u_C1C3R(mosaic.data(), {0, 0, width, height}, picture.size, width, result.data(), 3 * width,
                                 zorBayerRGGB, 0));
-    return qualityOf(picture, result, 1);
+    return result;
 }
 
 template <class Sample, class Function>
@@ -91,7 +91,7 @@ std::vector<Method> methodsOn(const Picture& picture, double noise)
     const Bytes mosaic = mosaicOf(picture, noise);
     Words words;
     for (const std::uint8_t sample : mosaic) words.push_back(static_cast<std::uint16_t>(sample * 257));
-    return {{"gradient", gradientMethod(picture, mosaic)},
+    return {{"gradient", qualityOf(picture, gradientMethod(picture, mosaic), 1)},
             {"adaptive", qualityOf(picture, adaptiveMethod(zoriDemosaicAHD_8u_C1C3R, picture, mosaic), 1)},
             {"adaptive, 16 bits", qualityOf(picture, adaptiveMethod(zoriDemosaicAHD_16u_C1C3R, picture, words), 257)},
 #ifdef ZORCC_PEER_LIBRAW
@@ -116,6 +116,28 @@ void print(const std::string& name, const std::vector<Quality>& qualities, const
     std::printf("%s\n", remark);
 }
 
+// A quarter of a zone plate, whose rings become finer to the right and downwards, up to the limit of a mosaic's green
+// at the edges; beside it what the gradient method and the adaptive method make of its mosaic. Each pixel is 2 x 2.
+void drawZonePlates(const std::string& path)
+{
+    constexpr int side = 160, zoom = 2;
+    Picture plate({side, side});
+    for (std::size_t i = 0; i < plate.rgb.size(); ++i) {
+        const double x = static_cast<double>(i / 3 % side), y = static_cast<double>(i / 3 / side);
+        plate.rgb[i] =
+            static_cast<std::uint8_t>(std::lround(127.5 + 120 * std::cos((x * x + y * y) * 2.2 / (2 * side))));
+    }
+    const Bytes mosaic = mosaicOf(plate, 0);
+    const Bytes panels[] = {plate.rgb, gradientMethod(plate, mosaic),
+                            adaptiveMethod(zoriDemosaicAHD_8u_C1C3R, plate, mosaic)};
+    Picture all({3 * side * zoom, side * zoom});
+    for (std::size_t i = 0; i < all.rgb.size(); ++i) {
+        const std::size_t x = i / 3 % all.size.width / zoom, y = i / 3 / all.size.width / zoom;
+        all.rgb[i] = panels[x / side][3 * (y * side + x % side) + i % 3];
+    }
+    writePng(path, all);
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -127,13 +149,16 @@ int main(int argc, char** argv)
     bool targets = false;
     int columns = 0, rows = 0;
     double noise = 0;
-    app.add_option("PNG", paths, "Pictures")->required();
+    std::string zonePlates;
+    app.add_option("PNG", paths, "Pictures");
+    app.add_option("--draw", zonePlates, "PNG to write: a zone plate, and what both methods make of it");
     app.add_option("--columns", columns, "Columns to leave out on the left, which moves the mosaic");
     app.add_option("--rows", rows, "Rows to leave out at the top");
     app.add_option("--noise", noise, "Deviation of noise that is added to the mosaic");
     app.add_flag("--check", targets, "Exit with 1 if the adaptive method does not do as well as it should");
     CLI11_PARSE(app, argc, argv);
     try {
+        if (!zonePlates.empty()) drawZonePlates(zonePlates);
         bool ok = true;
         std::vector<Quality> sums;
         for (const std::string& path : paths) {
@@ -157,7 +182,7 @@ int main(int argc, char** argv)
             print(name, qualities, good ? "" : "  MISSED");
             ok = ok && good;
         }
-        print("mean", sums, "");
+        if (!paths.empty()) print("mean", sums, "");
         return ok || !targets ? 0 : 1;
     } catch (const std::exception& error) {
         std::fprintf(stderr, "zorcc_mosaics: %s\n", error.what());

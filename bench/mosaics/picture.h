@@ -39,6 +39,17 @@ inline Picture readPng(const std::string& path)
     return picture;
 }
 
+inline void writePng(const std::string& path, const Picture& picture)
+{
+    png_image png = {};
+    png.version = PNG_IMAGE_VERSION;
+    png.width = static_cast<png_uint_32>(picture.size.width);
+    png.height = static_cast<png_uint_32>(picture.size.height);
+    png.format = PNG_FORMAT_RGB;
+    if (!png_image_write_to_file(&png, path.c_str(), 0, picture.rgb.data(), 0, nullptr))
+        throw std::runtime_error(path + ": " + png.message);
+}
+
 // Without that many columns on the left and rows at the top, which moves the mosaic against the picture.
 inline Picture without(const Picture& picture, int columns, int rows)
 {

@@ -16,7 +16,7 @@ constexpr int greenReach = 2, reach = 1 + 1 + 1 + 2 + 1 + 1 + greenReach;
 // Only samples are needed as far as that. Other lines have so many columns more than the strip on both sides.
 constexpr int border = reach - greenReach;
 
-// The strip of columns that is worked on at a time: its lines stay in the first-level cache.
+// The strip of columns that is worked on at a time: a stage's lines stay in the first-level cache.
 constexpr int stripWidth = 256;
 
 // Lines of both candidates.
@@ -46,11 +46,10 @@ struct Lines {
     Candidate candidate[2]; // across: along the row; down: along the column
     Ring<5> near;
     Ring<1> nearColumns;
-    Ring<3> share; // of the candidate across
-    Ring<3> green; // of the choice; differences of the sites' colour and of the third colour
-    Ring<4> differences;
-    Ring<3> thirdDifferences;
-    Ring<3> red, blue; // differences everywhere
+    Ring<3> share, green;     // of the candidate across; of the mix
+    Ring<4> differences;      // of the mix, of the sites' colour
+    Ring<3> thirdDifferences; // at the sites
+    Ring<3> red, blue;        // differences everywhere
     Ring<1> siteColour, resultGreen, thirdColour;
 };
 constexpr int lineCount = sizeof(Lines) / sizeof(float*);
@@ -76,10 +75,11 @@ public:
     }
 
 private:
+    static constexpr bool is8Bit = sizeof(Sample) == 1;
+
     const MosaicOf<Sample>& mosaic;
     const int x, width, length;
     ptrdiff_t top = 0; // the image row of row 0, as mirrored
-    static constexpr bool is8Bit = sizeof(Sample) == 1;
     Lines lines;
 
     // Brings in row i and takes everything that now can be done one row further.
