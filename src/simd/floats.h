@@ -61,8 +61,8 @@ struct Divisor {
 };
 
 #if !defined(ZORCC_TIER_ssse3)
-// sum + a b, rounded once. That AVX-512 says how to round tells it from multiply-adds that a compiler makes of what must
-// not be one.
+// sum + a b, rounded once. That AVX-512 says how to round tells it from multiply-adds that a compiler makes of what
+// must not be one.
 ZORCC_INLINE f32v addProduct(f32v sum, f32v a, f32v b)
 {
     #if defined(ZORCC_TIER_avx512)
