@@ -101,6 +101,17 @@ typedef struct {
    zorStatusBadSize for a side below 1 or rows above 2^31 - 1 bytes. */
 ZOR_API ZorStatus zorPictureLayout(const ZorPicture* picture, ZorLayout* layout);
 
+/* What luma and chroma of a picture are by. */
+typedef struct {
+    char matrix[16]; /* empty for formats that have no choice of a matrix */
+    ZorRange range;  /* limited or full */
+    int isSaid;      /* 0: neither the picture nor its format's name says the matrix: it is that of its size */
+} ZorColour;
+
+/* The colour that a plan takes the picture for. Statuses as zorPictureLayout, and zorStatusBadArgument for a matrix or
+   range that zorPlanCreate refuses. */
+ZOR_API ZorStatus zorPictureColour(const ZorPicture* picture, ZorColour* colour);
+
 /* The name of format `index`, counted from 0; null after the last. */
 ZOR_API const char* zorFormatAt(int index);
 
@@ -174,6 +185,9 @@ ZOR_API ZorStatus zorPlanStatus(const ZorPlan* plan);
  * what is missing and the nearest that there is. Good as long as the plan.
  */
 ZOR_API const char* zorPlanDescribe(const ZorPlan* plan);
+
+/* Those of these lines that say what is lost; empty where nothing is, and for a plan that cannot be run. */
+ZOR_API const char* zorPlanLosses(const ZorPlan* plan);
 
 /* The steps, counted from 0: the name of the function, empty where samples change places; null after the last. */
 ZOR_API const char* zorPlanStepFunction(const ZorPlan* plan, int step);

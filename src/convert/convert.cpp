@@ -15,7 +15,7 @@ using zorcc::interface::Alpha;
 
 struct ZorPlan {
     ZorStatus status = zorStatusOk;
-    Text words;
+    Text words, losses;
     Chain chain;
     std::uint8_t* memory = nullptr; // of all threads' strips
 };
@@ -167,7 +167,30 @@ ZorStatus sayThatNoneLeads(const Picture& from, const Picture& to, const Route& 
 
 bool isLinear(Model model) { return model == Model::xyz || model == Model::luv || model == Model::lab; }
 
-void describe(const ZorPlan& plan, const Picture& to, Text& words)
+// What 16 bits of YCoCg are made of need not have more than 8.
+bool isYCoCg(Model model) { return model == Model::ycocg || model == Model::ycocgRev; }
+
+void addLosses(const Chain& chain, const Picture& to, Text& losses)
+{
+    constexpr const char* methods[] = {"to the nearest value", "with the errors diffused (Floyd-Steinberg)",
+                                       "with the errors diffused (Jarvis-Judice-Ninke)",
+                                       "with the errors diffused (Stucki)", "by ordered dithering"};
+    const Format &source = chain.from.layout(), &destination = to.layout();
+    for (int i = 0; i + 1 < chain.route.count; ++i)
+        if (const Format& between = chain.route.steps[i].result.layout(); isPoorer(between, source, destination))
+            losses.add(between.name, " on the way has less than both ends: there is no other way\n");
+    if (bitsOf(source) > bitsOf(destination) && !isYCoCg(source.model)) {
+        losses.add(bitsOf(source), " bits become ", bitsOf(destination));
+        if (bitsOf(source) > 8 && bitsOf(destination) <= 8)
+            losses.add(" ", chain.truncates ? "by cutting them off" : methods[chain.method]);
+        losses.add("\n");
+    }
+    if (source.model != Model::grey && destination.model == Model::grey)
+        losses.add("colours become grey, by the weights ", chain.weighsGrey ? "given" : "of luma", "\n");
+    if (hasAlpha(source) && !hasAlpha(destination)) losses.add("alpha is dropped\n");
+}
+
+void describe(ZorPlan& plan, const Picture& to, Text& words)
 {
     const Chain& chain = plan.chain;
     const Picture& from = chain.from;
@@ -187,24 +210,13 @@ void describe(const ZorPlan& plan, const Picture& to, Text& words)
                   ": ");
         addPicture(words, step.result);
         if (!step.function && chain.same[i].any()) words.add(", whole planes stay");
-        if (i + 1 < chain.route.count && isPoorer(step.result.layout(), from.layout(), to.layout()))
-            words.add(", which has less than both ends: there is no other way");
         words.add("\n");
         if (step.function)
             linear |= isLinear(step.function->source->model) || isLinear(step.function->destination->model);
     }
-    constexpr const char* methods[] = {"to the nearest value", "with the errors diffused (Floyd-Steinberg)",
-                                       "with the errors diffused (Jarvis-Judice-Ninke)",
-                                       "with the errors diffused (Stucki)", "by ordered dithering"};
+    addLosses(chain, to, plan.losses);
+    words.add(plan.losses);
     const Format &source = from.layout(), &destination = to.layout();
-    if (bitsOf(source) > 8 && bitsOf(destination) <= 8)
-        words.add(bitsOf(source), " bits become ", bitsOf(destination), " ",
-                  chain.truncates ? "by cutting them off" : methods[chain.method], "\n");
-    else if (bitsOf(source) > bitsOf(destination))
-        words.add(bitsOf(source), " bits become ", bitsOf(destination), "\n");
-    if (source.model != Model::grey && destination.model == Model::grey)
-        words.add("colours become grey, by the weights ", chain.weighsGrey ? "given" : "of luma", "\n");
-    if (hasAlpha(source) && !hasAlpha(destination)) words.add("alpha is dropped\n");
     if (hasAlpha(destination))
         words.add(hasAlpha(source) && chain.alpha != AlphaStep::opaque ? "alpha is kept\n" : "alpha is opaque\n");
     if (linear) words.add("red, green and blue count as linear light\n");
@@ -310,6 +322,22 @@ ZorStatus zorPictureLayout(const ZorPicture* picture, ZorLayout* layout)
     return zorStatusOk;
 }
 
+ZorStatus zorPictureColour(const ZorPicture* given, ZorColour* colour)
+{
+    Picture picture;
+    Text words;
+    if (!colour) return zorStatusNullPointer;
+    if (const ZorStatus status = findPicture(given, picture, words); status != zorStatusOk) return status;
+    *colour = {};
+    colour->range = zorRangeFull;
+    if (!isYcc(picture.layout())) return zorStatusOk;
+    const std::string_view name = picture.colour.matrix->name;
+    std::memcpy(colour->matrix, name.data(), std::min(name.size(), sizeof colour->matrix - 1));
+    colour->range = picture.colour.range;
+    colour->isSaid = given->matrix || catalogue.find(given->format).matrix.matrix;
+    return zorStatusOk;
+}
+
 const char* zorFormatAt(int index) { return index >= 0 && index < catalogue.count() ? catalogue.name(index) : nullptr; }
 
 ZorPlan* zorPlanCreate(const ZorPicture* from, const ZorPicture* to, const ZorPlanOptions* options)
@@ -332,6 +360,8 @@ void zorPlanFree(ZorPlan* plan)
 ZorStatus zorPlanStatus(const ZorPlan* plan) { return plan ? plan->status : zorStatusNoMemory; }
 
 const char* zorPlanDescribe(const ZorPlan* plan) { return plan ? plan->words.chars() : "not enough memory"; }
+
+const char* zorPlanLosses(const ZorPlan* plan) { return plan ? plan->losses.chars() : ""; }
 
 const char* zorPlanStepFunction(const ZorPlan* plan, int step)
 {

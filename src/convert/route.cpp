@@ -55,6 +55,12 @@ bool isEligible(const Function& f, const Choice& choice)
     return !f.takesLevels || (reducesDepth(f) && !choice.truncates);
 }
 
+// Bytes of a sample of colours; YCoCg has more for the same colours, so that the other end decides.
+int depthOf(const Format& f)
+{
+    return f.model == Model::ycocg || f.model == Model::ycocgRev ? 1 : sampleBytes(f.sample);
+}
+
 class Search {
 public:
     Search(const Picture& source, const Picture& target, const Choice& options)
@@ -143,7 +149,7 @@ private:
 
     void visit(int node, const Function& f, int destination)
     {
-        const int widest = std::max(sampleBytes(from.layout().sample), sampleBytes(to.layout().sample));
+        const int widest = std::max(depthOf(from.layout()), depthOf(to.layout()));
         const bool fromYcc = isYcc(catalogue[formatOf(node)]), toYcc = isYcc(catalogue[destination]);
         int cost = costOfPass + bytesOf16Pixels(*f.source) + bytesOf16Pixels(*f.destination);
         if (fromYcc && f.source->model != Model::anyYcc && colourOf(node).model() != f.source->model) return;

@@ -17,7 +17,7 @@ class Completion(unittest.TestCase):
     def test_commands_options_and_choices(self):
         self.assertEqual(self.complete("co"), ["convert", "compare"])
         self.assertEqual(self.complete("help", "ch"), ["chart"])
-        self.assertEqual(self.complete("convert", "--to", "nv"), ["nv11", "nv12"])
+        self.assertEqual(self.complete("convert", "--to", "nv1"), ["nv11", "nv12", "nv16"])
         self.assertEqual(self.complete("convert", "--matrix", "bt709"), ["bt709", "bt709full"])
         self.assertEqual(self.complete("reduce", "--dither", "s"), ["stucki"])
         self.assertEqual(self.complete("compare", "--min"), ["--min-psnr"])

@@ -84,7 +84,8 @@ FAILING = {
     "out.png: this kind of file holds RGB": (
         "convert good.png out.png --to hsv24", "convert good.png out.png --to yuv444p", f"call {C3} good.png out.png"),
     "out.pgm: PGM holds grey": "convert good.png out.pgm",
-    "444.y4m: no function converts yuv444p_bt601 to yuv420p_bt601": "convert 444.y4m out.y4m --to yuv420p",
+    "good.png: no conversion leads to bt2020 of limited range": "convert good.png out.y4m --matrix bt2020",
+    "good.png: --dither is for pixels of 16 bits": "convert good.png out.y4m --dither",
     "good.png: deinterlacing takes 4:2:0, and the picture is rgb24\n": "convert good.png out.y4m --deinterlace",
     "nowhere/out.png: No such file": "convert good.png nowhere/out.png",
     "good.jpg/out.png: Not a directory": "convert good.png good.jpg/out.png",
@@ -114,7 +115,7 @@ MISUSED = {
     "out.gif": ("convert good.png out.gif", "chart out.gif"),
     "out: ": "convert good.png out",
     "--to": "convert good.png out.raw",
-    "unknown format 'yuv999p'; did you mean ": "convert good.png out.y4m --to yuv999p",
+    "unknown format yuv999p; the nearest is ": "convert good.png out.y4m --to yuv999p",
     "good.yuv: a headerless file needs --size": "convert good.yuv out.png",
     "--format": "convert --size 64x48 good.yuv out.png",
     "--size": ("convert --format yuv420p good.png out.png",

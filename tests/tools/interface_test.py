@@ -28,8 +28,8 @@ class Names(unittest.TestCase):
         for line, text in (("convrt c.png d.png", "no command 'convrt'; did you mean convert"),
                            ("help convrt", "no command 'convrt'; did you mean convert"),
                            ("paint", "no command 'paint'"),
-                           ("convert c.png d.yuv --to yuv42p", "unknown format 'yuv42p'; did you mean yuv420p"),
-                           ("convert c.png d.yuv --to nv21", "nv12"), ("convert c.png d.gif", "one of png jpg"),
+                           ("convert c.png d.yuv --to yuv42p", "unknown format yuv42p; the nearest is yuv422p"),
+                           ("convert c.png d.yuv --matrix bt79", "unknown matrix bt79; the nearest is bt709"), ("convert c.png d.gif", "one of png jpg"),
                            ("call zoriRGBToYUV_8u_C3 c.png d.yuv", "did you mean zoriRGBToYUV_8u_C3"),
                            ("reduce c.png d.png --dither best", "'best' is none of none, ordered, fs, jjn, stucki"),
                            ("demosaic c.png d.png --grid rgb", "'rgb' is none of bggr, rggb, gbrg, grbg"),
@@ -58,8 +58,8 @@ class Names(unittest.TestCase):
         self.assertEqual(len(zorcc("list demosaicing").splitlines()), 4)
         formats = zorcc("list --formats").split()
         self.assertEqual(formats, sorted(formats))
-        self.assertEqual(set(formats), {name for row in rows for name in row.split()[1:3]})
-        self.assertEqual(zorcc("list --formats nv1").split(), ["nv11", "nv12"])
+        self.assertLess({"yuv420p", "nv21", "rgb565", "lab24"}, set(formats))
+        self.assertEqual(zorcc("list --formats nv1").split(), ["nv11", "nv12", "nv16"])
 
 
 class Arguments(unittest.TestCase):

@@ -97,8 +97,8 @@ class Warnings(unittest.TestCase):
         for out in ("out.ppm", "out.jpg", "out.y4m"):
             self.assert_warns("convert alpha.png " + out, "alpha is dropped")
         self.assert_warns("grey alpha.png out.png", "alpha.png: alpha is dropped")
-        self.assert_warns("convert deep.png out.jpg", "samples of 16 bits become samples of 8")
-        self.assert_warns("convert deep.png out.png --to rgb24", "deep.png: samples of 16 bits become samples of 8")
+        self.assert_warns("convert deep.png out.jpg", "16 bits become 8 to the nearest value")
+        self.assert_warns("convert deep.png out.png --to rgb24", "deep.png: 16 bits become 8")
         for line in ("convert alpha.png out.png", "convert deep.png out.ppm", "reduce deep.png out.png --depth 8"):
             self.assertEqual(run(line).stderr, "")
 

@@ -6,7 +6,7 @@
 #include <string>
 
 #include "commands.h"
-#include "conversion.h"
+#include "function_run.h"
 
 namespace zorcc::tool {
 

@@ -6,6 +6,7 @@
 #include <iterator>
 
 #include "font.h"
+#include "formats.h"
 
 namespace zorcc::tool {
 
@@ -170,7 +171,7 @@ constexpr Panel panels[] = {
 
 Picture drawChart(ZorSize size)
 {
-    Picture picture(interface::formats::rgb24, size);
+    Picture picture(pictureFormat(false, false, Sample::u8), size);
     for (const Panel& panel : panels) {
         const int left = scaled(panel.left, 64, size.width), right = scaled(panel.right, 64, size.width);
         const int top = scaled(panel.top, 36, size.height), bottom = scaled(panel.bottom, 36, size.height);

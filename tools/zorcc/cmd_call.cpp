@@ -7,6 +7,7 @@
 #include "commands.h"
 #include "conversion.h"
 #include "error.h"
+#include "formats.h"
 #include "messages.h"
 #include "names.h"
 #include "pipeline.h"
@@ -83,26 +84,24 @@ void call(const CallOptions& options)
     writeAll(
         *reader, *writer,
         [&](Picture picture) {
-            // Whoever names a function with a matrix takes files that leave it open for that.
-            if (isYuv(source) && !ownMatrix(picture.format()))
-                if (const Format* const same = twin(picture.format(), source.model))
-                    picture = std::move(picture).takenFor(*same);
-            if (!rearrangementCost(picture.format(), source))
-                throw Cause("the file holds " + std::string(picture.format().name) + ", but " + options.function +
-                            " takes " + std::string(source.name) +
+            const std::string has = "the file holds " + std::string(picture.format().name);
+            const ZorSize size = picture.visible();
+            ZorStatus status = zorStatusOk;
+            double seconds = 0;
+            const std::optional<Picture> given = asSource(std::move(picture), source);
+            if (!given)
+                throw Cause(has + ", but " + options.function + " takes " + std::string(source.name) +
                             (isRgb(source)   ? ": give a PNG, JPEG or PPM file, or a headerless one with --size WxH"
                              : isYuv(source) ? ": give a Y4M file, or a headerless one with --size WxH"
                                              : ": give a headerless file with --size WxH"));
-            const ZorSize size = picture.visible();
-            ZorStatus status = zorStatusOk;
-            Picture result =
-                run(function, rearranged(std::move(picture), source, size), stats, arguments.forPicture(size), &status);
+            Picture result = run(function, *given, options.timing.repeat, seconds, arguments.forPicture(size), &status);
+            stats.add(options.function, size, seconds);
             if (status == zorStatusOddSize)
                 warn(reader->path(), "odd size " + sizeName(size) + ": only whole 2x2 blocks are converted");
             else if (status != zorStatusOk)
                 warn(reader->path(), "the function returned " + std::to_string(status));
             if (const auto& region = arguments.region())
-                return rearranged(std::move(result), destination, {region->width, region->height});
+                return resized(std::move(result), destination, {region->width, region->height});
             return result;
         },
         options.timing.isWanted());

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "commands.h"
+#include "conversion.h"
 #include "difference.h"
 #include "error.h"
 #include "formats.h"
@@ -19,12 +20,12 @@ namespace {
 const Format& commonFormat(const Picture& a, const Picture& b)
 {
     const Format &f = a.format(), &g = b.format();
-    if (!isRgb(f) && !isRgb(g) && haveSameMemory(f, g) && f.sample == Sample::u8) return f;
+    if (!isRgb(f) && !isRgb(g) && areSame(f, g) && f.sample == Sample::u8) return f;
     if (!isRgb(f) || !isRgb(g))
         throw Cause("one holds " + std::string(f.name) + ", the other " + std::string(g.name) +
                     ": convert one of them");
     const bool exact = f.sample == Sample::u8 && g.sample == Sample::u8, alpha = hasAlpha(f) && hasAlpha(g);
-    if (alpha && !exact) return interface::formats::rgbaf32;
+    if (alpha && !exact) return pictureFormat(false, true, Sample::f32);
     return pictureFormat(isGrey(f) && isGrey(g), alpha, exact ? Sample::u8 : Sample::f32);
 }
 
@@ -37,8 +38,8 @@ public:
         const Format& common = commonFormat(p, q);
         if (format && format != &common) throw Cause("pictures of several kinds in one file");
         format = &common;
-        const ZorSize size = p.visible(), sizeP = p.size(), sizeQ = q.size();
-        const Picture one = rearranged(std::move(p), common, sizeP), other = rearranged(std::move(q), common, sizeQ);
+        const ZorSize size = p.visible();
+        const Picture one = rearranged(std::move(p), common), other = rearranged(std::move(q), common);
         std::string_view letters = common.channels; // of packed 4:2:2 each once
         for (std::size_t i = 0; i < letters.size(); ++i)
             if (letters.find(letters[i]) == i)

@@ -1,21 +1,20 @@
 // SPDX-License-Identifier: MIT
-#include <deque>
+#include <algorithm>
 #include <mutex>
 #include <vector>
 
 #include "commands.h"
 #include "conversion.h"
 #include "error.h"
+#include "formats.h"
+#include "function_run.h"
 #include "messages.h"
-#include "names.h"
 #include "pipeline.h"
 #include "srgb.h"
 
 namespace zorcc::tool {
 
 namespace {
-
-using interface::Model;
 
 // The samples of RGB that a picture is usually made from: of signed YCoCg, which has a bit more, half as many bits.
 Sample usualSample(const Format& format)
@@ -27,106 +26,175 @@ Sample usualSample(const Format& format)
 // The format of a file where the user gives none: one that it can hold, without a conversion where possible.
 const Format& usualFormat(const OutputPath& out, const Format& from)
 {
+    const auto planar420 = [] { return &formatNamed("yuv420p").format; };
     switch (fileKindToWrite(out)) {
     case FileKind::raw:
         throw UsageError(out.path + ": a .raw file needs --to FORMAT");
     case FileKind::y4m:
-        return isRgb(from) ? interface::formats::yuv420p : planarYuv(from);
+        return isYuv(from) ? y4mFormat(from) : *planar420();
     case FileKind::yuv:
-        return isRgb(from) ? interface::formats::yuv420p : from;
+        return isYuv(from) ? from : *planar420();
     default:
-        return from.fieldBits != 0 ? interface::formats::rgb24
-               : isRgb(from)       ? from
-               : isYuv(from)       ? interface::formats::rgb24
-                                   : pictureFormat(false, hasAlpha(from), usualSample(from));
+        return isYuv(from) || from.fieldBits != 0 ? pictureFormat(false, false, Sample::u8)
+               : isRgb(from)                      ? from
+                                                  : pictureFormat(false, hasAlpha(from), usualSample(from));
     }
 }
 
-// What RGB becomes first where it is to be dithered, which the library does from luma and chroma.
-const Format& ditheredSource() { return withModel(interface::formats::yuv444p, Model::bt601); }
-
-// A format by a matrix, where it leaves that open and there is such a one.
-const Format& by(Matrix matrix, const Format& format)
+NamedFormat targetFormat(const ConvertOptions& options, const Format& from)
 {
-    if (!matrix || !isYuv(format) || ownMatrix(format)) return format;
-    const Format* const found = twin(format, *matrix);
-    return found ? *found : format;
+    if (const Format* const ofModel = formatOfModel(options.to, from)) return {*ofModel, {}};
+    if (options.to.empty()) return {usualFormat(options.out, from), {}};
+    return formatNamed(options.to);
 }
 
-// The conversion by a matrix. Its failure names the matrices that would do.
-Conversion findBy(Matrix matrix, const Format& from, const Format& to, bool dither)
+const std::string& lastOf(const std::string& first, const std::string& last) { return last.empty() ? first : last; }
+
+// The function that smooths 4:2:0 vertically: to 4:2:2 where the result has as many rows of chroma, or to 4:2:0.
+const Function& deinterlacingFunction(const Format& from, const Format& to)
 {
-    const auto find = [&](Matrix m) { return findConversion(by(m, from), by(m, to), m, dither); };
-    try {
-        return find(matrix);
-    } catch (const Cause& cause) {
-        std::vector<std::string> others;
-        for (const Model other : {Model::bt601, Model::bt709, Model::bt709full, Model::yuv}) {
-            if (isYuv(from) == isYuv(to) || ownMatrix(from) || ownMatrix(to) || matrix == other) continue;
-            try {
-                find(other);
-                others.emplace_back(interface::propertiesOf(other).matrix);
-            } catch (const Cause&) {
+    if (!isYuv(from) || from.log2X() != 1 || from.log2Y() != 1)
+        throw Cause("deinterlacing takes 4:2:0, and the picture is " + std::string(from.name));
+    const bool fullHeight = isYuv(to) && to.log2X() == 1 && to.log2Y() == 0;
+    for (const Function& function : interface::functions())
+        if (function.takesSlice && (function.destination->log2Y() == 0) == fullHeight) return function;
+    throw Cause("no function deinterlaces");
+}
+
+// What one thread does with pictures of one format, colour and size.
+class Worker {
+public:
+    Worker(const ConvertOptions& options, const Picture& picture)
+        : format(&picture.format()), colour(picture.colour()), size(picture.visible())
+    {
+        NamedFormat to = targetFormat(options, *format);
+        Description from = {format, colour};
+        // Names of formats say more than options, and those more than the label of a file.
+        const std::string& said = isYuv(to.format) ? options.fromMatrix : lastOf(options.matrix, options.fromMatrix);
+        if (isYuv(*format) && colour.matrix.empty() && !said.empty()) from.colour = {said, zorRangeDefault};
+        if (isYuv(to.format) && to.colour.matrix.empty()) {
+            if (!options.matrix.empty())
+                to.colour = {options.matrix, zorRangeDefault};
+            else if (isYuv(*format))
+                to.colour = from.colour;
+        }
+
+        ZorPlanOptions choice = Conversion::usual;
+        if (options.deinterlace) {
+            deinterlacing = &deinterlacingFunction(*format, to.format);
+            add(from, {&layerFormat(*deinterlacing->source), from.colour});
+            from.format = &layerFormat(*deinterlacing->destination);
+        }
+        if (options.dither) {
+            if (to.format.fieldBits == 0) throw Cause("--dither is for pixels of 16 bits: rgb565, bgr555, ...");
+            choice.fields = zorFieldsDither; // by functions from luma and chroma alone
+            if (isRgb(*format)) {
+                const Description between = {&formatNamed("yuv444p").format, {"bt601", zorRangeDefault}};
+                add(from, between);
+                from = between;
             }
         }
-        throw Cause(cause.what() + (others.empty() ? "" : "; --matrix " + joined(others, " or ") + " has one"));
-    }
-}
-
-// What is done with all pictures of one format and one side of the line between the usual matrices.
-class Plan {
-public:
-    Plan(const ConvertOptions& options, const Picture& picture, const VideoTags& tags)
-        : format(&picture.format()), matrixOfSize(usualMatrix(picture.visible()))
-    {
-        const Format* from = format;
-        const bool ofModel = formatOfModel(options.to, *from);
-        const Format& to = ofModel              ? *formatOfModel(options.to, *from)
-                           : options.to.empty() ? usualFormat(options.out, *from)
-                                                : formatNamed(options.to);
-        const auto add = [&](const Conversion& step) { from = steps.emplace_back(step).target; };
-        if (options.deinterlace) add(findDeinterlacing(*from, to));
-        if (options.dither && isRgb(*from)) add(findConversion(*from, ditheredSource()));
-
-        const auto sourceMatrix = [&](Matrix named) { return matrixOf(picture, tags, named); };
-        const Matrix wanted = ownMatrix(to) ? ownMatrix(to) : options.matrix;
-        if (isYuv(*from) && isYuv(to) && wanted && sourceMatrix(options.fromMatrix) != *wanted) {
-            add(findBy(sourceMatrix(options.fromMatrix), *from, interface::formats::rgb24, false));
-            add(findBy(wanted, *from, to, options.dither));
-        } else if (isYuv(*from) && isYuv(to)) {
-            // Samples change places alone, so the matrix need not be known; if it is, the result says its range.
-            const bool isKnown = wanted || options.fromMatrix || ownMatrix(*from) || tags.range != "FULL";
-            const Matrix matrix = isKnown ? Matrix(sourceMatrix(options.fromMatrix)) : std::nullopt;
-            add(findConversion(by(matrix, *from), by(matrix, to), matrix, options.dither));
-        } else if (isYuv(*from)) {
-            const bool isDithered = isRgb(*format); // of a matrix that its format names
-            add(findBy(isDithered ? ownMatrix(*from)
-                                  : sourceMatrix(options.fromMatrix ? options.fromMatrix : options.matrix),
-                       *from, to, options.dither));
-        } else {
-            add(findBy(isYuv(to) ? wanted.value_or(matrixOfSize) : Matrix(), *from, to, options.dither));
+        try {
+            add(from, {&to.format, to.colour}, choice);
+        } catch (const Cause& cause) {
+            const bool isByLabel = isYuv(*format) && from.colour.matrix.empty() && from.colour.range == zorRangeFull;
+            throw isByLabel ? Cause(std::string(cause.what()) + "; --from-matrix says what to take it for") : cause;
         }
     }
 
     bool suits(const Picture& picture) const
     {
-        return format == &picture.format() && matrixOfSize == usualMatrix(picture.visible());
+        return format == &picture.format() && colour == picture.colour() && size == picture.visible();
     }
 
-    const Format& target() const { return *steps.back().target; }
-
-    Picture operator()(Picture picture, std::deque<Stats>& stats) const
+    Picture operator()(Picture picture, Stats& stats) const
     {
-        for (std::size_t i = 0; i < steps.size(); ++i) picture = steps[i](std::move(picture), stats[i]);
+        double seconds = 0;
+        std::string names;
+        for (const Conversion& step : steps) {
+            double time = 0;
+            picture = step.timed(std::move(picture), stats.repeat, time);
+            seconds += time;
+            if (!step.isIdentity() || steps.size() == 1) names += (names.empty() ? "" : ", ") + step.functions();
+            if (deinterlacing && &step == &steps.front()) {
+                // The last rows' neighbours must be as they are.
+                const ZorSize blocks = picture.size();
+                const Picture whole = resized(std::move(picture), *deinterlacing->source, blocks);
+                picture = run(*deinterlacing, whole, stats.repeat, seconds);
+                picture = std::move(picture).takenFor(layerFormat(picture.format()));
+                names += (names.empty() ? "" : ", ") + std::string(deinterlacing->name);
+            }
+        }
+        stats.add(names, size, seconds);
         return picture;
     }
 
-    static constexpr int maxSteps = 4;
+    std::string losses() const
+    {
+        std::string lines;
+        for (const Conversion& step : steps) lines += step.losses();
+        return lines;
+    }
+
+    std::string words() const
+    {
+        std::string lines;
+        for (const Conversion& step : steps) {
+            lines += step.words() + "\n";
+            if (deinterlacing && &step == &steps.front()) lines += "then " + std::string(deinterlacing->name) + "\n";
+        }
+        return lines;
+    }
+
+    bool givesRgb() const { return givesRgbPictures; }
 
 private:
+    void add(const Description& from, const Description& to, const ZorPlanOptions& options = Conversion::usual)
+    {
+        steps.emplace_back(from, to, size, options);
+        givesRgbPictures = isRgb(*to.format);
+    }
+
     const Format* format;
-    Model matrixOfSize;
+    Colour colour;
+    ZorSize size;
     std::vector<Conversion> steps;
+    const Function* deinterlacing = nullptr; // after the first step
+    bool givesRgbPictures = false;
+};
+
+// Those who have nothing to do. A plan is for one thread at a time.
+class Workers {
+public:
+    explicit Workers(const ConvertOptions& given) : options(given) {}
+
+    std::unique_ptr<Worker> take(const Picture& picture)
+    {
+        {
+            const std::lock_guard lock(mutex);
+            while (!idle.empty()) {
+                std::unique_ptr<Worker> worker = std::move(idle.back());
+                idle.pop_back();
+                if (worker->suits(picture)) return worker;
+            }
+        }
+        return std::make_unique<Worker>(options, picture);
+    }
+
+    void giveBack(std::unique_ptr<Worker> worker)
+    {
+        const std::lock_guard lock(mutex);
+        words = worker->words();
+        idle.push_back(std::move(worker));
+    }
+
+    const std::string& lastWords() const { return words; }
+
+private:
+    const ConvertOptions& options;
+    std::mutex mutex;
+    std::vector<std::unique_ptr<Worker>> idle;
+    std::string words;
 };
 
 } // namespace
@@ -134,37 +202,27 @@ private:
 void convert(const ConvertOptions& options)
 {
     fileKindToWrite(options.out); // reports bad names before any work
-    if (!options.to.empty() && !formatOfModel(options.to, interface::formats::rgb24)) formatNamed(options.to);
+    if (!options.to.empty()) targetFormat(options, formatNamed("rgb24").format);
     const auto reader = openInput(options.in, nullptr, OddSizes::roundUp);
     VideoTags tags = reader->tags();
     if (options.deinterlace) tags.interlacing = "p";
     const auto writer = openWriter(options.out, tags);
 
-    std::deque<Stats> stats;
-    for (int i = 0; i < Plan::maxSteps; ++i) stats.emplace_back(options.timing.repeat);
-    std::mutex mutex;
-    std::shared_ptr<const Plan> latest;
-    const auto planFor = [&](const Picture& picture) {
-        const std::lock_guard lock(mutex);
-        if (!latest || !latest->suits(picture)) latest = std::make_shared<Plan>(options, picture, reader->tags());
-        return latest;
-    };
+    Stats stats(options.timing.repeat);
+    Workers workers(options);
     writeAll(
         *reader, *writer,
         [&](Picture picture) {
-            const auto plan = planFor(picture);
-            const Format& from = picture.format();
-            warnOfLostBits(reader->path(), from, plan->target());
-            if (options.linear && isRgb(from)) picture = linearFromSrgb(std::move(picture));
-            picture = (*plan)(std::move(picture), stats);
-            return options.linear && isRgb(plan->target()) ? srgbFromLinear(std::move(picture)) : std::move(picture);
+            std::unique_ptr<Worker> worker = workers.take(picture);
+            warnOfLosses(reader->path(), worker->losses());
+            if (options.linear && isRgb(picture.format())) picture = linearFromSrgb(std::move(picture));
+            picture = (*worker)(std::move(picture), stats);
+            if (options.linear && worker->givesRgb()) picture = srgbFromLinear(std::move(picture));
+            workers.giveBack(std::move(worker));
+            return picture;
         },
         options.timing.isWanted());
-    if (!options.timing.stats) return;
-    std::string lines;
-    for (const Stats& step : stats)
-        if (!step.isEmpty()) lines += step.line();
-    printStats(lines.empty() ? "rearranged without a function of the library\n" : lines, {options.out.path});
+    if (options.timing.stats) printStats(workers.lastWords() + stats.line(), {options.out.path});
 }
 
 } // namespace zorcc::tool

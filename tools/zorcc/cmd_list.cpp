@@ -28,9 +28,9 @@ bool matches(const std::string& pattern, std::string_view text)
 void listFormats(const std::string& pattern)
 {
     bool found = false;
-    for (const Format* format : namedFormats()) {
-        if (!matches(pattern, format->name)) continue;
-        std::cout << format->name << '\n';
+    for (const std::string& name : formatNames()) {
+        if (!matches(pattern, name)) continue;
+        std::cout << name << '\n';
         found = true;
     }
     if (!found) throw Error(pattern, "no format has such a name");

@@ -5,6 +5,7 @@
 #include "commands.h"
 #include "conversion.h"
 #include "error.h"
+#include "formats.h"
 
 namespace zorcc::tool {
 
@@ -13,7 +14,7 @@ void sheet(const SheetOptions& options)
     constexpr int gap = 8;
     constexpr std::uint8_t ground = 32;
 
-    const Format& rgb = interface::formats::rgb24;
+    const Format& rgb = pictureFormat(false, false, Sample::u8);
     std::vector<Picture> pictures;
     std::int64_t width = 0;
     int height = 0;
@@ -21,10 +22,8 @@ void sheet(const SheetOptions& options)
         const auto reader = openReader(path);
         Picture picture = *reader->next();
         pictures.push_back(naming(path, [&] {
-            Stats stats;
-            picture = withMatrix(std::move(picture), reader->tags());
-            const ZorSize visible = picture.visible();
-            return rearranged(findConversion(picture.format(), rgb)(std::move(picture), stats), rgb, visible);
+            const Conversion conversion({&picture.format(), picture.colour()}, {&rgb, {}}, picture.visible());
+            return conversion(std::move(picture));
         }));
         width += pictures.back().size().width + (pictures.size() > 1 ? gap : 0);
         height = std::max(height, pictures.back().size().height);

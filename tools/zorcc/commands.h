@@ -9,7 +9,6 @@
 
 #include "io/reader.h"
 #include "io/writer.h"
-#include "matrix.h"
 
 namespace zorcc::tool {
 
@@ -44,7 +43,7 @@ struct ConvertOptions {
     Input in;
     OutputPath out;
     std::string to;
-    Matrix matrix, fromMatrix;
+    std::string matrix, fromMatrix; // empty: not said
     bool deinterlace = false, dither = false;
     bool linear = false; // RGB is sRGB in files, and linear for the functions
     Timing timing;

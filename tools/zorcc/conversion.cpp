@@ -2,154 +2,208 @@
 #include "conversion.h"
 
 #include <algorithm>
-#include <climits>
-#include <cstdio>
-#include <map>
+#include <chrono>
+#include <cstring>
+#include <limits>
 
 #include "error.h"
+#include "formats.h"
+#include "messages.h"
 
 namespace zorcc::tool {
 
 namespace {
 
-std::string statusText(ZorStatus status)
+ZorPicture pictureOf(const Description& description, ZorSize size)
 {
-    static const std::map<ZorStatus, std::string> texts = {
-        {zorStatusBadArgument, "bad argument"},
-        {zorStatusBadSize, "the picture is too small for the function"},
-        {zorStatusNoMemory, "not enough memory"},
-        {zorStatusBadStep, "bad step"},
-        {zorStatusDitherLevels, "that many levels are not supported"}};
-    const auto found = texts.find(status);
-    return found != texts.end() ? found->second : "status " + std::to_string(status);
+    const Colour& colour = description.colour;
+    return {description.format->name.data(), colour.matrix.empty() ? nullptr : colour.matrix.c_str(), colour.range,
+            size};
 }
 
-// Chroma is shared by (1 << x) x (1 << y) pixels on one side of the function.
-ZorSize wholeBlocksOf(const Function& function, ZorSize size)
+// A sample beyond the source repeats its last one.
+void copy(const Channel& from, const Channel& to, int bytes)
 {
-    return wholeBlocks(size, std::max(function.source->log2X(), function.destination->log2X()),
-                       std::max(function.source->log2Y(), function.destination->log2Y()));
+    for (int y = 0; y < to.height; ++y) {
+        const std::uint8_t* const source = from.first + from.step * std::min(y, from.height - 1);
+        std::uint8_t* const destination = to.first + to.step * y;
+        for (int x = 0; x < to.width; ++x)
+            std::memcpy(destination + to.stride * x, source + from.stride * std::min(x, from.width - 1), bytes);
+    }
 }
 
-// Changes chroma sampling and layout alone.
-bool movesSamples(const Function& function)
+void fill(const Channel& to, const void* sample, int bytes)
 {
-    return function.source->model == interface::Model::anyYcc &&
-           function.destination->model == interface::Model::anyYcc;
+    for (int y = 0; y < to.height; ++y)
+        for (int x = 0; x < to.width; ++x) std::memcpy(to.first + to.step * y + to.stride * x, sample, bytes);
 }
 
-// Whether luma and chroma of the function may be by the given matrix.
-bool isOf(const Function& function, std::optional<interface::Model> matrix)
+// All channels of packed bits are one.
+Channel channelAt(const Picture& picture, std::size_t index, ZorSize extent)
 {
-    if (!matrix) return true;
-    for (const interface::Model model : {function.source->model, function.destination->model})
-        if (interface::isYcc(model) && model != interface::Model::anyYcc && model != *matrix) return false;
+    if (picture.format().fieldBits == 0) return channelOf(picture, picture.format().channels[index], extent);
+    return {picture.row(0, 0), picture.image().step[0], 2, extent.width, extent.height};
+}
+
+} // namespace
+
+Conversion::Conversion(const Description& from, const Description& to, ZorSize size, const ZorPlanOptions& options)
+    : source(from.format), destination(to.format), colour(to.colour)
+{
+    const ZorPicture ends[2] = {pictureOf(from, size), pictureOf(to, size)};
+    plan.reset(zorPlanCreate(&ends[0], &ends[1], &options));
+    if (zorPlanStatus(plan.get()) != zorStatusOk) throw Cause(zorPlanDescribe(plan.get()));
+    if (ZorColour found; isYuv(*to.format) && zorPictureColour(&ends[1], &found) == zorStatusOk)
+        colour = {found.matrix, found.range};
+}
+
+Picture Conversion::keepingColour(Picture picture) const
+{
+    const Colour before = picture.colour();
+    return (*this)(std::move(picture)).takenFor(before);
+}
+
+bool Conversion::isIdentity() const
+{
+    return source == destination && *zorPlanStepFunction(plan.get(), 0) == 0 && !zorPlanStepFunction(plan.get(), 1);
+}
+
+Picture Conversion::operator()(Picture picture) const
+{
+    double seconds = 0;
+    return timed(std::move(picture), 1, seconds);
+}
+
+Picture Conversion::timed(Picture picture, int repeat, double& seconds) const
+{
+    using Clock = std::chrono::steady_clock;
+    const ZorSize visible = picture.visible(), before = wholeBlocks(visible, *source);
+    if (!(picture.size() == before)) picture = resized(std::move(picture), *source, before);
+    seconds = 0;
+    if (isIdentity()) return std::move(picture).takenFor(*destination).takenFor(colour);
+    const ZorSize after = wholeBlocks(visible, *destination);
+    Picture result(*destination, after, visible, after == visible ? Contents::any : Contents::zeros);
+    seconds = std::numeric_limits<double>::infinity();
+    for (int i = 0; i < repeat; ++i) {
+        const Clock::time_point start = Clock::now();
+        const ZorStatus status = zorPlanRun(plan.get(), picture.image().plane, picture.image().step,
+                                            result.image().plane, result.image().step);
+        seconds = std::min(seconds, std::chrono::duration<double>(Clock::now() - start).count());
+        if (status == zorStatusNoMemory) throw Cause("not enough memory");
+        if (status != zorStatusOk) throw Cause("the conversion returned " + std::to_string(status));
+    }
+    return std::move(result).takenFor(colour);
+}
+
+std::string Conversion::functions() const
+{
+    std::string names;
+    for (int i = 0; const char* const name = zorPlanStepFunction(plan.get(), i); ++i)
+        if (*name != 0) names += (names.empty() ? "" : ", ") + std::string(name);
+    return !names.empty() ? names : isIdentity() ? "samples stay where they are" : "samples change places";
+}
+
+std::string Conversion::words() const { return zorPlanDescribe(plan.get()); }
+
+std::string Conversion::losses() const { return zorPlanLosses(plan.get()); }
+
+bool Conversion::keepsColours() const
+{
+    const auto isRgb = [](interface::Model m) { return m == interface::Model::rgb || m == interface::Model::grey; };
+    for (int i = 0; const char* const name = zorPlanStepFunction(plan.get(), i); ++i) {
+        const interface::Function* const f = interface::findFunction(name);
+        if (f && f->source->model != f->destination->model &&
+            !(isRgb(f->source->model) && isRgb(f->destination->model)))
+            return false;
+    }
     return true;
 }
 
-// Does it in a way that has to be asked for.
-bool isVariant(const Function& function) { return function.variant == "Filter" || function.variant == "Interlace"; }
-
-// Takes linear light, which no format says of itself.
-bool appliesCurve(const Function& function) { return function.variant == "Gamma"; }
-
-// Whether a picture would pass through pixels of 16 bits that neither begins nor ends there.
-bool losesBits(const Format& end, const Format& between) { return between.fieldBits != 0 && end.fieldBits == 0; }
-
-} // namespace
-
-std::string Stats::line() const
+std::optional<Conversion> findRearrangement(const Format& from, const Format& to, ZorSize size)
 {
-    char text[160];
-    std::snprintf(text, sizeof text, ": %d picture%s of %s, %.1f megapixels/s (best of %d)\n", pictures,
-                  pictures == 1 ? "" : "s", sizeName(size).c_str(), megapixels / std::max(seconds, 1e-9), repeat);
-    return std::string(function->name) + text;
+    if (from.log2X() != to.log2X() || from.log2Y() != to.log2Y()) return {};
+    ZorPlanOptions options = Conversion::usual;
+    options.grey = zorGreyRefuse;
+    const Description ends[2] = {{&layerFormat(from), {}}, {&layerFormat(to), {}}};
+    const ZorPicture pictures[2] = {pictureOf(ends[0], size), pictureOf(ends[1], size)};
+    Conversion conversion;
+    conversion.source = ends[0].format;
+    conversion.destination = ends[1].format;
+    conversion.plan.reset(zorPlanCreate(&pictures[0], &pictures[1], &options));
+    if (zorPlanStatus(conversion.plan.get()) == zorStatusNoMemory) throw Cause("not enough memory");
+    if (zorPlanStatus(conversion.plan.get()) != zorStatusOk || !conversion.keepsColours()) return {};
+    return conversion;
 }
 
-void Stats::add(const Function& ran, const Picture& picture, std::chrono::duration<double> time)
+Picture rearranged(Picture picture, const Format& to, const std::string& file)
 {
-    const std::lock_guard lock(mutex);
-    function = &ran;
-    size = picture.visible();
-    ++pictures;
-    megapixels += 1e-6 * picture.size().width * picture.size().height;
-    seconds += time.count();
+    if (areSame(picture.format(), to) && picture.size() == wholeBlocks(picture.visible(), to))
+        return std::move(picture).takenFor(to);
+    const auto conversion = findRearrangement(picture.format(), to, picture.visible());
+    if (!conversion)
+        throw Cause("samples of " + std::string(picture.format().name) + " are none of " + std::string(to.name));
+    if (!file.empty()) warnOfLosses(file, conversion->losses());
+    return conversion->keepingColour(std::move(picture));
 }
 
-namespace {
-
-Picture runInto(Picture destination, const Function& function, const Picture& source, Stats& stats,
-                const interface::Extra& arguments, ZorStatus* status)
+Picture resized(Picture picture, const Format& to, ZorSize size)
 {
-    using Clock = std::chrono::steady_clock;
-    if (function.alpha == interface::Alpha::keep) setOpaque(destination);
-    Clock::duration best = Clock::duration::max();
-    for (int i = 0; i < stats.repeat; ++i) {
-        const Clock::time_point start = Clock::now();
-        const ZorStatus result = function(source.image(), destination.image(), source.size(), arguments);
-        best = std::min(best, Clock::now() - start);
-        if (result < 0) throw Cause(std::string(function.name) + ": " + statusText(result));
-        if (status) *status = result;
+    const ZorSize visible = picture.visible();
+    if (picture.size() == size && visible == size && picture.format().roundsUp == to.roundsUp)
+        return std::move(picture).takenFor(to);
+    const ZorSize shown = {std::min(visible.width, size.width), std::min(visible.height, size.height)};
+    Picture result(to, size, shown);
+    for (std::size_t i = 0; i < (to.fieldBits != 0 ? 1 : to.channels.size()); ++i) {
+        const Channel from = channelAt(picture, i, visible), into = channelAt(result, i, size);
+        const int bytes = interface::sampleBytes(to.sample);
+        // Chroma, of bytes, of a picture that is too small to have any is neutral.
+        constexpr std::uint8_t neutral = 128;
+        if (from.width == 0 || from.height == 0)
+            fill(into, &neutral, 1);
+        else
+            copy(from, into, bytes);
     }
-    stats.add(function, source, best);
-    return destination;
+    return std::move(result).takenFor(picture.colour());
 }
 
-} // namespace
-
-Picture run(const Function& function, const Picture& source, Stats& stats, const interface::Extra& arguments,
-            ZorStatus* status)
+std::optional<Picture> asSource(Picture picture, const Format& source)
 {
-    return runInto(Picture(*function.destination, source.size(), source.visible()), function, source, stats, arguments,
-                   status);
-}
-
-Picture Conversion::operator()(Picture picture, Stats& stats) const
-{
-    if (!function) {
-        const ZorSize size = wholeBlocks(picture.visible(), *target);
-        return rearranged(std::move(picture), *target, size);
+    const ZorSize size = picture.visible();
+    const bool isMosaic =
+        isGrey(picture.format()) && hasChannel(source, 'M') && picture.format().sample == source.sample;
+    if (!isMosaic && !areSame(picture.format(), source)) {
+        const auto conversion = findRearrangement(picture.format(), source, size);
+        if (!conversion) return {};
+        picture = conversion->keepingColour(std::move(picture));
     }
-    const ZorSize size = wholeBlocksOf(*function, picture.visible());
-    const Picture source = rearranged(std::move(picture), *function->source, size);
-    Picture result(*function->destination, size, source.visible(), Contents::any); // whole blocks: all is written
-    return rearranged(runInto(std::move(result), *function, source, stats, opaque, nullptr), *target, size);
+    return resized(std::move(picture), source, size);
 }
 
-Conversion findConversion(const Format& from, const Format& to, std::optional<interface::Model> matrix, bool dither)
+void copyAlpha(const Picture& from, const Picture& to)
 {
-    const auto plain = dither ? std::nullopt : rearrangementCost(from, to);
-    const bool packsBits = from.layout != to.layout && (from.fieldBits != 0 || to.fieldBits != 0);
-    const Function* found = nullptr;
-    int lowest = plain ? 16 * *plain : INT_MAX;
-    for (const Function& function : interface::functions()) {
-        if (movesSamples(function) ? !isSameModel(from.model, to.model) || isVariant(function) : plain && !packsBits)
-            continue;
-        if (appliesCurve(function)) continue;
-        if (function.dithers != dither || losesBits(from, *function.source) || losesBits(to, *function.destination))
-            continue;
-        const auto before = rearrangementCost(from, *function.source);
-        const auto after = rearrangementCost(*function.destination, to);
-        if (!before || !after || !isOf(function, matrix)) continue;
-        // Among ways of equal cost the one that computes with more bits is preferred.
-        const int cost =
-            16 * (*before + *after) + 8 * !function.signature.steps - interface::sampleBytes(function.source->sample);
-        if (cost < lowest) lowest = cost, found = &function;
+    copy(channelOf(from, 'A', from.visible()), channelOf(to, 'A', to.visible()),
+         interface::sampleBytes(to.format().sample));
+}
+
+void setOpaque(const Picture& picture)
+{
+    if (!hasAlpha(picture.format())) return;
+    const Channel alpha = channelOf(picture, 'A', picture.size());
+    const auto set = [&](auto value) { fill(alpha, &value, sizeof value); };
+    switch (picture.format().sample) {
+    case Sample::u8:
+        return set(std::uint8_t{255});
+    case Sample::s8:
+        return set(std::int8_t{127});
+    case Sample::u16:
+        return set(std::uint16_t{65535});
+    case Sample::s16:
+        return set(std::int16_t{32767});
+    case Sample::s32:
+        return set(std::numeric_limits<std::int32_t>::max());
+    case Sample::f32:
+        return set(1.0f);
     }
-    if (!found && !plain)
-        throw Cause("no function converts " + std::string(from.name) + " to " + std::string(to.name) +
-                    (dither ? " with dithering" : "") + " (zorcc list shows what there is)");
-    return {found, &to};
-}
-
-Conversion findDeinterlacing(const Format& from, const Format& to)
-{
-    const bool fullHeight = !isRgb(to) && to.log2X() == 1 && to.log2Y() == 0;
-    for (const Function& function : interface::functions())
-        if (function.takesSlice && (function.destination->log2Y() == 0) == fullHeight &&
-            rearrangementCost(from, *function.source))
-            return {&function, function.destination};
-    throw Cause("deinterlacing takes 4:2:0, and the picture is " + std::string(from.name));
 }
 
 } // namespace zorcc::tool

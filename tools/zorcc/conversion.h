@@ -1,65 +1,81 @@
 // SPDX-License-Identifier: MIT
-// Choosing and running functions of the library.
+// Pictures in other formats, by plans of the conversion layer.
 #pragma once
 
-#include <chrono>
-#include <mutex>
+#include <memory>
 #include <optional>
 #include <string>
 
-#include "formats.h"
 #include "picture.h"
 
 namespace zorcc::tool {
 
-using interface::Function;
+// What a picture is to be, or what it is taken for.
+struct Description {
+    const Format* format; // of the layer
+    Colour colour;        // empty for formats that have none
+};
 
-// What a function of the library has been run on, and the time of its work alone. Several threads may add to it.
-class Stats {
+// A plan for pictures of one size. One thread at a time may use it.
+class Conversion {
 public:
-    explicit Stats(int runs = 1) : repeat(runs) {}
+    // Throws Cause with the layer's words where there is no way.
+    Conversion(const Description& from, const Description& to, ZorSize size, const ZorPlanOptions& options = usual);
 
-    const int repeat; // runs on each picture, of which the fastest counts
+    // The picture in the other format, with chroma for whole blocks. Comes back untouched where nothing is to be done.
+    Picture operator()(Picture picture) const;
 
-    void add(const Function& ran, const Picture& picture, std::chrono::duration<double> time);
-    bool isEmpty() const { return !function; }
+    Picture keepingColour(Picture picture) const;
 
-    // One line: "zoriRGBToYUV_8u_C3R: 1 picture of 1920x1080, 5012.3 megapixels/s (best of 3)".
-    std::string line() const;
+    // The same `repeat` times, and the shortest time of a run in seconds.
+    Picture timed(Picture picture, int repeat, double& seconds) const;
+
+    bool isIdentity() const;       // the samples stay where they are
+    std::string functions() const; // their names, ", " between them; what is done where there is none
+    std::string words() const;     // all lines about the plan
+    std::string losses() const;    // those about what is lost; empty where nothing is
+
+    static constexpr ZorPlanOptions usual = [] {
+        ZorPlanOptions options{};
+        options.structBytes = sizeof options;
+        return options;
+    }();
 
 private:
-    std::mutex mutex;
-    int pictures = 0;
-    double megapixels = 0, seconds = 0;
-    const Function* function = nullptr; // of the last picture
-    ZorSize size{};
+    friend std::optional<Conversion> findRearrangement(const Format&, const Format&, ZorSize);
+
+    struct Release {
+        void operator()(ZorPlan* plan) const { zorPlanFree(plan); }
+    };
+    explicit Conversion() = default;
+
+    // Whether luma and chroma, or RGB and grey, stay what they are in every function.
+    bool keepsColours() const;
+
+    const Format *source = nullptr, *destination = nullptr;
+    Colour colour; // of the result
+    std::unique_ptr<ZorPlan, Release> plan;
 };
 
-// Runs a function on a picture of its source format; the result has the same size, whole and visible. Samples that
-// the function leaves alone are 0, alpha 255. Throws Cause for an error and leaves a warning in `status`.
-inline constexpr interface::Extra opaque {
-    .alpha = 255
-};
-Picture run(const Function& function, const Picture& source, Stats& stats, const interface::Extra& arguments = opaque,
-            ZorStatus* status = nullptr);
+// A conversion in which samples change places, type and number alone; none if colours or chroma would have to be
+// computed. Alpha may be added or dropped, grey repeated. Formats of functions count as those of the layer.
+std::optional<Conversion> findRearrangement(const Format& from, const Format& to, ZorSize size);
 
-// The way from one format to another: rearrangement, a function, rearrangement; or, without a function, just that.
-struct Conversion {
-    const Function* function;
-    const Format* target;
+// By such a conversion, which there must be; a warning in the name of `file` says what it loses.
+Picture rearranged(Picture picture, const Format& to, const std::string& file = "");
 
-    // Nothing of an odd size is lost: the picture is first filled up to whole blocks by repeating its last column and
-    // row, which the result has, too, but does not show.
-    Picture operator()(Picture picture, Stats& stats) const;
-};
+// The same samples in memory for another size, in a format that differs in the rounding of odd sizes at most. Pixels
+// beyond the visible ones repeat the last visible column and row.
+Picture resized(Picture picture, const Format& to, ZorSize size);
 
-// The cheapest conversion, preferring functions with steps; throws Cause if there is none. Formats that go with any
-// matrix are taken for the given one, or for any there is a function for. With `dither` it ends in 16-bit pixels,
-// dithered.
-Conversion findConversion(const Format& from, const Format& to, std::optional<interface::Model> matrix = {},
-                          bool dither = false);
+// A picture of those that findRearrangement() takes, as a function of this source format takes it: with chroma for its
+// visible pixels as the function rounds it. Grey counts as a mosaic. None for others.
+std::optional<Picture> asSource(Picture picture, const Format& source);
 
-// From 4:2:0 to 4:2:2 or 4:2:0, whichever leads to the format better; throws Cause for other pictures.
-Conversion findDeinterlacing(const Format& from, const Format& to);
+// Alpha of the visible pixels, from one picture to another; both have it.
+void copyAlpha(const Picture& from, const Picture& to);
+
+// Sets alpha, where there is any, to opaque.
+void setOpaque(const Picture& picture);
 
 } // namespace zorcc::tool

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "file_run.h"
 
+#include "conversion.h"
 #include "error.h"
 #include "pipeline.h"
 
@@ -17,9 +18,12 @@ void runOnFile(const std::string& in, const OutputPath& out, const Timing& timin
         [&](Picture picture) {
             const auto [function, arguments] = choose(picture.format());
             const ZorSize size = picture.visible();
-            const Picture source = rearranged(std::move(picture), *function.source, size);
-            Picture result = run(function, source, stats, arguments);
-            if (function.alpha == interface::Alpha::keep) copyAlpha(source, result);
+            double seconds = 0;
+            Picture source = *asSource(std::move(picture), *function.source); // files hold what can be
+            Picture result = run(function, source, timing.repeat, seconds, arguments);
+            stats.add(std::string(function.name), size, seconds);
+            if (function.alpha == interface::Alpha::keep)
+                copyAlpha(rearranged(std::move(source), *function.destination), result);
             return result;
         },
         timing.isWanted());

@@ -6,7 +6,8 @@
 #include <string>
 
 #include "commands.h"
-#include "conversion.h"
+#include "formats.h"
+#include "function_run.h"
 
 namespace zorcc::tool {
 

@@ -15,9 +15,12 @@ std::unique_ptr<Reader> openInput(const Input& input, const Format* usual, OddSi
         if (!input.format.empty()) throw UsageError("--format is for headerless files, with --size WxH");
         return openReader(input.path);
     }
-    const Format* const format = input.format.empty() ? usual : &formatNamed(input.format);
-    if (!format) throw UsageError(input.path + ": a headerless file needs --format NAME");
-    return openReader(input.path, Headerless{format, *input.size, oddSizes});
+    if (!input.format.empty()) {
+        const NamedFormat named = formatNamed(input.format);
+        return openReader(input.path, Headerless{&named.format, *input.size, oddSizes, named.colour});
+    }
+    if (!usual) throw UsageError(input.path + ": a headerless file needs --format NAME");
+    return openReader(input.path, Headerless{usual, *input.size, oddSizes, {}});
 }
 
 void printStats(const std::string& lines, const std::vector<std::string>& results)

@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "messages.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <cstring>
 #include <mutex>
 #include <set>
-
-#include "formats.h"
 
 namespace zorcc::tool {
 
@@ -14,9 +13,6 @@ namespace {
 
 std::mutex mutex;
 bool quiet = false;
-
-bool hasWords(const Format& format) { return format.sample == Sample::u16 || format.sample == Sample::s16; }
-bool hasBytes(const Format& format) { return format.sample == Sample::u8 || format.sample == Sample::s8; }
 
 } // namespace
 
@@ -32,16 +28,13 @@ void warn(const std::string& file, const std::string& text)
     if (!quiet && said.insert(line).second) say(line.c_str());
 }
 
-void warnOfLostAlpha(const std::string& file, const Format& from, const Format& to)
+void warnOfLosses(const std::string& file, const std::string& lines)
 {
-    if (hasAlpha(from) && !hasAlpha(to)) warn(file, "alpha is dropped");
-}
-
-void warnOfLostBits(const std::string& file, const Format& from, const Format& to)
-{
-    // Packed 16-bit pixels have fewer bits than bytes have; YCoCg needs more than its RGB.
-    if (hasWords(from) && hasBytes(to) && from.fieldBits == 0 && !isYCoCg(from))
-        warn(file, "samples of 16 bits become samples of 8");
+    for (std::size_t start = 0; start < lines.size();) {
+        const std::size_t end = std::min(lines.find('\n', start), lines.size());
+        warn(file, lines.substr(start, end - start));
+        start = end + 1;
+    }
 }
 
 } // namespace zorcc::tool

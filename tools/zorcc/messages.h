@@ -4,8 +4,6 @@
 
 #include <string>
 
-#include "picture.h"
-
 namespace zorcc::tool {
 
 // Says a line. Takes no memory, so that it works where there is none left.
@@ -15,8 +13,7 @@ void say(const char* text);
 void beQuiet();
 void warn(const std::string& file, const std::string& text);
 
-// What a picture of one format loses when it becomes another: alpha, or the lower half of 16 bits.
-void warnOfLostAlpha(const std::string& file, const Format& from, const Format& to);
-void warnOfLostBits(const std::string& file, const Format& from, const Format& to);
+// A warning for each line.
+void warnOfLosses(const std::string& file, const std::string& lines);
 
 } // namespace zorcc::tool

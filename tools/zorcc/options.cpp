@@ -4,6 +4,8 @@
 #include <charconv>
 
 #include "error.h"
+#include "formats.h"
+#include "names.h"
 
 namespace zorcc::tool {
 
@@ -170,9 +172,9 @@ void Commands::addConvert()
         ->type_name("NAME");
     constexpr const char* matrices = "yuv|bt601|bt709|bt709full";
     addText(command, "--matrix", "of luma and chroma in OUT, or in IN where OUT has none", matrices,
-            [this](const std::string& text) { converting.matrix = matrixNamed(text); });
+            [this](const std::string& text) { checkMatrix(converting.matrix = inSmallLetters(text)); });
     addText(command, "--from-matrix", "of luma and chroma in IN", matrices,
-            [this](const std::string& text) { converting.fromMatrix = matrixNamed(text); });
+            [this](const std::string& text) { checkMatrix(converting.fromMatrix = inSmallLetters(text)); });
     command->add_flag("--deinterlace", converting.deinterlace,
                       "smooth each 4:2:0 picture vertically, so that its two fields no longer show as combs");
     command->add_flag("--dither", converting.dither,

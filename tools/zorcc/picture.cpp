@@ -101,15 +101,6 @@ void checkPixels(ZorSize size)
                     " that --max-pixels allows");
 }
 
-bool haveSameMemory(const Format& a, const Format& b)
-{
-    const auto sameShape = [](const interface::PlaneShape& p, const interface::PlaneShape& q) {
-        return p.samples == q.samples && p.log2X == q.log2X && p.log2Y == q.log2Y;
-    };
-    return a.channels == b.channels && a.sample == b.sample && a.layout == b.layout && a.fieldBits == b.fieldBits &&
-           a.roundsUp == b.roundsUp && std::equal(a.plane, a.plane + a.planes, b.plane, b.plane + b.planes, sameShape);
-}
-
 Picture::Picture(const Format& format, ZorSize size, ZorSize visible, Contents contents)
     : pixelFormat(&format), whole(size), shown(visible), memory(nullptr, Release{0})
 {
@@ -139,6 +130,13 @@ Picture Picture::takenFor(const Format& format) &&
 {
     Picture same = std::move(*this);
     same.pixelFormat = &format;
+    return same;
+}
+
+Picture Picture::takenFor(Colour colour) &&
+{
+    Picture same = std::move(*this);
+    same.colourOfSamples = std::move(colour);
     return same;
 }
 

@@ -9,6 +9,7 @@
 #include <string>
 
 #include "interface/functions.h"
+#include "zorconvert.h"
 
 namespace zorcc::tool {
 
@@ -35,8 +36,13 @@ inline std::int64_t maxPixels = 1 << 28;
 // Throws Cause for pictures of files that are larger.
 void checkPixels(ZorSize size);
 
-// Whether the bytes of images are the same in both, so that one can be taken for the other.
-bool haveSameMemory(const Format& a, const Format& b);
+// What luma and chroma are by, in the words of zorconvert.h: empty, and the default, where nobody says it.
+struct Colour {
+    std::string matrix = {};
+    ZorRange range = zorRangeDefault;
+
+    bool operator==(const Colour&) const = default;
+};
 
 // Of a new picture: whatever its memory held is for those who write all of it.
 enum class Contents { zeros, any };
@@ -48,10 +54,12 @@ public:
     Picture(const Format& format, ZorSize size, ZorSize visible, Contents contents = Contents::zeros);
     Picture(const Format& format, ZorSize size) : Picture(format, size, size) {}
 
-    // The same bytes in a format that has the same memory.
+    // The same bytes in a format that has the same memory, or by another colour.
     Picture takenFor(const Format& format) &&;
+    Picture takenFor(Colour colour) &&;
 
     const Format& format() const { return *pixelFormat; }
+    const Colour& colour() const { return colourOfSamples; }
     ZorSize size() const { return whole; }
     ZorSize visible() const { return shown; }
     const interface::Image& image() const { return planes; }
@@ -73,6 +81,7 @@ private:
     };
 
     const Format* pixelFormat;
+    Colour colourOfSamples;
     ZorSize whole, shown;
     interface::Image planes;
     std::unique_ptr<void, Release> memory;
@@ -86,7 +95,6 @@ struct VideoTags {
     std::string frameRate = "25:1";
     std::string interlacing = "p";       // empty: not said
     std::string aspect = "1:1";          // of a pixel; empty: not said
-    std::string range;                   // FULL or LIMITED; empty: not said
     std::string sampling420 = "420jpeg"; // where the chroma samples of 4:2:0 lie
 };
 

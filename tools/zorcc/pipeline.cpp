@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "error.h"
+#include "formats.h"
 #include "messages.h"
 #include "progress.h"
 
@@ -68,7 +69,7 @@ private:
         Picture picture = std::move(pending).get();
         const Format& before = picture.format();
         picture = naming(reader.path(), [&] { return make(std::move(picture)); });
-        warnOfLostAlpha(reader.path(), before, picture.format());
+        if (hasAlpha(before) && !hasAlpha(picture.format())) warn(reader.path(), "alpha is dropped");
         if (writer.mustBeInOrder()) {
             std::unique_lock lock(turnMutex);
             turnChanged.wait(lock, [&] { return error || written + 1 == number; });

@@ -9,7 +9,7 @@ namespace {
 class HeaderlessReader : public FileReader {
 public:
     HeaderlessReader(InputFile input, const Headerless& layout)
-        : FileReader(std::move(input)), format(*layout.format), visible(layout.size),
+        : FileReader(std::move(input)), format(*layout.format), colour(layout.colour), visible(layout.size),
           size(layout.oddSizes == OddSizes::roundUp ? wholeBlocks(visible, format) : visible)
     {
     }
@@ -20,10 +20,11 @@ private:
     std::optional<Pending> read() override
     {
         if (file.atEnd()) return {};
-        return Pending(readPlanes(file, format, size, visible));
+        return Pending(readPlanes(file, format, size, visible).takenFor(colour));
     }
 
     const Format& format;
+    const Colour colour;
     ZorSize visible, size;
 };
 

@@ -71,6 +71,7 @@ struct Headerless {
     const Format* format;
     ZorSize size;
     OddSizes oddSizes;
+    Colour colour;
 };
 
 // PNG, JPEG, PNM, PFM or Y4M, whatever the file is named; headerless where `layout` says how. "-" is standard input; a

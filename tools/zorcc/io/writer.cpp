@@ -6,9 +6,9 @@
 #include <optional>
 #include <utility>
 
+#include "../conversion.h"
 #include "../error.h"
 #include "../formats.h"
-#include "../messages.h"
 #include "codecs.h"
 #include "planes.h"
 #include "sequence.h"
@@ -37,7 +37,7 @@ public:
             if (!numbered && number > 1)
                 throw Cause("there is more than one picture: give a name with a number, such as frame_%03d.png");
             if (picture.format().fieldBits != 0)
-                picture = rearranged(std::move(picture), interface::formats::rgb24, picture.visible());
+                picture = rearranged(std::move(picture), pictureFormat(false, false, Sample::u8));
             const Format& format = picture.format();
             if (!isRgb(format))
                 throw Cause("this kind of file holds RGB or grey, and the picture is " + std::string(format.name) +
@@ -91,10 +91,10 @@ public:
             if (isRgb(picture.format())) throw Cause("Y4M holds YUV, and the picture is RGB: use .png or .ppm");
             if (!isYuv(picture.format()))
                 throw Cause("Y4M holds YUV, and the picture is " + std::string(picture.format().name) + ": use .raw");
-            const Format& format = planarYuv(picture.format());
-            if (!rearrangementCost(picture.format(), format))
+            const Format& format = y4mFormat(picture.format());
+            if (!areSame(picture.format(), format) && !findRearrangement(picture.format(), format, picture.visible()))
                 throw Cause("Y4M holds no chroma of " + std::string(picture.format().name) + ": use .yuv");
-            picture = rearranged(std::move(picture), format, wholeBlocks(picture.visible(), format));
+            picture = rearranged(std::move(picture), format, name);
             if (!first) {
                 first = picture.visible();
                 writeY4mHeader(*file, picture, videoTags);
@@ -121,10 +121,7 @@ private:
 
 Picture toEncode(const AtomicFile& file, Picture picture, const Format& format)
 {
-    warnOfLostAlpha(file.name(), picture.format(), format);
-    warnOfLostBits(file.name(), picture.format(), format);
-    const ZorSize size = picture.visible();
-    return rearranged(std::move(picture), format, size);
+    return rearranged(std::move(picture), format, file.name());
 }
 
 std::unique_ptr<Writer> openWriter(const OutputPath& out, const VideoTags& tags)

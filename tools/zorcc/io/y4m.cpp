@@ -13,29 +13,17 @@ namespace zorcc::tool {
 
 namespace {
 
-using namespace interface::formats;
-
 constexpr std::size_t longestLine = 4096;
 
 const Format& formatOfTag(const std::string& tag)
 {
     // The 4:2:0 kinds differ in where chroma samples lie, which makes no difference to conversions that repeat chroma.
     for (const char* name : {"420", "420jpeg", "420mpeg2", "420paldv"})
-        if (tag == name) return yuv420p;
-    if (tag == "422") return yuv422p;
-    if (tag == "444") return yuv444p;
-    if (tag == "411") return i411;
+        if (tag == name) return formatNamed("yuv420p").format;
+    if (tag == "422") return formatNamed("yuv422p").format;
+    if (tag == "444") return formatNamed("yuv444p").format;
+    if (tag == "411") return formatNamed("yuv411p").format;
     throw Cause("colour space " + quoted(tag) + " is not supported (420, 411, 422 and 444 with 8 bits are)");
-}
-
-// The range to write beside pictures of a model. Where nobody named the matrix, it is that of the input, and limited
-// where that said none, as players take it.
-std::string rangeOf(interface::Model model, const VideoTags& tags)
-{
-    using interface::Model;
-    if (model == Model::bt709full || model == Model::yuv) return "FULL";
-    if (model == Model::bt601 || model == Model::bt709 || tags.range.empty()) return "LIMITED";
-    return tags.range;
 }
 
 int side(const std::string& digits)
@@ -82,7 +70,7 @@ public:
             else if (word[0] == 'I')
                 videoTags.interlacing = interlacing(value);
             else if (word == "XCOLORRANGE=FULL" || word == "XCOLORRANGE=LIMITED")
-                videoTags.range = word.substr(12);
+                colour.range = word.ends_with("FULL") ? zorRangeFull : zorRangeLimited;
         }
         if (visible.width == 0 || visible.height == 0) throw Cause("the header lacks width and height");
         size = wholeBlocks(visible, *format);
@@ -94,7 +82,7 @@ private:
     void readSampling(const std::string& value)
     {
         format = &formatOfTag(value);
-        if (format == &yuv420p) videoTags.sampling420 = value;
+        if (format->log2Y() > 0) videoTags.sampling420 = value;
     }
 
     std::optional<Pending> read() override
@@ -103,10 +91,11 @@ private:
         const std::string line = file.readLine(longestLine); // parameters may follow the word
         if (line.substr(0, line.find(' ')) != "FRAME")
             throw Cause("no FRAME line before picture " + std::to_string(count() + 1));
-        return Pending(readPlanes(file, *format, size, visible));
+        return Pending(readPlanes(file, *format, size, visible).takenFor(colour));
     }
 
-    const Format* format = &yuv420p;
+    const Format* format = &formatOfTag("420");
+    Colour colour; // its range, if the header says it
     ZorSize visible{}, size{};
 };
 
@@ -124,7 +113,8 @@ void writeY4mHeader(AtomicFile& file, const Picture& picture, const VideoTags& t
     const auto tag = [](const char* name, const std::string& value) { return value.empty() ? "" : name + value; };
     file.print("YUV4MPEG2 W" + std::to_string(picture.visible().width) + " H" +
                std::to_string(picture.visible().height) + " F" + tags.frameRate + tag(" I", tags.interlacing) +
-               tag(" A", tags.aspect) + " C" + sampling + " XCOLORRANGE=" + rangeOf(format.model, tags) + "\n");
+               tag(" A", tags.aspect) + " C" + sampling + " XCOLORRANGE=" +
+               (picture.colour().range == zorRangeFull ? "FULL" : "LIMITED") + "\n"); // limited as players take it
 }
 
 void writeY4mFrame(AtomicFile& file, const Picture& picture)

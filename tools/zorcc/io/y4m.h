@@ -7,7 +7,7 @@
 
 namespace zorcc::tool {
 
-// The header for pictures like this one, which must be of a planarYuv() format.
+// The header for pictures like this one, which must be of a y4mFormat() format.
 void writeY4mHeader(AtomicFile& file, const Picture& picture, const VideoTags& tags);
 void writeY4mFrame(AtomicFile& file, const Picture& picture);
 
