@@ -112,6 +112,7 @@ const Format* formatOfModel(const std::string& name, const Format& from)
                                : from.sample == Sample::u8  ? "24"
                                : from.sample == Sample::s16 ? "48s"
                                                             : "48";
+    if (findFormat(name)) return nullptr; // hlsa is a format
     for (const std::string& candidate : {name + suffix, name + "48"})
         if (const Format* const format = findFormat(candidate); format && !isRgb(*format) && !isYuv(*format))
             return format;
