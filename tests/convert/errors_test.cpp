@@ -116,6 +116,41 @@ TEST_F(PlanErrors, SizesAndOptions)
     expect(given, zorStatusOk, "in one piece");
 }
 
+TEST_F(PlanErrors, LossesAreLinesOfTheDescription)
+{
+    for (const auto& [from, to, losses] :
+         {std::tuple{"rgba64", "rgb24", "16 bits become 8 to the nearest value\nalpha is dropped\n"},
+          std::tuple{"rgb24", "nv12", ""}, std::tuple{"ycocg444p16s", "rgb24", ""},
+          std::tuple{"bgra", "gray", "colours become grey, by the weights of luma\nalpha is dropped\n"}}) {
+        const ZorPicture pictures[] = {picture(from), picture(to)};
+        ZorPlan* const plan = zorPlanCreate(&pictures[0], &pictures[1], nullptr);
+        EXPECT_STREQ(zorPlanLosses(plan), losses) << from;
+        EXPECT_NE(std::string(zorPlanDescribe(plan)).find(losses), std::string::npos);
+        zorPlanFree(plan);
+    }
+}
+
+TEST_F(PlanErrors, Colours)
+{
+    for (const auto& [given, matrix, range, isSaid] :
+         {std::tuple{picture("nv12"), "bt601", zorRangeLimited, 0},
+          {picture("rgb24"), "", zorRangeFull, 0},
+          {picture("YUVJ420P"), "bt601", zorRangeFull, 1},
+          {picture("nv12_bt709full"), "bt709", zorRangeFull, 1},
+          {picture("nv12", "YUV"), "yuv", zorRangeFull, 1},
+          {picture("nv12", nullptr, zorRangeFull), "bt601", zorRangeFull, 0}}) {
+        ZorColour colour;
+        EXPECT_EQ(zorPictureColour(&given, &colour), zorStatusOk);
+        EXPECT_STREQ(colour.matrix, matrix);
+        EXPECT_EQ(colour.range, range);
+        EXPECT_EQ(colour.isSaid, isSaid);
+    }
+    const ZorPicture wrong = picture("nv12", "bt610");
+    ZorColour colour;
+    EXPECT_EQ(zorPictureColour(&wrong, &colour), zorStatusBadArgument);
+    EXPECT_EQ(zorPictureColour(&wrong, nullptr), zorStatusNullPointer);
+}
+
 // What a picture of that height is by, where nobody says it.
 TEST_F(PlanErrors, UsualMatrices)
 {

@@ -162,7 +162,8 @@ Examples:
 void Commands::addConvert()
 {
     CLI::App* const command =
-        add("convert", "Convert a file, with the function that suits the two formats", converting, convert);
+        add("convert", "Convert a file from any pixel format to any other, by the shortest chain of functions",
+            converting, convert);
     addInput(command, converting.in, "");
     addOutput(command, converting.out, "result; for several pictures .y4m, .yuv, or frame_%03d.png");
     command
@@ -190,7 +191,8 @@ keeps frame rate, aspect and interlacing of a .y4m IN, otherwise it says 25 pict
 
 The matrix is bt709 for pictures of 720 rows and more, and bt601 below; bt709full where a .y4m IN of 720 rows says full
 range. Names of formats such as yuv420p_bt709 say theirs. From YUV to YUV --matrix is the one to convert to, and
---from-matrix that of IN; a .y4m OUT says the range of its matrix.
+--from-matrix that of IN; a .y4m OUT says the range of its matrix. Samples of a matrix without functions, such as bt2020,
+can be moved to another layout: --from-matrix bt2020. --stats shows the chain; what is lost is said in any case.
 
 A name with %03d is a sequence of files, for IN and OUT. - is standard input and output, with --as for the kind:
   ffmpeg -v error -i clip.mp4 -f yuv4mpegpipe - | zorcc convert - clip.rgb --to bgr24
@@ -200,7 +202,8 @@ Examples:
   zorcc convert clip.y4m frame_%03d.png
   zorcc convert photo.jpg photo.yuv --to yuyv --repeat 20 --stats
   zorcc convert --size 640x480 --format yuyv frame.yuv frame.png
-Layouts of video, of any matrix, by their usual names: i420 yv12 nv12, i422 yv16 yuy2 uyvy yvyu, i411 nv11, i410:
+Layouts of video by their usual names, also ffmpeg's and fourccs (zorcc list --formats): i420 yv12 nv12 nv21, i422 nv16
+yuy2 uyvy yvyu, i444 nv24, i411 nv11, i410:
   zorcc convert clip.y4m clip.yuv --to nv12
   zorcc convert --size 720x576 --format nv12 clip.yuv clip.y4m --deinterlace
 Models: --to xyz, luv, lab, photoycc, hls or hsv makes a headerless file with samples like those of IN: of 8 bits xyz24,
