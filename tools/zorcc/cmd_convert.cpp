@@ -26,7 +26,7 @@ Sample usualSample(const Format& format)
 // The format of a file where the user gives none: one that it can hold, without a conversion where possible.
 const Format& usualFormat(const OutputPath& out, const Format& from)
 {
-    const auto planar420 = [] { return &formatNamed("yuv420p").format; };
+    const auto planar420 = [] { return formatNamed("yuv420p").format; };
     switch (fileKindToWrite(out)) {
     case FileKind::raw:
         throw UsageError(out.path + ": a .raw file needs --to FORMAT");
@@ -41,14 +41,12 @@ const Format& usualFormat(const OutputPath& out, const Format& from)
     }
 }
 
-NamedFormat targetFormat(const ConvertOptions& options, const Format& from)
+PictureKind targetKind(const ConvertOptions& options, const Format& from)
 {
-    if (const Format* const ofModel = formatOfModel(options.to, from)) return {*ofModel, {}};
-    if (options.to.empty()) return {usualFormat(options.out, from), {}};
+    if (const Format* const ofModel = formatOfModel(options.to, from)) return {ofModel};
+    if (options.to.empty()) return {&usualFormat(options.out, from)};
     return formatNamed(options.to);
 }
-
-const std::string& lastOf(const std::string& first, const std::string& last) { return last.empty() ? first : last; }
 
 // The function that smooths 4:2:0 vertically: to 4:2:2 where the result has as many rows of chroma, or to 4:2:0.
 const Function& deinterlacingFunction(const Format& from, const Format& to)
@@ -61,69 +59,72 @@ const Function& deinterlacingFunction(const Format& from, const Format& to)
     throw Cause("no function deinterlaces");
 }
 
-// What one thread does with pictures of one format, colour and size.
+// What the source is taken for: names of formats say more than options, and those more than the label of a file.
+PictureKind sourceKind(const ConvertOptions& options, const Picture& picture, const PictureKind& target)
+{
+    PictureKind kind = picture.kind();
+    const bool matrixIsOfSource = options.fromMatrix.empty() && !isYuv(*target.format);
+    const std::string& said = matrixIsOfSource ? options.matrix : options.fromMatrix;
+    if (isYuv(*kind.format) && kind.colour.matrix.empty() && !said.empty()) kind.colour = {said};
+    return kind;
+}
+
+// What one thread does with pictures of one kind and size.
 class Worker {
 public:
-    Worker(const ConvertOptions& options, const Picture& picture)
-        : format(&picture.format()), colour(picture.colour()), size(picture.visible())
+    Worker(const ConvertOptions& options, const Picture& picture) : kind(picture.kind()), size(picture.visible())
     {
-        NamedFormat to = targetFormat(options, *format);
-        Description from = {format, colour};
-        // Names of formats say more than options, and those more than the label of a file.
-        const std::string& said = isYuv(to.format) ? options.fromMatrix : lastOf(options.matrix, options.fromMatrix);
-        if (isYuv(*format) && colour.matrix.empty() && !said.empty()) from.colour = {said, zorRangeDefault};
-        if (isYuv(to.format) && to.colour.matrix.empty()) {
+        target = targetKind(options, *kind.format);
+        PictureKind from = sourceKind(options, picture, target);
+        if (isYuv(*target.format) && target.colour.matrix.empty()) {
             if (!options.matrix.empty())
-                to.colour = {options.matrix, zorRangeDefault};
-            else if (isYuv(*format))
-                to.colour = from.colour;
+                target.colour = {options.matrix};
+            else if (isYuv(*from.format))
+                target.colour = from.colour;
         }
-
         ZorPlanOptions choice = Conversion::usual;
         if (options.deinterlace) {
-            deinterlacing = &deinterlacingFunction(*format, to.format);
-            add(from, {&layerFormat(*deinterlacing->source), from.colour});
-            from.format = &layerFormat(*deinterlacing->destination);
+            const Function& function = deinterlacingFunction(*from.format, *target.format);
+            steps.push_back({{from, {&layerFormat(*function.source), from.colour}, size}, &function});
+            from.format = &layerFormat(*function.destination);
         }
         if (options.dither) {
-            if (to.format.fieldBits == 0) throw Cause("--dither is for pixels of 16 bits: rgb565, bgr555, ...");
+            if (target.format->fieldBits == 0) throw Cause("--dither is for pixels of 16 bits: rgb565, bgr555, ...");
             choice.fields = zorFieldsDither; // by functions from luma and chroma alone
-            if (isRgb(*format)) {
-                const Description between = {&formatNamed("yuv444p").format, {"bt601", zorRangeDefault}};
-                add(from, between);
+            if (isRgb(*from.format)) {
+                const PictureKind between = {formatNamed("yuv444p").format, {"bt601"}};
+                steps.push_back({{from, between, size}});
                 from = between;
             }
         }
         try {
-            add(from, {&to.format, to.colour}, choice);
+            steps.push_back({{from, target, size, choice}});
         } catch (const Cause& cause) {
-            const bool isByLabel = isYuv(*format) && from.colour.matrix.empty() && from.colour.range == zorRangeFull;
-            throw isByLabel ? Cause(std::string(cause.what()) + "; --from-matrix says what to take it for") : cause;
+            if (from.colour.range != zorRangeFull || !from.colour.matrix.empty()) throw;
+            throw Cause(std::string(cause.what()) + "; --from-matrix says what to take it for");
         }
     }
 
-    bool suits(const Picture& picture) const
-    {
-        return format == &picture.format() && colour == picture.colour() && size == picture.visible();
-    }
+    bool suits(const Picture& picture) const { return kind == picture.kind() && size == picture.visible(); }
+    const Format& format() const { return *target.format; } // of the result
 
     Picture operator()(Picture picture, Stats& stats) const
     {
         double seconds = 0;
         std::string names;
-        for (const Conversion& step : steps) {
+        const auto name = [&](const std::string& functions) { names += (names.empty() ? "" : ", ") + functions; };
+        for (const Step& step : steps) {
             double time = 0;
-            picture = step.timed(std::move(picture), stats.repeat, time);
+            picture = step.conversion.timed(std::move(picture), stats.repeat, time);
             seconds += time;
-            if (!step.isIdentity() || steps.size() == 1) names += (names.empty() ? "" : ", ") + step.functions();
-            if (deinterlacing && &step == &steps.front()) {
-                // The last rows' neighbours must be as they are.
-                const ZorSize blocks = picture.size();
-                const Picture whole = resized(std::move(picture), *deinterlacing->source, blocks);
-                picture = run(*deinterlacing, whole, stats.repeat, seconds);
-                picture = std::move(picture).takenFor(layerFormat(picture.format()));
-                names += (names.empty() ? "" : ", ") + std::string(deinterlacing->name);
-            }
+            if (!step.conversion.isIdentity() || steps.size() == 1) name(step.conversion.functions());
+            if (!step.then) continue;
+            // The function looks at neighbouring rows, those of whole blocks, too.
+            const ZorSize blocks = picture.size();
+            const Picture whole = resized(std::move(picture), *step.then->source, blocks);
+            picture = run(*step.then, whole, stats.repeat, seconds);
+            picture = std::move(picture).takenFor(layerFormat(picture.format()));
+            name(std::string(step.then->name));
         }
         stats.add(names, size, seconds);
         return picture;
@@ -132,35 +133,29 @@ public:
     std::string losses() const
     {
         std::string lines;
-        for (const Conversion& step : steps) lines += step.losses();
+        for (const Step& step : steps) lines += step.conversion.losses();
         return lines;
     }
 
     std::string words() const
     {
         std::string lines;
-        for (const Conversion& step : steps) {
-            lines += step.words() + "\n";
-            if (deinterlacing && &step == &steps.front()) lines += "then " + std::string(deinterlacing->name) + "\n";
+        for (const Step& step : steps) {
+            lines += step.conversion.words() + "\n";
+            if (step.then) lines += "then " + std::string(step.then->name) + "\n";
         }
         return lines;
     }
 
-    bool givesRgb() const { return givesRgbPictures; }
-
 private:
-    void add(const Description& from, const Description& to, const ZorPlanOptions& options = Conversion::usual)
-    {
-        steps.emplace_back(from, to, size, options);
-        givesRgbPictures = isRgb(*to.format);
-    }
+    struct Step {
+        Conversion conversion;
+        const Function* then = nullptr;
+    };
 
-    const Format* format;
-    Colour colour;
+    PictureKind kind, target = {};
     ZorSize size;
-    std::vector<Conversion> steps;
-    const Function* deinterlacing = nullptr; // after the first step
-    bool givesRgbPictures = false;
+    std::vector<Step> steps;
 };
 
 // Those who have nothing to do. A plan is for one thread at a time.
@@ -202,7 +197,7 @@ private:
 void convert(const ConvertOptions& options)
 {
     fileKindToWrite(options.out); // reports bad names before any work
-    if (!options.to.empty()) targetFormat(options, formatNamed("rgb24").format);
+    if (!options.to.empty()) targetKind(options, *formatNamed("rgb24").format);
     const auto reader = openInput(options.in, nullptr, OddSizes::roundUp);
     VideoTags tags = reader->tags();
     if (options.deinterlace) tags.interlacing = "p";
@@ -217,7 +212,7 @@ void convert(const ConvertOptions& options)
             warnOfLosses(reader->path(), worker->losses());
             if (options.linear && isRgb(picture.format())) picture = linearFromSrgb(std::move(picture));
             picture = (*worker)(std::move(picture), stats);
-            if (options.linear && worker->givesRgb()) picture = srgbFromLinear(std::move(picture));
+            if (options.linear && isRgb(worker->format())) picture = srgbFromLinear(std::move(picture));
             workers.giveBack(std::move(worker));
             return picture;
         },

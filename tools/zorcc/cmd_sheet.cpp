@@ -22,7 +22,7 @@ void sheet(const SheetOptions& options)
         const auto reader = openReader(path);
         Picture picture = *reader->next();
         pictures.push_back(naming(path, [&] {
-            const Conversion conversion({&picture.format(), picture.colour()}, {&rgb, {}}, picture.visible());
+            const Conversion conversion(picture.kind(), {&rgb}, picture.visible());
             return conversion(std::move(picture));
         }));
         width += pictures.back().size().width + (pictures.size() > 1 ? gap : 0);

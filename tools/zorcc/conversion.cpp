@@ -14,11 +14,10 @@ namespace zorcc::tool {
 
 namespace {
 
-ZorPicture pictureOf(const Description& description, ZorSize size)
+ZorPicture pictureOf(const PictureKind& kind, ZorSize size)
 {
-    const Colour& colour = description.colour;
-    return {description.format->name.data(), colour.matrix.empty() ? nullptr : colour.matrix.c_str(), colour.range,
-            size};
+    const Colour& colour = kind.colour;
+    return {kind.format->name.data(), colour.matrix.empty() ? nullptr : colour.matrix.c_str(), colour.range, size};
 }
 
 // A sample beyond the source repeats its last one.
@@ -47,14 +46,21 @@ Channel channelAt(const Picture& picture, std::size_t index, ZorSize extent)
 
 } // namespace
 
-Conversion::Conversion(const Description& from, const Description& to, ZorSize size, const ZorPlanOptions& options)
-    : source(from.format), destination(to.format), colour(to.colour)
+Conversion::Conversion(const PictureKind& from, const PictureKind& to, ZorSize size, const ZorPlanOptions& options,
+                       std::nothrow_t)
+    : source(from.format), destination(to.format)
 {
     const ZorPicture ends[2] = {pictureOf(from, size), pictureOf(to, size)};
     plan.reset(zorPlanCreate(&ends[0], &ends[1], &options));
-    if (zorPlanStatus(plan.get()) != zorStatusOk) throw Cause(zorPlanDescribe(plan.get()));
+    if (zorPlanStatus(plan.get()) == zorStatusNoMemory) throw Cause("not enough memory");
     if (ZorColour found; isYuv(*to.format) && zorPictureColour(&ends[1], &found) == zorStatusOk)
         colour = {found.matrix, found.range};
+}
+
+Conversion::Conversion(const PictureKind& from, const PictureKind& to, ZorSize size, const ZorPlanOptions& options)
+    : Conversion(from, to, size, options, std::nothrow)
+{
+    if (!exists()) throw Cause(words());
 }
 
 Picture Conversion::keepingColour(Picture picture) const
@@ -124,14 +130,8 @@ std::optional<Conversion> findRearrangement(const Format& from, const Format& to
     if (from.log2X() != to.log2X() || from.log2Y() != to.log2Y()) return {};
     ZorPlanOptions options = Conversion::usual;
     options.grey = zorGreyRefuse;
-    const Description ends[2] = {{&layerFormat(from), {}}, {&layerFormat(to), {}}};
-    const ZorPicture pictures[2] = {pictureOf(ends[0], size), pictureOf(ends[1], size)};
-    Conversion conversion;
-    conversion.source = ends[0].format;
-    conversion.destination = ends[1].format;
-    conversion.plan.reset(zorPlanCreate(&pictures[0], &pictures[1], &options));
-    if (zorPlanStatus(conversion.plan.get()) == zorStatusNoMemory) throw Cause("not enough memory");
-    if (zorPlanStatus(conversion.plan.get()) != zorStatusOk || !conversion.keepsColours()) return {};
+    Conversion conversion({&layerFormat(from)}, {&layerFormat(to)}, size, options, std::nothrow);
+    if (!conversion.exists() || !conversion.keepsColours()) return {};
     return conversion;
 }
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <memory>
+#include <new>
 #include <optional>
 #include <string>
 
@@ -10,21 +11,16 @@
 
 namespace zorcc::tool {
 
-// What a picture is to be, or what it is taken for.
-struct Description {
-    const Format* format; // of the layer
-    Colour colour;        // empty for formats that have none
-};
-
 // A plan for pictures of one size. One thread at a time may use it.
 class Conversion {
 public:
-    // Throws Cause with the layer's words where there is no way.
-    Conversion(const Description& from, const Description& to, ZorSize size, const ZorPlanOptions& options = usual);
+    // Between formats of the layer. Throws Cause with the layer's words where there is no way.
+    Conversion(const PictureKind& from, const PictureKind& to, ZorSize size, const ZorPlanOptions& options = usual);
 
     // The picture in the other format, with chroma for whole blocks. Comes back untouched where nothing is to be done.
     Picture operator()(Picture picture) const;
 
+    // The same, and the colour that the picture had before.
     Picture keepingColour(Picture picture) const;
 
     // The same `repeat` times, and the shortest time of a run in seconds.
@@ -45,9 +41,12 @@ private:
     friend std::optional<Conversion> findRearrangement(const Format&, const Format&, ZorSize);
 
     struct Release {
-        void operator()(ZorPlan* plan) const { zorPlanFree(plan); }
+        void operator()(ZorPlan* made) const { zorPlanFree(made); }
     };
-    explicit Conversion() = default;
+    Conversion(const PictureKind& from, const PictureKind& to, ZorSize size, const ZorPlanOptions& options,
+               std::nothrow_t);
+
+    bool exists() const { return zorPlanStatus(plan.get()) == zorStatusOk; }
 
     // Whether luma and chroma, or RGB and grey, stay what they are in every function.
     bool keepsColours() const;

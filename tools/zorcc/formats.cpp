@@ -86,7 +86,7 @@ std::vector<std::string> formatNames()
     return names;
 }
 
-NamedFormat formatNamed(const std::string& name)
+PictureKind formatNamed(const std::string& name)
 {
     const Format* const format = findFormat(name);
     const ZorPicture picture = {name.c_str(), nullptr, zorRangeDefault, {1, 1}};
@@ -96,8 +96,8 @@ NamedFormat formatNamed(const std::string& name)
                          " (zorcc list --formats shows all)");
     }
     ZorColour colour;
-    if (zorPictureColour(&picture, &colour) != zorStatusOk || colour.isSaid == 0) return {*format, {}};
-    return {*format, {colour.matrix, colour.range}};
+    if (zorPictureColour(&picture, &colour) != zorStatusOk || colour.isSaid == 0) return {format};
+    return {format, {colour.matrix, colour.range}};
 }
 
 const Format& layerFormat(const Format& format)

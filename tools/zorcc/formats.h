@@ -12,14 +12,9 @@ namespace zorcc::tool {
 // The names of all.
 std::vector<std::string> formatNames();
 
-// A format, and the colour that its name says, too: yuv420p_bt709, yuvj420p.
-struct NamedFormat {
-    const Format& format;
-    Colour colour;
-};
-
-// By a name of the layer or one that the layer takes for it. Throws UsageError for other names.
-NamedFormat formatNamed(const std::string& name);
+// By a name of the layer or one that the layer takes for it, which may say the colour, too: yuv420p_bt709, yuvj420p.
+// Throws UsageError for other names.
+PictureKind formatNamed(const std::string& name);
 
 // The layer's format with the memory of any other, such as a function's.
 const Format& layerFormat(const Format& format);

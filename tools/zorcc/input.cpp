@@ -15,12 +15,9 @@ std::unique_ptr<Reader> openInput(const Input& input, const Format* usual, OddSi
         if (!input.format.empty()) throw UsageError("--format is for headerless files, with --size WxH");
         return openReader(input.path);
     }
-    if (!input.format.empty()) {
-        const NamedFormat named = formatNamed(input.format);
-        return openReader(input.path, Headerless{&named.format, *input.size, oddSizes, named.colour});
-    }
-    if (!usual) throw UsageError(input.path + ": a headerless file needs --format NAME");
-    return openReader(input.path, Headerless{usual, *input.size, oddSizes, {}});
+    if (input.format.empty() && !usual) throw UsageError(input.path + ": a headerless file needs --format NAME");
+    const PictureKind kind = input.format.empty() ? PictureKind{usual} : formatNamed(input.format);
+    return openReader(input.path, Headerless{kind, *input.size, oddSizes});
 }
 
 void printStats(const std::string& lines, const std::vector<std::string>& results)

@@ -44,6 +44,14 @@ struct Colour {
     bool operator==(const Colour&) const = default;
 };
 
+// What pictures hold: a format, and what is known of the colour of luma and chroma.
+struct PictureKind {
+    const Format* format;
+    Colour colour = {};
+
+    bool operator==(const PictureKind&) const = default;
+};
+
 // Of a new picture: whatever its memory held is for those who write all of it.
 enum class Contents { zeros, any };
 
@@ -60,6 +68,7 @@ public:
 
     const Format& format() const { return *pixelFormat; }
     const Colour& colour() const { return colourOfSamples; }
+    PictureKind kind() const { return {pixelFormat, colourOfSamples}; }
     ZorSize size() const { return whole; }
     ZorSize visible() const { return shown; }
     const interface::Image& image() const { return planes; }

@@ -8,8 +8,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     using namespace zorcc::tool;
     if (size < 4) return 0;
     static const std::vector<std::string> names = formatNames();
-    const Format& format = formatNamed(names[data[0] % names.size()]).format;
+    const PictureKind kind = formatNamed(names[data[0] % names.size()]);
     const ZorSize extent = {data[1] + 1, data[2] + 1};
-    const Headerless layout{&format, extent, data[3] % 2 ? OddSizes::cutOff : OddSizes::roundUp, {}};
+    const Headerless layout{kind, extent, data[3] % 2 ? OddSizes::cutOff : OddSizes::roundUp};
     return readBytes(data + 4, size - 4, [&](const std::string& path) { readAll(*openReader(path, layout)); });
 }

@@ -9,8 +9,8 @@ namespace {
 class HeaderlessReader : public FileReader {
 public:
     HeaderlessReader(InputFile input, const Headerless& layout)
-        : FileReader(std::move(input)), format(*layout.format), colour(layout.colour), visible(layout.size),
-          size(layout.oddSizes == OddSizes::roundUp ? wholeBlocks(visible, format) : visible)
+        : FileReader(std::move(input)), kind(layout.kind), visible(layout.size),
+          size(layout.oddSizes == OddSizes::roundUp ? wholeBlocks(visible, *kind.format) : visible)
     {
     }
 
@@ -20,11 +20,10 @@ private:
     std::optional<Pending> read() override
     {
         if (file.atEnd()) return {};
-        return Pending(readPlanes(file, format, size, visible).takenFor(colour));
+        return Pending(readPlanes(file, *kind.format, size, visible).takenFor(kind.colour));
     }
 
-    const Format& format;
-    const Colour colour;
+    const PictureKind kind;
     ZorSize visible, size;
 };
 

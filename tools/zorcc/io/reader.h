@@ -68,10 +68,9 @@ enum class OddSizes {
 };
 
 struct Headerless {
-    const Format* format;
+    PictureKind kind;
     ZorSize size;
     OddSizes oddSizes;
-    Colour colour;
 };
 
 // PNG, JPEG, PNM, PFM or Y4M, whatever the file is named; headerless where `layout` says how. "-" is standard input; a

@@ -19,10 +19,10 @@ const Format& formatOfTag(const std::string& tag)
 {
     // The 4:2:0 kinds differ in where chroma samples lie, which makes no difference to conversions that repeat chroma.
     for (const char* name : {"420", "420jpeg", "420mpeg2", "420paldv"})
-        if (tag == name) return formatNamed("yuv420p").format;
-    if (tag == "422") return formatNamed("yuv422p").format;
-    if (tag == "444") return formatNamed("yuv444p").format;
-    if (tag == "411") return formatNamed("yuv411p").format;
+        if (tag == name) return *formatNamed("yuv420p").format;
+    if (tag == "422") return *formatNamed("yuv422p").format;
+    if (tag == "444") return *formatNamed("yuv444p").format;
+    if (tag == "411") return *formatNamed("yuv411p").format;
     throw Cause("colour space " + quoted(tag) + " is not supported (420, 411, 422 and 444 with 8 bits are)");
 }
 
