@@ -21,7 +21,7 @@ needed = re.findall(r"\(NEEDED\).*\[(.*)\]", dynamic)
 segments = output_of("readelf", "-lW", library)
 stack = re.findall(r"^\s*GNU_STACK(?:\s+0x\w+){5}\s+([RWE ]+?)\s+0x", segments, re.M)
 notes = subprocess.run(("readelf", "-nW", library), capture_output=True, text=True, check=True).stdout
-entry = "zorccGetLibVersion" if "zorccGetLibVersion" in prototypes(header) else "zorMalloc"
+entry = min(prototypes(header))
 code = output_of("objdump", "-d", f"--disassemble={entry}", library)
 content = pathlib.Path(library).read_bytes()
 
