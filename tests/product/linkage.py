@@ -35,7 +35,7 @@ faults = (
     ("symbols are not bound at once", not re.search(r"\(FLAGS(_1)?\).*\b(BIND_NOW|NOW)\b", dynamic)),
     ("may be unmapped while the OpenMP runtime's threads run", not re.search(r"\(FLAGS_1\).*\bNODELETE\b", dynamic)),
     ("shadow stacks are not allowed", not re.search(r"x86 feature:.*SHSTK", notes)),
-    ("indirect calls land without a mark", not re.search(r"<zor\w+(?:@@\w+\.\d)?>:\n[^\n]*endbr64", code)),
+    ("indirect calls land without a mark", not re.search(rf"<{entry}(?:@@\w+\.\d)?>:\n[^\n]*endbr64", code)),
     ("no stack protector", "__stack_chk_fail" not in output_of("nm", "-D", library)),
     ("relocations in code", "(TEXTREL)" in dynamic),
     ("search paths", set(re.findall(r"\((?:RPATH|RUNPATH)\).*\[(.*)\]", dynamic)) - {"$ORIGIN"}),
