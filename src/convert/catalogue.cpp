@@ -136,7 +136,7 @@ bool isSameLayout(const Format& a, const Format& b)
 const Catalogue catalogue;
 
 // The function table is constant, so it is there when this is made.
-Catalogue::Catalogue()
+Catalogue::Catalogue() noexcept
 {
     const auto all = functions();
     for (std::size_t i = 0; i < all.size() && i < maxFunctions; ++i) {

@@ -13,9 +13,9 @@ using interface::sampleBytes;
 
 namespace {
 
-constexpr int leastRows = 4;                     // of thresholds, and of the largest block
-constexpr std::int64_t cachedBytes = 256 * 1024; // of all images of a strip: a part of any second-level cache
-constexpr std::int64_t leastShare = 64 * 1024;   // pixels that are worth a thread
+constexpr int leastRows = 4;                  // of thresholds, and of the largest block
+constexpr std::int64_t cachedBytes = 1 << 18; // of all images of a strip: a part of any second-level cache
+constexpr std::int64_t leastShare = 1 << 16;  // pixels that are worth a thread
 
 int roundUp(int value, int unit) { return (value + unit - 1) / unit * unit; }
 

@@ -247,7 +247,7 @@ bool scalePixels(const Format& from, const Image& source, const Format& to, cons
 char sourceOf(const Format& from, char letter)
 {
     if (hasChannel(from, letter)) return letter;
-    return letter == alpha ? 0 : from.channels[0]; // grey
+    return letter == alpha ? '\0' : from.channels[0]; // grey
 }
 
 } // namespace

@@ -33,11 +33,11 @@ ZorStatus quantiseOrdered(const ReduceDrivers& drivers, const Reduction& reducti
 
 ZorStatus diffuse(DiffusionDriver& driver, int rowsAbove, const Reduction& reduction, float step, int noise)
 {
-    const auto [width, height] = reduction.size;
-    const int channels = reduction.channels;
+    const int width = reduction.size.width, channels = reduction.channels;
     const int64_t errors = ((int64_t{width} + int64_t{2} * errorMargin) * rowsAbove * channels + 15) & -16;
     const auto floatsFor = [&](int workers) {
-        const int64_t levels = workers > 1 ? 2 * bandRows * channels * (levelsStep(width) / int64_t{sizeof(float)}) : 0;
+        const int64_t levels =
+            workers > 1 ? int64_t{2} * bandRows * channels * (levelsStep(width) / int64_t{sizeof(float)}) : 0;
         return errors + workers * workspaceFloats + levels;
     };
     int workers = std::min(threadsHere(), channels);

@@ -41,7 +41,8 @@ template <> inline constexpr float white<float> = 1;
 struct DiffusionMemory {
     float *errors, *workspaces, *levels;
 };
-inline constexpr int errorMargin = 160, workspaceFloats = 136 * 256, bandRows = 32;
+inline constexpr int errorMargin = 160, bandRows = 32;
+inline constexpr ptrdiff_t workspaceFloats = ptrdiff_t{136} * 256;
 
 // Bytes from row to row of a band's plane, whose samples have up to 16 bits. No two rows share a cache line.
 constexpr ptrdiff_t levelsStep(int width) { return (width * ptrdiff_t{2} + 63) & ptrdiff_t{-64}; }

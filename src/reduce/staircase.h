@@ -17,13 +17,13 @@ public:
     bool build(const Formula& formula, const float (&thresholds)[side][side], int samplesPerPixel)
     {
         alignas(64) uint8_t outputs[side][side][256];
-        bool present[256] = {};
         evaluate(formula, thresholds, outputs);
+        Staircase stairs[side][side];
+        bool present[256] = {};
         for (int y = 0; y < side; ++y)
             for (int x = 0; x < side; ++x) {
-                const uint8_t* const output = outputs[y][x];
-                if (falls(output)) return false;
-                for (int i = 0; i < 256; i = firstAbove(output, output[i])) present[output[i]] = true;
+                if (!stairs[y][x].climb(outputs[y][x])) return false;
+                for (int k = 0; k < stairs[y][x].steps; ++k) present[stairs[y][x].value[k]] = true;
             }
         int count = 0;
         for (int v = 0; v < 256; ++v) {
@@ -32,13 +32,26 @@ public:
             values.byte[count++] = static_cast<uint8_t>(v);
         }
         rises = count - 1;
-        for (int y = 0; y < side; ++y)
+        alignas(64) uint8_t column[rowBytes]; // of the matrix, for each sample of a row
+        for (int i = 0, x = 0, c = 0; i < rowBytes; ++i) {
+            column[i] = static_cast<uint8_t>(x);
+            if (++c < samplesPerPixel) continue;
+            c = 0;
+            if (++x == side) x = 0;
+        }
+        for (int y = 0; y < side; ++y) {
+            int stair[side] = {};
             for (int r = 0; r < rises; ++r) {
-                int8_t last[side]; // input whose output is not above value r; less 128
-                for (int x = 0; x < side; ++x)
-                    last[x] = static_cast<int8_t>(firstAbove(outputs[y][x], values.byte[r]) - 129);
-                repeat(last, samplesPerPixel, below[y][r]);
+                Block last = {}; // input whose output is not above value r; less 128
+                for (int x = 0; x < side; ++x) {
+                    stair[x] += stairs[y][x].endsBefore(stair[x], values.byte[r]);
+                    last.byte[x] = static_cast<uint8_t>(stairs[y][x].end[stair[x]] - 129);
+                }
+                const u8v lasts = fillBlock(last);
+                for (int i = 0; i < rowBytes; i += vectorBytes)
+                    store((uint8_t*)below[y][r] + i, shuffle(lasts, load(column + i)));
             }
+        }
         return true;
     }
 
@@ -67,10 +80,33 @@ private:
     static constexpr int maxValues = 16;         // what one shuffle can look up
     static constexpr int period = 48;            // samples after which all layouts repeat their thresholds
     static constexpr int step = 3 * vectorBytes; // a multiple of it
+    static constexpr int rowBytes = (period + step + vectorBytes - 1) / vectorBytes * vectorBytes;
 
     Block values = {}; // the outputs, ascending
     int rises;
-    alignas(64) int8_t below[side][maxValues - 1][period + step];
+    alignas(64) int8_t below[side][maxValues - 1][rowBytes];
+
+    // The outputs for one threshold, ascending, and the first input beyond each.
+    struct Staircase {
+        int steps = 0;
+        uint8_t value[maxValues];
+        short end[maxValues];
+
+        // False where there are too many, or an output falls.
+        bool climb(const uint8_t* output)
+        {
+            if (falls(output)) return false;
+            for (int i = 0; i < 256; i = end[steps - 1]) {
+                if (steps == maxValues) return false;
+                value[steps] = output[i];
+                end[steps++] = static_cast<short>(firstAbove(output, output[i]));
+            }
+            return true;
+        }
+
+        // Whether the step after this one is not above `limit`.
+        bool endsBefore(int k, uint8_t limit) const { return k + 1 < steps && value[k + 1] <= limit; }
+    };
 
     // All thresholds for one vector of inputs after the other: most of the formula does not depend on them.
     template <class Formula>
@@ -83,21 +119,16 @@ private:
                 for (int x = 0; x < side; ++x) storeSamples(to[y][x] + i, formula(input, fillFloat(thresholds[y][x])));
     }
 
-    // Each of `last` as often as a pixel has samples, all of that again and again.
-    static void repeat(const int8_t (&last)[side], int samplesPerPixel, int8_t (&row)[period + step])
-    {
-        int known = 0;
-        for (int x = 0; x < side; ++x)
-            for (int c = 0; c < samplesPerPixel; ++c) row[known++] = last[x];
-        for (; known < period + step; known *= 2)
-            __builtin_memcpy(row + known, row, known < period + step - known ? known : period + step - known);
-    }
-
     static bool falls(const uint8_t* output)
     {
-        bool anywhere = false;
-        for (int i = 1; i < 256; ++i) anywhere |= output[i] < output[i - 1];
-        return anywhere;
+        u8v fall = {};
+        for (int i = 1; i < 256; i += vectorBytes) {
+            const int first = i + vectorBytes > 256 ? 256 - vectorBytes : i;
+            fall |= subSaturate(load(output + first - 1), load(output + first));
+        }
+        uint64_t any = 0;
+        for (int i = 0; i < vectorBytes / 8; ++i) any |= ((u64v)fall)[i];
+        return any != 0;
     }
 
     // The first input whose output is above `value`; 256 if there is none.

@@ -54,7 +54,7 @@ TEST(AllocationFailures, GiveTheirStatusAndNothingIsWritten)
                 ++failures;
             }
         }
-    EXPECT_GE(failures, 32 * (3 * 6 + 4)); // of bit-depth reduction alone
+    EXPECT_GE(failures, 32 * (3 * 5 + 4)); // of bit-depth reduction alone
     RecordProperty("failures", failures);
 }
 

@@ -21,7 +21,7 @@ needed = re.findall(r"\(NEEDED\).*\[(.*)\]", dynamic)
 segments = output_of("readelf", "-lW", library)
 stack = re.findall(r"^\s*GNU_STACK(?:\s+0x\w+){5}\s+([RWE ]+?)\s+0x", segments, re.M)
 notes = subprocess.run(("readelf", "-nW", library), capture_output=True, text=True, check=True).stdout
-entry = "zorccGetLibVersion" if "zorccGetLibVersion" in prototypes(header) else "zorMalloc"
+entry = min(prototypes(header))
 code = output_of("objdump", "-d", f"--disassemble={entry}", library)
 content = pathlib.Path(library).read_bytes()
 
@@ -35,7 +35,7 @@ faults = (
     ("symbols are not bound at once", not re.search(r"\(FLAGS(_1)?\).*\b(BIND_NOW|NOW)\b", dynamic)),
     ("may be unmapped while the OpenMP runtime's threads run", not re.search(r"\(FLAGS_1\).*\bNODELETE\b", dynamic)),
     ("shadow stacks are not allowed", not re.search(r"x86 feature:.*SHSTK", notes)),
-    ("indirect calls land without a mark", not re.search(r"<zor\w+(?:@@\w+\.\d)?>:\n[^\n]*endbr64", code)),
+    ("indirect calls land without a mark", not re.search(rf"<{entry}(?:@@\w+\.\d)?>:\n[^\n]*endbr64", code)),
     ("no stack protector", "__stack_chk_fail" not in output_of("nm", "-D", library)),
     ("relocations in code", "(TEXTREL)" in dynamic),
     ("search paths", set(re.findall(r"\((?:RPATH|RUNPATH)\).*\[(.*)\]", dynamic)) - {"$ORIGIN"}),
