@@ -95,6 +95,8 @@ FAILING = {
     f"good.y4m: the file holds yuv420p, but {C3} takes rgb24": f"call {C3} good.y4m out.y4m",
     f"good.png: the file holds rgb24, but {P3} takes yuv420p: give a Y4M": f"call {P3} good.png out.png",
     "444.y4m: the file holds yuv444p": f"call {P3} 444.y4m out.png",
+    f"good.yuv: the file is by another matrix than {P3} takes":
+        f"call {P3} --size 64x48 --format yuv420p_bt709 good.yuv out.png",
     "nowhere/u.pgm: ": f"call {C3} good.png y.pgm nowhere/u.pgm v.pgm",
     "good.png, other.png: sizes differ: 64x48 and 64x47": "compare good.png other.png",
     "good.png, good.y4m: one holds": "compare good.png good.y4m",

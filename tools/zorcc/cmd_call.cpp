@@ -88,6 +88,9 @@ void call(const CallOptions& options)
             const ZorSize size = picture.visible();
             ZorStatus status = zorStatusOk;
             double seconds = 0;
+            const Colour colour = picture.colour(), wanted = colourOf(source.model);
+            if (!colour.matrix.empty() && !wanted.matrix.empty() && !(colour == wanted))
+                throw Cause("the file is by another matrix than " + options.function + " takes");
             const std::optional<Picture> given = asSource(std::move(picture), source);
             if (!given)
                 throw Cause(has + ", but " + options.function + " takes " + std::string(source.name) +

@@ -15,7 +15,7 @@ using interface::Layout;
 
 namespace {
 
-// A format with the texts that its names refer to.
+// A format, and the layer's words for it, which it refers to.
 struct Entry {
     ZorLayout layout;
     Format format;
@@ -35,15 +35,13 @@ void describe(Entry& entry)
     Format& to = entry.format;
     to = {from.name, channels, {}, static_cast<Sample>(from.sample), layoutOf(from, channels), from.planes, {}};
     to.fieldBits = 100 * from.fieldBits[0] + 10 * from.fieldBits[1] + from.fieldBits[2];
-    to.plane[0] = {to.layout == Layout::packed422    ? 2
-                   : to.layout == Layout::packedBits ? 1
-                   : from.planes > 1                 ? 1
-                                                     : static_cast<int>(channels.size())};
-    for (int p = 1; p < from.planes; ++p) to.plane[p] = p < 3 ? interface::PlaneShape {
-            to.layout == Layout::semiPlanar ? 2 : 1, from.log2ChromaX, from.log2ChromaY
-        } : interface::PlaneShape {
-            1
-        };
+    const bool isSplit = from.planes > 1, isPairs = to.layout == Layout::packed422;
+    to.plane[0].samples = isSplit || to.fieldBits != 0 ? 1 : isPairs ? 2 : static_cast<int>(channels.size());
+    for (int p = 1; p < from.planes; ++p) to.plane[p].samples = to.layout == Layout::semiPlanar ? 2 : 1;
+    for (int p = 1; p < std::min(from.planes, 3); ++p) {
+        to.plane[p].log2X = from.log2ChromaX;
+        to.plane[p].log2Y = from.log2ChromaY;
+    }
 }
 
 // Null for a name that the layer does not know.

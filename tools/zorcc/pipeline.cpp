@@ -69,6 +69,7 @@ private:
         Picture picture = std::move(pending).get();
         const Format& before = picture.format();
         picture = naming(reader.path(), [&] { return make(std::move(picture)); });
+        // A function says nothing of what it drops, and a plan says it in the same words, which are not repeated.
         if (hasAlpha(before) && !hasAlpha(picture.format())) warn(reader.path(), "alpha is dropped");
         if (writer.mustBeInOrder()) {
             std::unique_lock lock(turnMutex);
