@@ -106,6 +106,8 @@ class Stats(unittest.TestCase):
                                ("convert c.png c.y4m --stats", "zoriRGBToYCbCr420_8u_C3P3R")):
             self.assertRegex(zorcc(line, "--repeat", 3).splitlines(keepends=True)[-1],
                              rf"^{function}: 1 picture of 32x20, [0-9.]+ megapixels/s \(best of 3\)\n$")
+        self.assertEqual(zorcc("convert c.y4m d.y4m --stats").splitlines()[-1],
+                         "samples stay where they are: 1 picture of 32x20")
 
 
 class Reduce(unittest.TestCase):
@@ -316,6 +318,9 @@ class Convert(unittest.TestCase):
                 # Of a flat picture cutting down makes one word, dithering several.
                 lines = zorcc(f"convert flat.ppm dithered.raw --to {target} --dither --stats").splitlines()
                 self.assertIn(f"To{target.upper()}Dither_8u16u_P3C3R", lines[-1])
+                zorcc("convert flat.ppm flat709.y4m --matrix bt709")  # of which no function dithers
+                lines = zorcc(f"convert flat709.y4m 709.raw --to {target} --dither --stats --matrix bt709").splitlines()
+                self.assertIn("Dither", lines[-1])
                 zorcc("convert flat.ppm cut.raw --to", target)
                 words = lambda path: set(struct.unpack("<64H", read(path)))
                 self.assertEqual((len(words("cut.raw")), len(words("dithered.raw")) > 1), (1, True))

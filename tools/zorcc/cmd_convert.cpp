@@ -90,8 +90,8 @@ public:
         }
         if (options.dither) {
             if (target.format->fieldBits == 0) throw Cause("--dither is for pixels of 16 bits: rgb565, bgr555, ...");
-            choice.fields = zorFieldsDither; // by functions from luma and chroma alone
-            if (isRgb(*from.format)) {
+            choice.fields = zorFieldsDither; // by functions from luma and chroma of some matrices
+            if (!leads(from, target, choice)) {
                 const PictureKind between = {formatNamed("yuv444p").format, {"bt601"}};
                 steps.push_back({{from, between, size}});
                 from = between;
@@ -152,6 +152,16 @@ private:
         Conversion conversion;
         const Function* then = nullptr;
     };
+
+    bool leads(const PictureKind& from, const PictureKind& to, const ZorPlanOptions& choice) const
+    {
+        try {
+            const Conversion conversion(from, to, size, choice);
+            return true;
+        } catch (const Cause&) {
+            return false;
+        }
+    }
 
     PictureKind kind, target = {};
     ZorSize size;

@@ -109,7 +109,11 @@ std::string Conversion::functions() const
     return !names.empty() ? names : isIdentity() ? "samples stay where they are" : "samples change places";
 }
 
-std::string Conversion::words() const { return zorPlanDescribe(plan.get()); }
+std::string Conversion::words() const
+{
+    const std::string lines = zorPlanDescribe(plan.get());
+    return exists() && isIdentity() ? lines.substr(0, lines.find('\n') + 1) + functions() : lines;
+}
 
 std::string Conversion::losses() const { return zorPlanLosses(plan.get()); }
 

@@ -30,9 +30,11 @@ std::string statusText(ZorStatus status)
 
 std::string Stats::line() const
 {
-    char text[160];
-    std::snprintf(text, sizeof text, ": %d picture%s of %s, %.1f megapixels/s (best of %d)\n", pictures,
-                  pictures == 1 ? "" : "s", sizeName(size).c_str(), megapixels / std::max(time, 1e-9), repeat);
+    char text[160], speed[80] = "";
+    if (time > 0) // otherwise nothing was to be done
+        std::snprintf(speed, sizeof speed, ", %.1f megapixels/s (best of %d)", megapixels / time, repeat);
+    std::snprintf(text, sizeof text, ": %d picture%s of %s%s\n", pictures, pictures == 1 ? "" : "s",
+                  sizeName(size).c_str(), speed);
     return names + text;
 }
 
