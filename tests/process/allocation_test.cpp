@@ -14,8 +14,8 @@
 
 namespace {
 
-constexpr int never = -1;
-std::atomic<int> threadsStarted = 0, untilNoThread = never;
+[[maybe_unused]] constexpr int never = -1;
+[[maybe_unused]] std::atomic<int> threadsStarted = 0, untilNoThread = never;
 
 } // namespace
 

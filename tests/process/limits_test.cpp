@@ -25,7 +25,7 @@ rlim_t mappedBytes()
     return static_cast<rlim_t>(pages) * static_cast<rlim_t>(sysconf(_SC_PAGESIZE));
 }
 
-void limitAddressSpace(rlim_t more)
+[[maybe_unused]] void limitAddressSpace(rlim_t more)
 {
     const rlim_t bytes = mappedBytes() + more;
     const rlimit limit{bytes, bytes};
