@@ -53,7 +53,7 @@ class Catalogue {
 public:
     static constexpr int maxFormats = 192;
 
-    Catalogue() noexcept;
+    Catalogue();
 
     int count() const { return formatCount; }
     const Format& operator[](int index) const { return formats[index]; }
