@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-namespace zorcc::convert {
+namespace zorcc::conversion {
 
 namespace {
 
@@ -231,4 +231,4 @@ int rowsOf(const Format& format, int p, int height)
     return static_cast<int>((height + (std::int64_t{1} << log2) - 1) >> log2);
 }
 
-} // namespace zorcc::convert
+} // namespace zorcc::conversion

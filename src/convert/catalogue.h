@@ -10,7 +10,7 @@
 #include "convert/text.h"
 #include "interface/functions.h"
 
-namespace zorcc::convert {
+namespace zorcc::conversion {
 
 using interface::Format;
 using interface::Function;
@@ -82,4 +82,4 @@ private:
 
 extern const Catalogue catalogue;
 
-} // namespace zorcc::convert
+} // namespace zorcc::conversion

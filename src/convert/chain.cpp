@@ -6,7 +6,7 @@
 
 #include "convert/team.h"
 
-namespace zorcc::convert {
+namespace zorcc::conversion {
 
 using interface::Call;
 using interface::sampleBytes;
@@ -232,4 +232,4 @@ ZorStatus Chain::run(const CallersImages& images, std::uint8_t* memory) const
     return forEachStrip(team, strips(), !isCut() && plannedThreads > 1, strip);
 }
 
-} // namespace zorcc::convert
+} // namespace zorcc::conversion

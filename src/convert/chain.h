@@ -5,7 +5,7 @@
 #include "convert/moves.h"
 #include "convert/route.h"
 
-namespace zorcc::convert {
+namespace zorcc::conversion {
 
 // What a chain does about alpha after its last step.
 enum class AlphaStep {
@@ -64,4 +64,4 @@ struct Chain {
     ZorStatus run(const CallersImages& images, std::uint8_t* memory) const;
 };
 
-} // namespace zorcc::convert
+} // namespace zorcc::conversion

@@ -3,7 +3,7 @@
 
 #include "convert/text.h"
 
-namespace zorcc::convert {
+namespace zorcc::conversion {
 
 namespace {
 
@@ -50,4 +50,4 @@ ZorRange usualRange(const Matrix& matrix)
     return matrix.limited == Model::anyYcc && matrix.full != Model::anyYcc ? zorRangeFull : zorRangeLimited;
 }
 
-} // namespace zorcc::convert
+} // namespace zorcc::conversion

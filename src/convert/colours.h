@@ -8,7 +8,7 @@
 #include "interface/formats.h"
 #include "zorconvert.h"
 
-namespace zorcc::convert {
+namespace zorcc::conversion {
 
 using interface::Model;
 
@@ -52,4 +52,4 @@ const Matrix& usualMatrix(int height);
 // That of samples which do not say it.
 ZorRange usualRange(const Matrix& matrix);
 
-} // namespace zorcc::convert
+} // namespace zorcc::conversion

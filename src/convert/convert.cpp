@@ -10,7 +10,7 @@
 #include "convert/moves.h"
 #include "zorcore.h"
 
-using namespace zorcc::convert;
+using namespace zorcc::conversion;
 using zorcc::interface::Alpha;
 
 struct ZorPlan {

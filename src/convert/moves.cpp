@@ -8,7 +8,7 @@
 
 #include "convert/moves_rows.h"
 
-namespace zorcc::convert {
+namespace zorcc::conversion {
 
 using interface::sampleBytes;
 
@@ -168,6 +168,20 @@ const MoveRows::OfSample* rowsFor(Sample sample)
     return sample == Sample::u8 ? &rows.bytes : sample == Sample::u16 ? &rows.words : nullptr;
 }
 
+// The planes of some channels, as drivers take them.
+zorcc::Image planesOf(const Format& format, const Image& image, std::string_view letters)
+{
+    zorcc::Image planes = {};
+    for (char letter : letters) {
+        const int p = placeOf(format, letter).plane;
+        planes.plane[planes.planes] = rowAt(image, p, 0);
+        planes.step[planes.planes++] = image.step[p];
+    }
+    return planes;
+}
+
+zorcc::Image onePlane(const Image& image) { return {{rowAt(image, 0, 0)}, {image.step[0]}, 1, true}; }
+
 // Pixels of three or four samples in the same or in reverse order.
 bool movePixels(const Format& from, const Image& source, const Format& to, const Image& destination, ZorSize size)
 {
@@ -178,9 +192,8 @@ bool movePixels(const Format& from, const Image& source, const Format& to, const
     if (a.size() < 3 || b.size() < 3 || (a.size() == 4 && a[3] != alpha) || (b.size() == 4 && b[3] != alpha) ||
         a[1] != b[1])
         return false;
-    const bool reversed = a[0] != b[0];
-    PixelMove* const move = rows->pixels[a.size() == 4][b.size() == 4][reversed];
-    for (int y = 0; y < size.height; ++y) move(rowAt(source, 0, y), rowAt(destination, 0, y), size.width);
+    const MoveRows::OfPixels& pixels = a[0] == b[0] ? rows->pixels : rows->reversed;
+    pixels.of[a.size() == 4][b.size() == 4](onePlane(source), onePlane(destination), size);
     return true;
 }
 
@@ -195,38 +208,43 @@ std::string_view sharedPlane(const Format& f)
     return letters;
 }
 
-// One plane whose channels all have planes of their own on the other side.
-template <bool merges>
-bool divide(const Format& shared, const Image& sharedImage, const Format& planes, const Image& planarImage,
+// Whether what shares a plane on one side has planes of its own on the other.
+bool isDivided(const Format& shared, const Format& planes)
+{
+    const std::string_view letters = sharedPlane(shared);
+    const bool pairs = letters.size() == 2;
+    if (letters.empty() || (pairs ? shared.sample != Sample::u8 : !rowsFor(shared.sample)) ||
+        shared.sample != planes.sample || planes.layout != Layout::planar)
+        return false;
+    for (char letter : letters)
+        if (!hasChannel(planes, letter)) return false;
+    return true;
+}
+
+// Moves those channels, either way.
+void divide(bool merges, const Format& shared, const Image& sharedImage, const Format& planes, const Image& planarImage,
             ZorSize size)
 {
     const std::string_view letters = sharedPlane(shared);
-    const MoveRows::OfSample* const rows = rowsFor(shared.sample);
-    if (!rows || letters.empty() || shared.sample != planes.sample || planes.layout != Layout::planar) return false;
-    for (char letter : letters)
-        if (!hasChannel(planes, letter)) return false;
-    const int plane = placeOf(shared, letters[0]).plane, count = static_cast<int>(letters.size());
-    const ZorSize extent = extentOf(shared, letters[0], size);
-    for (int y = 0; y < extent.height; ++y) {
-        void* of[interface::maxPlanes];
-        for (int c = 0; c < count; ++c) of[c] = rowAt(planarImage, placeOf(planes, letters[c]).plane, y);
-        if constexpr (merges)
-            rows->merge[count - 2](of, rowAt(sharedImage, plane, y), extent.width);
-        else
-            rows->split[count - 2](rowAt(sharedImage, plane, y), of, extent.width);
-    }
-    return true;
+    const MoveRows& rows = moveRows();
+    const bool four = letters.size() == 4;
+    Driver* const move = letters.size() == 2 ? (merges ? rows.mergePairs : rows.splitPairs)
+                         : merges            ? rowsFor(shared.sample)->merge[four]
+                                             : rowsFor(shared.sample)->split[four];
+    const zorcc::Image one = planesOf(shared, sharedImage, {letters.data(), 1}),
+                       many = planesOf(planes, planarImage, letters);
+    move(merges ? many : one, merges ? one : many, extentOf(shared, letters[0], size));
 }
 
 // Between packed bits and the bytes of their channels.
 bool moveBits(const Format& from, const Image& source, const Format& to, const Image& destination, ZorSize size)
 {
-    if (!isPackedBits(from) && !isPackedBits(to)) return false;
-    const int digits = isPackedBits(from) ? from.fieldBits : to.fieldBits;
-    const int bits[3] = {digits / 100, digits / 10 % 10, digits % 10};
-    const auto convert = isPackedBits(from) ? moveRows().unpack : moveRows().pack;
-    for (int y = 0; y < size.height; ++y) convert(rowAt(source, 0, y), rowAt(destination, 0, y), size.width, bits);
-    return true;
+    for (const MoveRows::OfBits& bits : moveRows().bits) {
+        if (bits.digits != from.fieldBits && bits.digits != to.fieldBits) continue;
+        (isPackedBits(from) ? bits.unpack : bits.pack)(onePlane(source), onePlane(destination), size);
+        return true;
+    }
+    return false;
 }
 
 // All channels of a pixel, where they are in the same order.
@@ -308,11 +326,16 @@ void move(const Format& from, const Image& source, const Format& to, const Image
     if (moveBits(from, source, to, destination, size) || movePixels(from, source, to, destination, size) ||
         scalePixels(from, source, to, destination, size, truncate))
         return;
-    const std::string_view inOnePlane = divide<false>(from, source, to, destination, size)  ? sharedPlane(from)
-                                        : divide<true>(to, destination, from, source, size) ? sharedPlane(to)
-                                                                                            : std::string_view{};
+    std::string_view divided;
+    if (isDivided(from, to)) {
+        divide(false, from, source, to, destination, size);
+        divided = sharedPlane(from);
+    } else if (isDivided(to, from)) {
+        divide(true, to, destination, from, source, size);
+        divided = sharedPlane(to);
+    }
     for (char letter : to.channels) {
-        if (inOnePlane.find(letter) != std::string_view::npos) continue;
+        if (divided.find(letter) != std::string_view::npos) continue;
         const Samples samples = samplesOf(to, destination, letter);
         const ZorSize extent = extentOf(to, letter, size);
         if (const char other = sourceOf(from, letter); !other)
@@ -364,4 +387,4 @@ void copyRows(const void* from, std::ptrdiff_t fromStep, void* to, std::ptrdiff_
                     bytes);
 }
 
-} // namespace zorcc::convert
+} // namespace zorcc::conversion

@@ -6,7 +6,7 @@
 
 #include "convert/catalogue.h"
 
-namespace zorcc::convert {
+namespace zorcc::conversion {
 
 using interface::Image;
 
@@ -39,4 +39,4 @@ void repeatEdges(const Format& format, const Image& image, ZorSize filled, ZorSi
 // Rows of a plane of bytes.
 void copyRows(const void* from, std::ptrdiff_t fromStep, void* to, std::ptrdiff_t toStep, std::size_t bytes, int rows);
 
-} // namespace zorcc::convert
+} // namespace zorcc::conversion

@@ -1,34 +1,33 @@
 // SPDX-License-Identifier: MIT
-// Rows of samples that change places: loops that the compiler makes vectors of.
+// Drivers of samples that change places.
 #pragma once
 
-#include <cstddef>
-#include <cstdint>
-
+#include "frame/convert.h"
 #include "simd/tier.h"
 
-namespace zorcc::convert {
-
-// Pixels of three or four samples, of which the first three keep or reverse their order. A fourth one that the source
-// does not have is the greatest.
-using PixelMove = void(const void* from, void* to, int pixels);
-
-// Samples between a row where they are `count` to a pixel and as many rows of one each.
-using Split = void(const void* from, void* const to[], int pixels);
-using Merge = void(const void* const from[], void* to, int pixels);
+namespace zorcc::conversion {
 
 struct MoveRows {
+    // Three channels and maybe alpha, which is opaque where it is new.
+    struct OfPixels {
+        Driver* of[2][2]; // [source has alpha][destination has alpha]
+    };
     struct OfSample {
-        PixelMove* pixels[2][2][2]; // [source has four][destination has four][reversed]
-        Split* split[3];            // into 2, 3, 4
-        Merge* merge[3];
+        OfPixels pixels, reversed; // channels in the same order, in reverse
+        // Interleaved channels, and a plane for each: [all four].
+        Driver *split[2], *merge[2];
     };
     OfSample bytes, words;
-    // Between words of packed bits and bytes of three channels, which have the given bits, the first lowest.
-    void (*unpack)(const void* from, void* to, int pixels, const int bits[3]);
-    void (*pack)(const void* from, void* to, int pixels, const int bits[3]);
+    Driver *splitPairs, *mergePairs; // two channels of bytes
+
+    // Packed pixels, and bytes whose top bits are their fields, with the same channel first.
+    struct OfBits {
+        int digits; // bits of the fields, the lowest first: 565
+        Driver *unpack, *pack;
+    };
+    OfBits bits[3];
 };
 
-} // namespace zorcc::convert
+} // namespace zorcc::conversion
 
-ZORCC_TABLE_OF_EACH_TIER(convert::MoveRows, moveRows)
+ZORCC_TABLE_OF_EACH_TIER(conversion::MoveRows, moveRows)

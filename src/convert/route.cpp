@@ -6,7 +6,7 @@
 
 #include "convert/moves.h"
 
-namespace zorcc::convert {
+namespace zorcc::conversion {
 
 using interface::functions;
 using interface::sampleBytes;
@@ -236,4 +236,4 @@ bool reducesDepth(const Function& f)
     return f.takesLevels && f.destination->sample == Sample::u8 && f.source->sample != Sample::u8;
 }
 
-} // namespace zorcc::convert
+} // namespace zorcc::conversion

@@ -4,7 +4,7 @@
 
 #include "convert/catalogue.h"
 
-namespace zorcc::convert {
+namespace zorcc::conversion {
 
 // A picture without its size. The colour counts for formats with luma and chroma alone.
 struct Picture {
@@ -46,4 +46,4 @@ bool mixesRows(const Function& function);
 // Whether it brings samples of more than 8 bits to 8 bits.
 bool reducesDepth(const Function& function);
 
-} // namespace zorcc::convert
+} // namespace zorcc::conversion

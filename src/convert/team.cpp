@@ -4,7 +4,7 @@
 #include <omp.h>
 #include <pthread.h>
 
-namespace zorcc::convert {
+namespace zorcc::conversion {
 namespace {
 
 // A child of a fork has the memory of the OpenMP runtime, but not its threads: it works alone.
@@ -37,4 +37,4 @@ ZorStatus forEachStrip(int threads, int count, bool mayFork, FunctionRef<ZorStat
     return result;
 }
 
-} // namespace zorcc::convert
+} // namespace zorcc::conversion

@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-namespace zorcc::convert {
+namespace zorcc::conversion {
 
 int distance(std::string_view a, std::string_view b)
 {
@@ -34,4 +34,4 @@ Name lowerCase(std::string_view text)
     return name;
 }
 
-} // namespace zorcc::convert
+} // namespace zorcc::conversion

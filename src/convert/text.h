@@ -5,7 +5,7 @@
 #include <charconv>
 #include <string_view>
 
-namespace zorcc::convert {
+namespace zorcc::conversion {
 
 template <int capacity> class TextOf {
 public:
@@ -41,4 +41,4 @@ int distance(std::string_view a, std::string_view b);
 
 Name lowerCase(std::string_view text);
 
-} // namespace zorcc::convert
+} // namespace zorcc::conversion
