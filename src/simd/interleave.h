@@ -43,6 +43,15 @@ ZORCC_INLINE void fromBlocks(const u8v (&v)[2], u8v (&memory)[2])
 #endif
 }
 
+#if defined(ZORCC_TIER_avx2)
+// g++ stores the upper half without a shuffle by this intrinsic alone.
+ZORCC_INLINE void storeBlocksAt(uint8_t* low, uint8_t* high, Register v)
+{
+    _mm_storeu_si128((__m128i*)low, _mm256_castsi256_si128(v));
+    _mm_storeu_si128((__m128i*)high, _mm256_extracti128_si256(v, 1));
+}
+#endif
+
 #if !defined(ZORCC_TIER_avx512) // which loads and stores whole vectors and permutes them
 // A block at p, the next at p + `apart`.
 template <int apart> ZORCC_INLINE u8v loadBlocksApart(const uint8_t* p)
@@ -70,7 +79,7 @@ template <int count> ZORCC_INLINE u8v loadBlocks(const uint8_t* p, int k)
 template <int count> ZORCC_INLINE void storeBlocks(uint8_t* p, int k, u8v v)
 {
     #if defined(ZORCC_TIER_avx2)
-    _mm256_storeu2_m128i((__m128i*)(p + 16 * (count + k)), (__m128i*)(p + 16 * k), reg(v));
+    storeBlocksAt(p + 16 * k, p + 16 * (count + k), reg(v));
     #else
     store(p + 16 * k, v);
     #endif
@@ -154,7 +163,7 @@ ZORCC_INLINE void storeHalves(uint8_t* low, uint8_t* high, u8v v)
     _mm256_storeu_si256((__m256i*)low, _mm512_castsi512_si256(both));
     _mm256_storeu_si256((__m256i*)high, _mm512_extracti64x4_epi64(both, 1));
 #elif defined(ZORCC_TIER_avx2)
-    _mm256_storeu2_m128i((__m128i*)high, (__m128i*)low, both);
+    storeBlocksAt(low, high, both);
 #else
     _mm_storel_epi64((__m128i*)low, both);
     _mm_storel_epi64((__m128i*)high, _mm_unpackhi_epi64(both, both));
