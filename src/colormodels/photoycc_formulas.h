@@ -131,13 +131,13 @@ private:
     ZORCC_INLINE WideRgb channels(u8v y2, u8v y1, u8v c12)
     {
         using namespace photoycc;
-        const s16v y = firstOfPairs(y2), c1 = firstOfPairs(c12), c2 = secondOfPairs(c12), none = {};
+        const s16v y = firstOfPairs(y2), none = {};
         const s16v p = weighPair<toBlue / 8, 0, blueConstant / 8>(c12),
                    q = weighPair<0, toRed / 8, redConstant / 8>(c12);
         const s16v greenLessLuma =
             packSigned(green(zipLow(p, q), zipLow(y, none)), green(zipHigh(p, q), zipHigh(y, none)));
-        return {{y + fromOneChroma<lumaRest, toRed, redConstant, 15>(y2, c2), y + greenLessLuma,
-                 y + fromOneChroma<lumaRest, toBlue, blueConstant, 15>(y1, c1)}};
+        return {{fromOneChroma<lumaRest, toRed, redConstant, 15>(y2), y + greenLessLuma,
+                 fromOneChroma<lumaRest, toBlue, blueConstant, 15>(y1)}};
     }
 
     ZORCC_INLINE s32v green(s16v pq, s16v y)

@@ -45,6 +45,10 @@ template <class Formula, class Sample = uint8_t> struct WithAlpha {
     Formula formula{};
 
     template <class Source>
+    requires WorksInTwoSteps<Formula, Source>
+    [[gnu::always_inline]] auto prepare(const Source& source) const { return formula.prepare(source); }
+
+    template <class Source>
     [[gnu::always_inline]] auto operator()(const Source& source) const requires Takes<Formula, Source>
     {
         return withAlpha(formula(source), alpha);

@@ -52,7 +52,7 @@ template <PackedOrder order> struct InWords<Packed422<order>> : Packed422<order>
 template <class From, class By>
 concept InWordsFor = requires(const By& formula, const InWords<From>& source)
 {
-    formula(source.load(0));
+    formula(prepared(formula, source.load(0)));
 };
 
 template <class From, class By, class To>

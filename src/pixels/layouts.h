@@ -237,7 +237,7 @@ template <PackedOrder order> struct Packed422 : Lines<Line{{4, 1}}> {
     [[gnu::always_inline]] LumaAndChroma lumaAndChroma(int x) const
     {
         u8v v[2];
-        toBlocks({zorcc::ZORCC_TIER::load(at(0, x)), zorcc::ZORCC_TIER::load(at(0, x) + vectorBytes)}, v);
+        loadBlocks(at(0, x), v);
         const u8v even = packUnsigned(firstOfPairs(v[0]), firstOfPairs(v[1]));
         const u8v odd = packUnsigned(secondOfPairs(v[0]), secondOfPairs(v[1]));
         if constexpr (luma == 0) return {even, odd};

@@ -112,6 +112,10 @@ template <FieldBits bits, class Formula> struct Dithered {
     auto single() const { return Dithered<bits, decltype(singleOf(formula))>{singleOf(formula), x, y}; }
 
     template <class Source>
+    requires WorksInTwoSteps<Formula, Source>
+    [[gnu::always_inline]] auto prepare(const Source& source) const { return formula.prepare(source); }
+
+    template <class Source>
     [[gnu::always_inline]] auto operator()(const Source& source) const requires Takes<Formula, Source>
     {
         return fieldsOf(inBytes(formula(source)));

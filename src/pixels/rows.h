@@ -103,8 +103,9 @@ concept Takes = requires(const Formula& formula, const Loaded& pixels)
     formula(pixels);
 };
 
-// Some formulas work in two steps, `prepare` (what comes before their divisions) and the call. The walk prepares the
-// next vector before it finishes the current one: work for while divisions last, 10 to 25 % here. Others lose by it.
+// Some formulas work in two steps, `prepare` (what comes before their divisions, or what pixels share) and the call.
+// The walk prepares the next vector before it finishes the current one: work for while divisions last, or while the
+// results of a chain of products are due, 10 to 25 % here. Others lose by it.
 template <class Formula, class Loaded>
 concept WorksInTwoSteps = requires(const Formula& formula, const Loaded& pixels)
 {

@@ -251,22 +251,24 @@ template <class V> ZORCC_INLINE V selectByOrder(V x, V y, V a, V b, V c)
 }
 
 // v, and 1 more where a > b.
-ZORCC_INLINE s16v addOneWhere(s16v v, u16v a, u16v b)
+ZORCC_INLINE s16v addOneWhere(s16v v, s16v a, s16v b)
 {
 #if defined(ZORCC_TIER_avx512)
-    const __mmask32 greater = _mm512_cmpgt_epu16_mask(reg(a), reg(b));
+    const __mmask32 greater = _mm512_cmpgt_epi16_mask(reg(a), reg(b));
     return (s16v)_mm512_mask_sub_epi16(reg(v), greater, reg(v), _mm512_set1_epi16(-1));
 #else
-    return v - (s16v)((s16v)(a ^ 0x8000) > (s16v)(b ^ 0x8000)); // true is -1
+    return v - (s16v)(a > b); // true is -1
 #endif
 }
+
+ZORCC_INLINE s16v addOneWhere(s16v v, u16v a, u16v b) { return addOneWhere(v, (s16v)(a ^ 0x8000), (s16v)(b ^ 0x8000)); }
 
 ZORCC_INLINE u8v addOneWhere(u8v v, s8v a, s8v b)
 {
 #if defined(ZORCC_TIER_avx512)
     return (u8v)_mm512_mask_sub_epi8(reg(v), _mm512_cmpgt_epi8_mask(reg(a), reg(b)), reg(v), _mm512_set1_epi8(-1));
 #else
-    return v - (u8v)(a > b);                                    // true is -1
+    return v - (u8v)(a > b);  // true is -1
 #endif
 }
 

@@ -55,13 +55,13 @@ private:
 
 // ---- chroma of every pixel ------------------------------------------------------------------------------------------
 
-// R or B less the whole of luma, by weights in units of 1 / (1 << bits): `c` is the chroma channel that drives it, `yc`
-// luma and chroma zipped, `yRest` what luma's weight has beside its whole. Whole units are counted from 128, which
-// keeps the rest small.
-template <int yRest, int weight, int constant, int bits = 16> ZORCC_INLINE s16v fromOneChroma(u8v yc, s16v c)
+// R or B, by weights in units of 1 / (1 << bits): `yc` is luma and the chroma channel that drives it zipped, `yRest`
+// what luma's weight has beside 1. Whole units of chroma are counted from 128, which keeps the rest small.
+template <int yRest, int weight, int constant, int bits = 16> ZORCC_INLINE s16v fromOneChroma(u8v yc)
 {
     constexpr int one = 1 << bits, whole = (weight + one / 2) >> bits, rest = weight - one * whole;
-    return times<whole>(c - 128) + (weighPair<yRest, rest, constant + 128 * one * whole>(yc) >> (bits - 8));
+    return mulAddPairs(yc, fillPair8(1, whole)) - fill16(128 * whole) +
+           (weighPair<yRest, rest, constant + 128 * one * whole>(yc) >> (bits - 8));
 }
 
 // Every channel is whole units of luma and chroma, added in 16 bits, and a rest of less than 16 bits in 8.8 fixed
@@ -85,24 +85,25 @@ private:
     // From zipped bytes.
     ZORCC_INLINE WideRgb channels(u8v yv, u8v yu, u8v uv)
     {
-        const s16v y = firstOfPairs(yv), v = secondOfPairs(yv), u = firstOfPairs(uv);
         if constexpr (k.y == 65536) {
-            const WideRgb offset = ChromaOffsets<k>::of(u, v);
+            const s16v y = firstOfPairs(yv);
+            const WideRgb offset = ChromaOffsets<k>::of(firstOfPairs(uv), secondOfPairs(yv));
             return {{y + offset.c[0], y + offset.c[1], y + offset.c[2]}};
         } else {
-            return {{y + fromOneChroma<yRest, k.r, k.constantR>(yv, v), y + fromBothChroma(yv, uv, u, v),
-                     y + fromOneChroma<yRest, k.b, k.constantB>(yu, u)}};
+            return {{fromOneChroma<yRest, k.r, k.constantR>(yv), fromBothChroma(yv, yu, uv),
+                     fromOneChroma<yRest, k.b, k.constantB>(yu)}};
         }
     }
 
-    // G likewise.
-    ZORCC_INLINE s16v fromBothChroma(u8v yv, u8v uv, s16v u, s16v v)
+    // G likewise. One of the chroma channels has less than half a unit.
+    ZORCC_INLINE s16v fromBothChroma(u8v yv, u8v yu, u8v uv)
     {
-        constexpr int whole1 = wholeOf(-k.g1), whole2 = wholeOf(-k.g2);
-        constexpr int constant = k.constantG + 128 * 65536 * (whole1 + whole2);
+        constexpr int whole1 = wholeOf(-k.g1), whole2 = wholeOf(-k.g2), whole = whole1 + whole2;
+        static_assert(whole1 == 0 || whole2 == 0);
         // Luma, second and first chroma channel in the places of R, G and B.
         constexpr Weights w = {yRest, restOf(-k.g2), restOf(-k.g1)};
-        return times<whole1>(u - 128) + times<whole2>(v - 128) + ((s16v)weigh<w, constant>(yv, uv) >> 8);
+        return mulAddPairs(whole1 == 0 ? yv : yu, fillPair8(1, whole)) - fill16(128 * whole) +
+               ((s16v)weigh<w, k.constantG + 128 * 65536 * whole>(yv, uv) >> 8);
     }
 };
 
@@ -110,15 +111,28 @@ private:
 
 // Offsets are formed once for a pair of columns and applied to the bytes of luma as what is to be added and what is to
 // be subtracted, one of them being 0. That they saturate at 255 makes no difference to the saturated result.
-template <ToRgb k> struct SharedChromaOnWholeLuma {
-    template <int rows> [[gnu::always_inline]] Pixels<3, rows> operator()(const SubsampledWords<rows>& ycc) const
+template <ToRgb k> class SharedChromaOnWholeLuma {
+    template <int rows> struct Prepared {
+        u8v y[rows];
+        u8v offset[3]; // per block eight offsets to be added, then the same to be subtracted
+    };
+
+public:
+    template <int rows> [[gnu::always_inline]] Prepared<rows> prepare(const SubsampledWords<rows>& ycc) const
     {
+        Prepared<rows> from;
+        for (int row = 0; row < rows; ++row) from.y[row] = ycc.y[row];
         const WideRgb offset = ChromaOffsets<k>::of(ycc.u, ycc.v);
+        for (int c = 0; c < 3; ++c) from.offset[c] = packUnsigned(offset.c[c], -offset.c[c]);
+        return from;
+    }
+
+    template <int rows> [[gnu::always_inline]] Pixels<3, rows> operator()(const Prepared<rows>& from) const
+    {
         Pixels<3, rows> rgb;
         for (int c = 0; c < 3; ++c) {
-            const u8v both = packUnsigned(offset.c[c], -offset.c[c]);
-            const u8v more = zipLow(both, both), less = zipHigh(both, both);
-            for (int row = 0; row < rows; ++row) rgb.c[row][c] = subSaturate(addSaturate(ycc.y[row], more), less);
+            const u8v offset = from.offset[c], more = zipLow(offset, offset), less = zipHigh(offset, offset);
+            for (int row = 0; row < rows; ++row) rgb.c[row][c] = subSaturate(addSaturate(from.y[row], more), less);
         }
         return rgb;
     }
@@ -129,20 +143,34 @@ template <ToRgb k> struct SharedChromaOnWholeLuma {
 // Luma and chroma products are 16.16 fixed point in two halves, added with a carry. Even and odd columns are kept in
 // vectors of their own, so that the chroma of a pair of columns stands in the lane of both.
 template <ToRgb k> class SharedChromaOnScaledLuma {
+    struct Chroma {
+        s16v high, carryLimit; // 32767 - low: a low half of luma, less 32768, above it carries
+    };
+    template <int rows> struct Prepared {
+        u8v y[rows];
+        Chroma chroma[3];
+    };
+
 public:
-    template <int rows>
-    [[gnu::always_inline]] Pixels<3, rows, Columns::evenThenOdd> operator()(const Subsampled<rows>& ycc) const
+    template <int rows> [[gnu::always_inline]] Prepared<rows> prepare(const SubsampledWords<rows>& ycc) const
     {
-        const u8v uv = zipHalves(ycc.chroma);
-        const s16v u = firstOfPairs(uv), v = secondOfPairs(uv);
-        const Chroma chroma[3] = {limited(halves<k.r, k.constantR>(v)),
-                                  limited(sum(halves<-k.g1, 0>(u), halves<-k.g2, k.constantG>(v))),
-                                  limited(halves<k.b, k.constantB>(u))};
+        Prepared<rows> from;
+        for (int row = 0; row < rows; ++row) from.y[row] = ycc.y[row];
+        from.chroma[0] = limited(halves<k.r, k.constantR>(ycc.v));
+        from.chroma[1] = limited(sumLessOne(halves<-k.g1, 0>(ycc.u), halves<-k.g2, k.constantG + 65536>(ycc.v)));
+        from.chroma[2] = limited(halves<k.b, k.constantB>(ycc.u));
+        return from;
+    }
+
+    template <int rows>
+    [[gnu::always_inline]] Pixels<3, rows, Columns::evenThenOdd> operator()(const Prepared<rows>& from) const
+    {
         Pixels<3, rows, Columns::evenThenOdd> rgb;
         for (int row = 0; row < rows; ++row) {
-            const Halves even = lumaHalves(mulAddPairs(ycc.y[row], fillPair8(2, 0)));
-            const Halves odd = lumaHalves(mulAddPairs(ycc.y[row], fillPair8(0, 2)));
-            for (int c = 0; c < 3; ++c) rgb.c[row][c] = packUnsigned(whole(even, chroma[c]), whole(odd, chroma[c]));
+            const Halves even = lumaHalves(mulAddPairs(from.y[row], fillPair8(2, 0)));
+            const Halves odd = lumaHalves(mulAddPairs(from.y[row], fillPair8(0, 2)));
+            for (int c = 0; c < 3; ++c)
+                rgb.c[row][c] = packUnsigned(whole(even, from.chroma[c]), whole(odd, from.chroma[c]));
         }
         return rgb;
     }
@@ -151,10 +179,6 @@ private:
     struct Halves {
         s16v high;
         u16v low;
-    };
-    struct Chroma {
-        s16v high;
-        u16v carryLimit; // 65535 - low: a low half of luma above it carries
     };
 
     // From luma doubled, which brings its weight into 16 bits.
@@ -170,6 +194,10 @@ private:
     // product are those of the sum. What is below `unit`, which divides the rest and the weight of luma, never carries.
     template <int weight, int constant> ZORCC_INLINE Halves halves(s16v v)
     {
+        if constexpr (constant == 0 && weight >= -32768 && weight < 32768) {
+            const s16v w = fill16(weight);
+            return {mulHigh(v, w), (u16v)(v * w)};
+        }
         constexpr int whole = weight >> 16, rest = weight & 0xffff;
         constexpr int unit = std::min({rest & -rest, k.y & -k.y, 65536});
         constexpr int t = offsetOf(rest, constant & (65536 - unit));
@@ -187,38 +215,43 @@ private:
         return -1;
     }
 
-    ZORCC_INLINE Halves sum(const Halves& a, const Halves& b)
+    // With 1 less in the high half, to which a comparison adds -1 where nothing is carried.
+    ZORCC_INLINE Halves sumLessOne(const Halves& a, const Halves& b)
     {
         const u16v low = a.low + b.low;
-        return {a.high + b.high + 1 + (s16v)(max(low, a.low) == low), low}; // -1 where nothing is carried
+        return {a.high + b.high + (s16v)(max(low, a.low) == low), low};
     }
 
-    ZORCC_INLINE Chroma limited(const Halves& sum) { return {sum.high, ~sum.low}; }
+    ZORCC_INLINE Chroma limited(const Halves& sum) { return {sum.high, (s16v)(sum.low ^ 0x7fff)}; }
 
     // The sum without its fraction.
     ZORCC_INLINE s16v whole(const Halves& y, const Chroma& c)
     {
-        return addOneWhere(y.high + c.high, y.low, c.carryLimit);
+        return addOneWhere(y.high + c.high, (s16v)(y.low ^ 0x8000), c.carryLimit);
     }
 };
 
 // ---- all of them ----------------------------------------------------------------------------------------------------
 
+// The formula for chroma that pixels share.
+template <ToRgb k>
+using SharedChromaToRgb = std::conditional_t<k.y == 65536, SharedChromaOnWholeLuma<k>, SharedChromaOnScaledLuma<k>>;
+
 template <ToRgb k> struct YccToRgb {
     [[gnu::always_inline]] Pixels<3> operator()(const Pixels<3>& ycc) const { return FullChromaToRgb<k>{}(ycc); }
 
-    template <int rows> [[gnu::always_inline]] auto operator()(const Subsampled<rows>& ycc) const
+    template <int rows> [[gnu::always_inline]] auto prepare(const SubsampledWords<rows>& ycc) const
     {
-        if constexpr (k.y == 65536)
-            return operator()(inWords(ycc));
-        else
-            return SharedChromaOnScaledLuma<k>{}(ycc);
+        return SharedChromaToRgb<k>{}.prepare(ycc);
     }
-
-    template <int rows>
-    requires(k.y == 65536) [[gnu::always_inline]] auto operator()(const SubsampledWords<rows>& ycc) const
+    template <int rows> [[gnu::always_inline]] auto prepare(const Subsampled<rows>& ycc) const
     {
-        return SharedChromaOnWholeLuma<k>{}(ycc);
+        return prepare(inWords(ycc));
+    }
+    template <class Prepared>
+    [[gnu::always_inline]] auto operator()(const Prepared& ycc) const requires Takes<SharedChromaToRgb<k>, Prepared>
+    {
+        return SharedChromaToRgb<k>{}(ycc);
     }
 };
 

@@ -23,35 +23,50 @@ public:
     static constexpr bool possible =
         k.y % 4 == 0 && k.y / 4 < 32768 && k.y != 65536 && 255 * factorR < 32768 && 255 * factorB < 32768;
 
-    template <int rows> [[gnu::always_inline]] Unsaturated<rows> operator()(const Subsampled<rows>& ycc) const
+    template <int rows, LumaOrder order> struct Prepared {
+        s16v luma[rows][2];
+        s32v chroma[2][3]; // for each half of the lanes
+    };
+
+    template <int rows> [[gnu::always_inline]] auto prepare(const Subsampled<rows>& ycc) const
     {
-        return operator()(toLanes(ycc.y, ycc.chroma));
+        return prepare(toLanes(ycc.y, ycc.chroma));
     }
 
     template <int rows, LumaOrder order>
-    [[gnu::always_inline]] Unsaturated<rows> operator()(const YccLanes<rows, order>& ycc) const
+    [[gnu::always_inline]] Prepared<rows, order> prepare(const YccLanes<rows, order>& ycc) const
+    {
+        Prepared<rows, order> from;
+        for (int half = 0; half < 2; ++half) {
+            for (int row = 0; row < rows; ++row) from.luma[row][half] = ycc.luma[row][half];
+            const s16v uv = ycc.chroma[half], multiples = uv * fillPair16(factorB, factorR);
+            const s32v g = mulAddPairs(fill32(k.constantG), uv, fillPair16(-k.g1 % factorB, -k.g2 % factorR));
+            from.chroma[half][0] = mulAddPairs(fill32(k.constantR), multiples, fillPair16(0, k.r / factorR));
+            from.chroma[half][1] = mulAddPairs(g, multiples, fillPair16(-k.g1 / factorB, -k.g2 / factorR));
+            from.chroma[half][2] = mulAddPairs(fill32(k.constantB), multiples, fillPair16(k.b / factorB, 0));
+        }
+        return from;
+    }
+
+    template <int rows, LumaOrder order>
+    [[gnu::always_inline]] Unsaturated<rows> operator()(const Prepared<rows, order>& from) const
     {
         const s16v lower = fillPair16(k.y / 4, 0), upper = fillPair16(0, k.y / 4);
         Unsaturated<rows> rgb;
-        for (int half = 0; half < 2; ++half) {
-            const s16v uv = ycc.chroma[half], multiples = uv * fillPair16(factorB, factorR);
-            const s32v g = mulAddPairs(fill32(k.constantG), uv, fillPair16(-k.g1 % factorB, -k.g2 % factorR));
-            const s32v chroma[3] = {mulAddPairs(fill32(k.constantR), multiples, fillPair16(0, k.r / factorR)),
-                                    mulAddPairs(g, multiples, fillPair16(-k.g1 / factorB, -k.g2 / factorR)),
-                                    mulAddPairs(fill32(k.constantB), multiples, fillPair16(k.b / factorB, 0))};
+        for (int half = 0; half < 2; ++half)
             for (int row = 0; row < rows; ++row)
                 for (int c = 0; c < 3; ++c) {
-                    const s16v* luma = ycc.luma[row];
+                    const s16v* luma = from.luma[row];
+                    const s32v chroma = from.chroma[half][c];
                     if constexpr (order == LumaOrder::byColumn) {
                         const s16v weight = half == 0 ? lower : upper;
-                        rgb.c[row][c][half] = upperHalves(mulAddPairs(chroma[c], luma[0], weight),
-                                                          mulAddPairs(chroma[c], luma[1], weight));
+                        rgb.c[row][c][half] =
+                            upperHalves(mulAddPairs(chroma, luma[0], weight), mulAddPairs(chroma, luma[1], weight));
                     } else {
-                        rgb.c[row][c][half] = upperHalves(mulAddPairs(chroma[c], luma[half], lower),
-                                                          mulAddPairs(chroma[c], luma[half], upper));
+                        rgb.c[row][c][half] =
+                            upperHalves(mulAddPairs(chroma, luma[half], lower), mulAddPairs(chroma, luma[half], upper));
                     }
                 }
-        }
         return rgb;
     }
 
