@@ -2,8 +2,8 @@
 """The binary interface is what programs have been compiled with: abi.py INCLUDE-FOLDER BASELINE
 
 BASELINE has a line for each header: its name, how many declarations it has, and a digest of them, in which their order
-and the names of parameters do not count. That the libraries export what is declared, and are compiled with these
-headers, is seen elsewhere: by linkage.py and by the compiler.
+and the names of parameters do not count. That the libraries export what is declared is seen by linkage.py: a definition
+with other parameters is a function of its own, which nothing exports.
 """
 import hashlib
 import pathlib
