@@ -78,6 +78,8 @@ enum class Layout {
 // A plane holds `samples` samples for every (1 << log2X) x (1 << log2Y) pixels.
 struct PlaneShape {
     int samples = 0, log2X = 0, log2Y = 0;
+
+    constexpr bool operator==(const PlaneShape&) const = default;
 };
 
 inline constexpr int maxPlanes = 4;
