@@ -100,7 +100,7 @@ struct Format {
     constexpr int log2Y() const { return plane[1].log2Y; }
 };
 
-// Samples of a plane for that many columns or rows of pixels, 1 << log2 of which share one. An odd last one counts for
+// Samples of a plane for `pixels` columns or rows of pixels, 1 << log2 of which share one. An odd last one counts for
 // nothing unless the format rounds up.
 constexpr int sharedSamples(const Format& f, int pixels, int log2)
 {

@@ -50,7 +50,7 @@ TEST_P(Regions, FarOut)
         ASSERT_TRUE(check({20, 12}, 1, region));
 }
 
-// Both sides of the threshold of 192 x 192 pixels, of which the gradient method does not count the frame.
+// Both sides of the threshold for threads, 192 x 192 pixels; the gradient method does not count those at the edges.
 TEST_P(Regions, AnyNumberOfThreads)
 {
     for (const ZorSize size : {ZorSize{196, 196}, {191, 300}, {300, 191}, {197, 203}, {401, 211}})

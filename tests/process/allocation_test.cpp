@@ -13,7 +13,7 @@
 
 #include "tests/frame/core_stand_in.h"
 #include "tests/harness/thread_count.h"
-#include "tests/process/calls.h"
+#include "tests/process/prepared_call.h"
 #include "tests/reduce/methods.h"
 
 namespace {

@@ -10,7 +10,7 @@
 
 #include "tests/harness/contents.h"
 #include "tests/harness/thread_count.h"
-#include "tests/process/calls.h"
+#include "tests/process/prepared_call.h"
 
 namespace zorcc::test {
 namespace {

@@ -11,7 +11,7 @@
 #include <cstdio>
 #include <cstdlib>
 
-#include "tests/process/calls.h"
+#include "tests/process/prepared_call.h"
 #include "zorcore.h"
 
 namespace zorcc::test {
@@ -27,7 +27,7 @@ rlim_t mappedBytes()
     return static_cast<rlim_t>(pages) * static_cast<rlim_t>(sysconf(_SC_PAGESIZE));
 }
 
-// To the stacks of as many threads and 440 MiB for all else.
+// To what is mapped now, the stacks of `threads` threads, and 440 MiB for all else.
 [[maybe_unused]] void limitAddressSpace(int threads)
 {
     pthread_attr_t attributes;

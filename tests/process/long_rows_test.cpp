@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Rows of almost 2^31 pixels, regions at their right end, and as many rows. Pixels repeat in memory, so the result of a
-// formula on them repeats, too.
+// Rows of almost 2^31 pixels, regions at their right end, and almost 2^31 rows. Pixels repeat in memory, so the result
+// of a formula on them repeats, too.
 #include <gtest/gtest.h>
 #include <sys/wait.h>
 #include <unistd.h>

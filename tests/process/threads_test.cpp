@@ -10,7 +10,7 @@
 
 #include "tests/harness/thread_count.h"
 #include "tests/harness/tiers.h"
-#include "tests/process/calls.h"
+#include "tests/process/prepared_call.h"
 
 namespace zorcc::test {
 namespace {

@@ -12,7 +12,7 @@ import sys
 
 from tools import declarations, leave_with
 
-WHAT_TO_DO = """{header} does not declare what programs have been compiled with. What has changed since that was recorded:
+WHAT_TO_DO = """{header} does not declare what programs have been compiled with. Changes since that was recorded:
     git diff $(git log -1 --format=%h -- {baseline}) -- {header}
 Programs break by any change of a declaration, of a structure or of a number: undo it. If functions were added, or a
 version begins that needs new programs, this is the header's line in {baseline} from now on:

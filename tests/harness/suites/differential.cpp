@@ -23,7 +23,7 @@ std::vector<int> smallHeights(const Case& c)
 
 class Differential : public FamilyTest {};
 
-// On one thread: to fork a team for each of so many small images would take longer than all the rest.
+// On one thread: to fork a team for each of thousands of small images would take longer than all the rest.
 TEST_P(Differential, EveryWidth)
 {
     const OnThreads one(1);
