@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
-# cmake --install: headers, the libraries, the CMake package (find_package(zorcc) gives zorcc::zorcc and zorcc::convert),
-# zorcc.pc and zorconvert.pc.
+# cmake --install: headers, the libraries, the CMake package (find_package(zorcc) gives zorcc::zorcc and
+# zorcc::convert), zorcc.pc and zorconvert.pc.
 include(CMakePackageConfigHelpers)
 
 set_target_properties(zorccn8 PROPERTIES EXPORT_NAME zorcc)
@@ -22,4 +22,5 @@ install(FILES ${PROJECT_BINARY_DIR}/zorccConfig.cmake ${PROJECT_BINARY_DIR}/zorc
 file(RELATIVE_PATH ZORCC_PC_TO_PREFIX /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
 configure_file(cmake/zorcc.pc.in zorcc.pc @ONLY)
 configure_file(cmake/zorconvert.pc.in zorconvert.pc @ONLY)
-install(FILES ${PROJECT_BINARY_DIR}/zorcc.pc ${PROJECT_BINARY_DIR}/zorconvert.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+install(FILES ${PROJECT_BINARY_DIR}/zorcc.pc ${PROJECT_BINARY_DIR}/zorconvert.pc
+  DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)

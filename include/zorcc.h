@@ -8,7 +8,7 @@
  * Names: zori<Operation>_<sample types>_<layouts>R. Sample types: 8u, 8s, 16u, 16s, 32f (two joined: source,
  * destination).
  * Layouts (two joined: source, destination):
- *   C1, C2, C3, C4  that many samples a pixel, interleaved, channel 0 at the lowest address
+ *   C1, C2, C3, C4  one to four samples a pixel, interleaved, channel 0 at the lowest address
  *   AC4             four samples a pixel; the fourth is alpha: ignored in a source, left as it is in a destination (its
  *                   value stays, but may be rewritten: no other thread may change it during the call)
  *   P2, P3, P4      planes; a P2 image is a luma plane and a plane of interleaved chroma pairs

@@ -78,6 +78,8 @@ enum class Layout {
 // A plane holds `samples` samples for every (1 << log2X) x (1 << log2Y) pixels.
 struct PlaneShape {
     int samples = 0, log2X = 0, log2Y = 0;
+
+    constexpr bool operator==(const PlaneShape&) const = default;
 };
 
 inline constexpr int maxPlanes = 4;
@@ -98,7 +100,7 @@ struct Format {
     constexpr int log2Y() const { return plane[1].log2Y; }
 };
 
-// Samples of a plane for that many columns or rows of pixels, 1 << log2 of which share one. An odd last one counts for
+// Samples of a plane for `pixels` columns or rows of pixels, 1 << log2 of which share one. An odd last one counts for
 // nothing unless the format rounds up.
 constexpr int sharedSamples(const Format& f, int pixels, int log2)
 {

@@ -12,7 +12,7 @@
  *                           the nearest level to the sample plus the errors that its neighbours to the left and above
  *                           have left; every channel separately, every row from left to right. Samples that saturate
  *                           leave no error
- * `noise`, 0..100, moves every threshold by a pseudo-random amount of up to that many percent of a step. The amounts
+ * `noise`, 0..100, moves every threshold by a pseudo-random amount of up to `noise` percent of a step. The amounts
  * are the same in every call: equal input gives equal output.
  *
  * A level's value is rounded down. Where source and destination differ in scale it is level * white / (levels - 1) in

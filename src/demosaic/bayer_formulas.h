@@ -35,7 +35,7 @@ template <class V> ZORCC_INLINE V averageOfFour(const Average<V>& p, const Avera
 }
 
 // A row of the mosaic and its neighbours. `like` are planes of the columns that hold the row's sites, `other` those
-// between; [2] is the row itself, the others lie that many rows above and below.
+// between; [2] is the row itself, [0] and [1] are the two rows above it, [3] and [4] the two below.
 template <class Sample> struct PlaneWindow {
     const Sample *like[5], *other[5];
     int left; // the plane of the other columns has the left neighbour of site i at i + left, the right one after it

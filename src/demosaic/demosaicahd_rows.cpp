@@ -13,7 +13,7 @@ namespace {
 // tents, and green looks two pixels far.
 constexpr int greenReach = 2, reach = 1 + 1 + 1 + 2 + 1 + 1 + greenReach;
 
-// Only samples are needed as far as that. Other lines have so many columns more than the strip on both sides.
+// Columns beyond each side of the strip in all lines but those of samples, which alone have all of `reach`.
 constexpr int border = reach - greenReach;
 
 // The strip of columns that is worked on at a time: a stage's lines stay in the first-level cache.

@@ -21,7 +21,7 @@ ZORCC_INLINE Widened<4> widen(const WideChannel<uint16_t>& wide)
 template <class V> ZORCC_INLINE auto asFloats(const V& samples) { return toFloat(widen(samples)); }
 template <int parts> ZORCC_INLINE const Floats<parts>& asFloats(const Floats<parts>& floats) { return floats; }
 
-// What holds the samples of that many parts of 32 bits: a vector, or two of 16 bits beside bytes.
+// The samples of `parts` vectors of 32 bits, narrowed: one vector, or two of 16 bits beside bytes.
 template <class Sample, int parts> ZORCC_INLINE auto narrowParts(const Widened<parts>& wide)
 {
     if constexpr (parts == partsOf<Sample>)

@@ -10,7 +10,7 @@
 namespace zorcc::ZORCC_TIER {
 namespace {
 
-constexpr int signedBias = 32768; // signed samples stand for a value that is so much greater
+constexpr int signedBias = 32768; // what is added to a signed sample for the value that it stands for
 
 // The least signed sample has the same bits as the unsigned word of the middle.
 ZORCC_INLINE s32v loadSamples(const int16_t* p) { return loadIntegers((const uint16_t*)p) ^ signedBias; }

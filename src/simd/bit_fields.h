@@ -16,7 +16,7 @@ struct WordFields {
 namespace zorcc::ZORCC_TIER {
 namespace {
 
-// The bytes of as many pixels as a vector has bytes.
+// Three bytes for each of vectorBytes pixels.
 struct ThirdsOfPixels {
     u8v third[3];
 };
@@ -120,7 +120,7 @@ template <WordFields fields> struct FieldsAsBytes {
 };
 #endif
 
-// From as many words as a vector has bytes.
+// From vectorBytes words.
 template <WordFields fields> ZORCC_INLINE ThirdsOfPixels fieldsAsBytes(const uint8_t* p)
 {
     using Way = FieldsAsBytes<fields>;

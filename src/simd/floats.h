@@ -149,7 +149,7 @@ template <int parts> struct Floats {
     f32v part[parts];
 };
 
-// A vector of samples of this type makes that many of 32 bits.
+// How many vectors of 32 bits a vector of samples of this type widens to.
 template <class Sample> inline constexpr int partsOf = 4 / int{sizeof(Sample)};
 
 template <int parts> ZORCC_INLINE Floats<parts> toFloat(const Widened<parts>& v)

@@ -122,7 +122,7 @@ ZORCC_INLINE u8v loadHalves(const uint8_t* low, const uint8_t* high)
 #endif
 }
 
-// Half as many bytes as a vector has, each in 16 bits.
+// Loads vectorBytes / 2 bytes, each into 16 bits.
 ZORCC_INLINE s16v loadWidened(const uint8_t* p)
 {
 #if defined(ZORCC_TIER_avx512)

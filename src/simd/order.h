@@ -120,7 +120,7 @@ template <class V> ZORCC_INLINE Unzipped<V> unzip(V a, V b)
 }
 
 // Row i becomes column i, of vectors with as many elements as there are vectors. Zipping the first half of the rows
-// with the second moves one bit of an element's row number to its column number; as often as the numbers have bits,
+// with the second moves one bit of an element's row number to its column number; done once for each bit of the numbers,
 // that exchanges them.
 template <class V, int count> ZORCC_INLINE void transpose(V (&row)[count])
 {

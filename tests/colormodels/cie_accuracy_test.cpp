@@ -9,8 +9,8 @@
 #include <string>
 #include <vector>
 
-#include "interface/functions.h"
-#include "tests/harness/tiers.h"
+#include "tests/harness/cases.h"
+#include "tests/harness/checker.h"
 #include "tests/reference/cie.h"
 
 namespace zorcc::test {
@@ -137,7 +137,7 @@ TEST_P(ByteAccuracy, AllColours)
     from.step[0] = to.step[0] = 3 * band.width;
     long long differing = 0;
     int worst = 0;
-    for (int first = 0; first < 1 << 24; first += pixels) {
+    for (int first = 0; first < colours; first += pixels) {
         for (int i = 0; i < pixels; ++i)
             for (int c = 0; c < 3; ++c) source[3 * i + c] = static_cast<std::uint8_t>((first + i) >> 8 * c);
         ASSERT_EQ((*interface::findFunction(formula.function))(from, to, band), zorStatusOk);
@@ -163,25 +163,10 @@ INSTANTIATE_TEST_SUITE_P(Formulas, ByteAccuracy, testing::ValuesIn(formulas),
 TEST(XyzOfBytes, AllColoursAfterTheBlocksOfARow)
 {
     constexpr ZorSize size{7, 9363};
-    constexpr int count = size.width * size.height;
-    const interface::Function& function = *interface::findFunction("zoriRGBToXYZ_8u_C3R");
-    std::vector<std::uint8_t> source(3 * count), destination(3 * count), expected(3 * count);
-    const auto imageOf = [&](std::vector<std::uint8_t>& bytes) {
-        interface::Image image;
-        image.plane[0] = bytes.data();
-        image.step[0] = 3 * size.width;
-        return image;
-    };
-    for (int first = 0; first < 1 << 24; first += count) {
-        for (int i = 0; i < 3 * count; ++i) source[i] = static_cast<std::uint8_t>((first + i / 3) >> i % 3 * 8);
-        reference::Pixels wanted(*function.destination, imageOf(expected), size);
-        reference::rgbToXyz({*function.source, imageOf(source), size}, wanted);
-        for (const Tier tier : tiersHere()) {
-            const OnTier chosen(tier);
-            ASSERT_EQ(function(imageOf(source), imageOf(destination), size), zorStatusOk);
-            ASSERT_EQ(destination, expected) << nameOf(tier) << ", from colour " << first;
-        }
-    }
+    const reference::Case c{"zoriRGBToXYZ_8u_C3R", reference::rgbToXyz};
+    Checker checker(c, functionOf(c));
+    for (int first = 0; first < colours; first += size.width * size.height)
+        ASSERT_TRUE(checker.check({size}, [&](TestImage& image) { fillColours(image, first); })) << "from " << first;
 }
 
 // ---- floats ---------------------------------------------------------------------------------------------------------

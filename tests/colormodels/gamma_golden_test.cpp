@@ -64,15 +64,6 @@ TEST(GammaGolden, FloatsOfEveryKind)
     EXPECT_NE(ofFloat(true, 0.0813f), 0.0813f / 4.5f);
 }
 
-// The range comes before everything else.
-TEST(GammaGolden, Ranges)
-{
-    EXPECT_EQ(zoriGammaFwd_32f_C3R(nullptr, 0, nullptr, 0, {0, 0}, 1, 1), zorStatusBadRange);
-    EXPECT_EQ(zoriGammaInv_32f_IP3R(nullptr, 0, {0, 0}, 1, 0.5f), zorStatusBadRange);
-    EXPECT_EQ(zoriGammaInv_32f_C3IR(nullptr, 0, {0, 0}, 0, std::nanf("")), zorStatusBadRange);
-    EXPECT_EQ(zoriGammaFwd_32f_C3IR(nullptr, 0, {0, 0}, 0, 1), zorStatusNullPointer);
-}
-
 // All words, in images on both sides of the size from which on there is a table.
 TEST(GammaWords, AllBothWays)
 {

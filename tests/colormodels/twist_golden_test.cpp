@@ -6,65 +6,51 @@
 #include <vector>
 
 #include "tests/harness/family_test.h"
+#include "tests/harness/golden.h"
 #include "tests/reference/twist.h"
 
 namespace zorcc::test {
 namespace {
 
-// One pixel, and many of it, so that whole vectors are tested, too.
-template <class Sample, class Function>
-void expectPixel(Function function, const float (&matrix)[3][4], std::vector<Sample> pixel, std::vector<Sample> wanted)
+constexpr float infinity = std::numeric_limits<float>::infinity();
+using Matrix = float[4][4];
+constexpr Matrix halves = {{0, 0, 0, -0.6f}, {0, 0, 0, 255.4f}, {0.5f, 0, 0, 0}},
+                 ties = {{0, 0, 0, 254.5f}, {0, 0, 0, 255.5f}, {0, 0, 0, -0.5f}},
+                 yuv = {{0.299f, 0.587f, 0.114f, 0}, {-0.147f, -0.289f, 0.436f, 0}, {0.615f, -0.515f, -0.1f, 0}},
+                 doubled = {{2, 0, 0, 0}, {0, 2, 0, 0}, {0, 0, 1, 0.5f}},
+                 high = {{2, 0, 0, 0}, {0, -1, 0, 0}, {0, 0, 1, 1e10f}},
+                 low = {{2, 0, 0, 0}, {0, -1, 0, 0}, {0, 0, 1, -1e10f}},
+                 ofFloats = {{2, 0, 0, 1}, {0, -1, 0.5f, 0}, {0, 0, 1e10f, 0}},
+                 order = {{0x1p24f, 0, 3, -0x1p24f}, {1, 0x1p25f, -0x1p25f, 0}},
+                 orderOfFloats = {{1, 0x1p25f, -0x1p25f, 0}, {1, 0, 0, 0}},
+                 noNumbers = {{infinity, -infinity, 0, 0}, {0, 0, 0, __builtin_nanf("")}, {3e38f, 3e38f, 0, 0}};
+
+GoldenColours golden(std::string_view function, const Matrix& matrix, const Colours& colour, const Colours& twisted)
 {
-    for (const Tier tier : tiersHere())
-        for (const int width : {1, 64}) {
-            const OnTier chosen(tier);
-            std::vector<Sample> source, expected, result(pixel.size() * static_cast<std::size_t>(width));
-            for (int x = 0; x < width; ++x) {
-                source.insert(source.end(), pixel.begin(), pixel.end());
-                expected.insert(expected.end(), wanted.begin(), wanted.end());
-            }
-            const int step = static_cast<int>(source.size() * sizeof(Sample));
-            EXPECT_EQ(function(source.data(), step, result.data(), step, ZorSize{width, 1}, matrix), zorStatusOk);
-            EXPECT_EQ(result, expected) << nameOf(tier);
-        }
+    return {{function}, colour, twisted, 48, {.twist = matrix}};
 }
 
-TEST(TwistGolden, Pixels)
+TEST(TwistGolden, Colours)
 {
-    const float halves[3][4] = {{0, 0, 0, -0.6f}, {0, 0, 0, 255.4f}, {0.5f, 0, 0, 0}};
-    expectPixel<std::uint8_t>(zoriColorTwist32f_8u_C3R, halves, {1, 1, 1}, {0, 255, 0});
-    expectPixel<std::uint8_t>(zoriColorTwist32f_8u_C3R, halves, {3, 1, 1}, {0, 255, 2});
-    const float ties[3][4] = {{0, 0, 0, 254.5f}, {0, 0, 0, 255.5f}, {0, 0, 0, -0.5f}};
-    expectPixel<std::uint8_t>(zoriColorTwist32f_8u_C3R, ties, {1, 1, 1}, {254, 255, 0});
-    const float yuv[3][4] = {{0.299f, 0.587f, 0.114f, 0}, {-0.147f, -0.289f, 0.436f, 0}, {0.615f, -0.515f, -0.1f, 0}};
-    expectPixel<std::int8_t>(zoriColorTwist32f_8s_C3R, yuv, {100, 50, -128}, {45, -85, 49}); // 44.658 -84.958 48.55
-    expectPixel<std::int8_t>(zoriColorTwist32f_8s_C3R, {{2, 0, 0, 0}, {0, 2, 0, 0}, {0, 0, 1, 0.5f}}, {100, -100, 1},
-                             {127, -128, 2});
-    expectPixel<std::uint16_t>(zoriColorTwist32f_16u_C3R, {{2, 0, 0, 0}, {0, -1, 0, 0}, {0, 0, 1, 1e10f}},
-                               {40000, 40000, 0}, {65535, 0, 65535});
-    expectPixel<std::int16_t>(zoriColorTwist32f_16s_C3R, {{2, 0, 0, 0}, {0, -1, 0, 0}, {0, 0, 1, -1e10f}},
-                              {-20000, -32768, 0}, {-32768, 32767, -32768});
-    expectPixel<float>(zoriColorTwist_32f_C3R, {{2, 0, 0, 1}, {0, -1, 0.5f, 0}, {0, 0, 1e10f, 0}}, {1, 2, 3},
-                       {3, -0.5f, 3e10f});
-}
-
-// (constant + first) + (third + second): the other order of the last two sums would give 0 for the first row, and 1 in
-// place of 0 for the second.
-TEST(TwistGolden, OrderOfSums)
-{
-    expectPixel<std::uint8_t>(zoriColorTwist32f_8u_C3R, {{0x1p24f, 0, 3, -0x1p24f}, {1, 0x1p25f, -0x1p25f, 0}, {}},
-                              {1, 1, 1}, {3, 1, 0});
-    expectPixel<float>(zoriColorTwist_32f_C3R, {{1, 0x1p25f, -0x1p25f, 0}, {1, 0, 0, 0}, {0, 0, 0, 0}}, {1, 1, 1},
-                       {0, 1, 0});
-}
-
-TEST(TwistGolden, NoNumberGivesTheLeastSample)
-{
-    constexpr float infinity = std::numeric_limits<float>::infinity();
-    const float matrix[3][4] = {{infinity, -infinity, 0, 0}, {0, 0, 0, std::nanf("")}, {3e38f, 3e38f, 0, 0}};
-    expectPixel<std::uint8_t>(zoriColorTwist32f_8u_C3R, matrix, {2, 2, 2}, {0, 0, 255});
-    expectPixel<std::int8_t>(zoriColorTwist32f_8s_C3R, matrix, {2, 2, 2}, {-128, -128, 127});
-    expectPixel<std::int16_t>(zoriColorTwist32f_16s_C3R, matrix, {2, 2, 2}, {-32768, -32768, 32767});
+    const GoldenColours goldens[] = {
+        golden("zoriColorTwist32f_8u_C3R", halves, {1, 1, 1}, {0, 255, 0}),
+        golden("zoriColorTwist32f_8u_C3R", halves, {3, 1, 1}, {0, 255, 2}),
+        golden("zoriColorTwist32f_8u_C3R", ties, {1, 1, 1}, {254, 255, 0}),
+        golden("zoriColorTwist32f_8s_C3R", yuv, {100, 50, -128}, {45, -85, 49}), // 44.658 -84.958 48.55
+        golden("zoriColorTwist32f_8s_C3R", doubled, {100, -100, 1}, {127, -128, 2}),
+        golden("zoriColorTwist32f_16u_C3R", high, {40000, 40000, 0}, {65535, 0, 65535}),
+        golden("zoriColorTwist32f_16s_C3R", low, {-20000, -32768, 0}, {-32768, 32767, -32768}),
+        golden("zoriColorTwist_32f_C3R", ofFloats, {1, 2, 3}, {3, -0.5f, 3e10f}),
+        // (constant + first) + (third + second): the other order of the last two sums would give 0 for the first row,
+        // and 1 in place of 0 for the second.
+        golden("zoriColorTwist32f_8u_C3R", order, {1, 1, 1}, {3, 1, 0}),
+        golden("zoriColorTwist_32f_C3R", orderOfFloats, {1, 1, 1}, {0, 1, 0}),
+        // What is no number becomes the least sample.
+        golden("zoriColorTwist32f_8u_C3R", noNumbers, {2, 2, 2}, {0, 0, 255}),
+        golden("zoriColorTwist32f_8s_C3R", noNumbers, {2, 2, 2}, {-128, -128, 127}),
+        golden("zoriColorTwist32f_16s_C3R", noNumbers, {2, 2, 2}, {-32768, -32768, 32767}),
+    };
+    expectGolden(goldens);
 }
 
 TEST(TwistGolden, FourChannels)

@@ -2,8 +2,9 @@
 #include "tests/convert/by_hand.h"
 
 #include <algorithm>
+#include <limits>
 
-#include "interface/functions.h"
+#include "tests/reference/pixels.h"
 
 namespace zorcc::test {
 
@@ -11,17 +12,27 @@ namespace {
 
 using Pictured = std::unique_ptr<PictureInMemory>;
 
-template <class T> T load(const std::uint8_t* from)
+// Whatever the type of a sample.
+template <class Body> auto withType(ZorSample sample, Body body)
 {
-    T value;
-    std::memcpy(&value, from, sizeof value);
-    return value;
+    static_assert(zorSample8u == int(interface::Sample::u8) && zorSample32f == int(interface::Sample::f32));
+    return reference::withType(static_cast<interface::Sample>(sample), body);
 }
 
-template <class T> void store(std::uint8_t* to, double value)
+double get(ZorSample sample, const std::uint8_t* from)
 {
-    const T sample = static_cast<T>(value);
-    std::memcpy(to, &sample, sizeof sample);
+    return withType(sample, [&](auto value) {
+        std::memcpy(&value, from, sizeof value);
+        return static_cast<double>(value);
+    });
+}
+
+void put(ZorSample sample, std::uint8_t* to, double value)
+{
+    withType(sample, [&](auto stored) {
+        stored = static_cast<decltype(stored)>(value);
+        std::memcpy(to, &stored, sizeof stored);
+    });
 }
 
 // Black and white of a sample type.
@@ -30,58 +41,11 @@ struct Ends {
 };
 Ends endsOf(ZorSample sample)
 {
-    switch (sample) {
-    case zorSample8u:
-        return {0, 255};
-    case zorSample8s:
-        return {-128, 127};
-    case zorSample16u:
-        return {0, 65535};
-    case zorSample16s:
-        return {-32768, 32767};
-    case zorSample32s:
-        return {0, 2147483647};
-    case zorSample32f:
-        return {0, 1};
-    }
-    throw std::logic_error("sample type");
-}
-
-double get(ZorSample sample, const std::uint8_t* from)
-{
-    switch (sample) {
-    case zorSample8u:
-        return load<std::uint8_t>(from);
-    case zorSample8s:
-        return load<std::int8_t>(from);
-    case zorSample16u:
-        return load<std::uint16_t>(from);
-    case zorSample16s:
-        return load<std::int16_t>(from);
-    case zorSample32s:
-        return load<std::int32_t>(from);
-    case zorSample32f:
-        return load<float>(from);
-    }
-    throw std::logic_error("sample type");
-}
-
-void put(ZorSample sample, std::uint8_t* to, double value)
-{
-    switch (sample) {
-    case zorSample8u:
-        return store<std::uint8_t>(to, value);
-    case zorSample8s:
-        return store<std::int8_t>(to, value);
-    case zorSample16u:
-        return store<std::uint16_t>(to, value);
-    case zorSample16s:
-        return store<std::int16_t>(to, value);
-    case zorSample32s:
-        return store<std::int32_t>(to, value);
-    case zorSample32f:
-        return store<float>(to, value);
-    }
+    return withType(sample, [](auto value) {
+        using Limits = std::numeric_limits<decltype(value)>;
+        if (!Limits::is_integer) return Ends{0, 1};
+        return Ends{sizeof value == 4 ? 0. : double{Limits::min()}, double{Limits::max()}};
+    });
 }
 
 void moveSample(ZorSample from, const std::uint8_t* source, ZorSample to, std::uint8_t* destination, bool truncate)
@@ -102,7 +66,7 @@ void moveSample(ZorSample from, const std::uint8_t* source, ZorSample to, std::u
 
 void unpack(const PictureInMemory& from, const PictureInMemory& to, int x, int y)
 {
-    unsigned word = load<std::uint16_t>(from.row(0, y) + 2 * x);
+    unsigned word = static_cast<unsigned>(get(zorSample16u, from.row(0, y) + 2 * x));
     for (int c = 0; c < 3; ++c) {
         const int bits = from.layout.fieldBits[c];
         to.row(0, y)[3 * x + c] = static_cast<std::uint8_t>((word & ((1u << bits) - 1)) << (8 - bits));
@@ -117,7 +81,7 @@ void pack(const PictureInMemory& from, const PictureInMemory& to, int x, int y)
         const int bits = to.layout.fieldBits[c];
         word = word << bits | from.row(0, y)[3 * x + c] >> (8 - bits);
     }
-    store<std::uint16_t>(to.row(0, y) + 2 * x, word);
+    put(zorSample16u, to.row(0, y) + 2 * x, word);
 }
 
 void moveChannel(const PictureInMemory& from, const PictureInMemory& to, char letter, bool truncate)

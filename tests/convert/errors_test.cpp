@@ -151,7 +151,7 @@ TEST_F(PlanErrors, Colours)
     EXPECT_EQ(zorPictureColour(&wrong, nullptr), zorStatusNullPointer);
 }
 
-// What a picture of that height is by, where nobody says it.
+// The matrix that a picture of this height is taken for where neither it nor its format names one.
 TEST_F(PlanErrors, UsualMatrices)
 {
     for (const auto& [height, matrix] : {std::pair{719, "bt601"}, std::pair{720, "bt709"}}) {

@@ -6,16 +6,13 @@
 #include <climits>
 
 #include "tests/harness/family_test.h"
-#include "zorcore.h"
+#include "tests/harness/thread_count.h"
 
 namespace zorcc::test {
 namespace {
 
 class Regions : public FamilyTest {
 protected:
-    const int before = ownGetNumThreads();
-    ~Regions() override { static_cast<void>(zorSetNumThreads(before)); }
-
     testing::AssertionResult check(ZorSize size, std::uint32_t seedOfImage, ZorRect region)
     {
         const auto any = [&] {
@@ -53,12 +50,12 @@ TEST_P(Regions, FarOut)
         ASSERT_TRUE(check({20, 12}, 1, region));
 }
 
-// Both sides of the threshold of 192 x 192 pixels, of which the gradient method does not count the frame.
+// Both sides of the threshold for threads, 192 x 192 pixels; the gradient method does not count those at the edges.
 TEST_P(Regions, AnyNumberOfThreads)
 {
     for (const ZorSize size : {ZorSize{196, 196}, {191, 300}, {300, 191}, {197, 203}, {401, 211}})
         for (int threads = 1; threads <= 8; ++threads) {
-            ASSERT_EQ(zorSetNumThreads(threads), zorStatusOk);
+            const OnThreads chosen(threads);
             for (const int cut : {0, 2})
                 ASSERT_TRUE(check(size, 1, {cut / 2, cut / 2, size.width - cut, size.height - cut}))
                     << threads << " threads";

@@ -34,16 +34,6 @@ ZorSize sizeOf(const CallInput& input, bool isIsolated)
     return {width, 1 + std::min<int>(input.height, maxPixels / width)};
 }
 
-bool sameShape(const interface::Function& function)
-{
-    const interface::Format &from = *function.source, &to = *function.destination;
-    bool same = from.sample == to.sample && from.layout == to.layout && from.planes == to.planes;
-    for (int p = 0; p < from.planes; ++p)
-        same = same && from.plane[p].samples == to.plane[p].samples && from.plane[p].log2X == to.plane[p].log2X &&
-               from.plane[p].log2Y == to.plane[p].log2Y;
-    return same;
-}
-
 Checker& checkerOf(const interface::Function& function)
 {
     static std::map<std::string_view, std::unique_ptr<Checker>> checkers; // whose images' memory can be used again
@@ -75,7 +65,7 @@ bool Calls::run(std::span<const std::uint8_t> bytes, std::uint8_t (&visited)[int
     trial.destination = arrangementOf(input.destination, function.signature.steps);
     trial.contents = allContents[input.contents % std::size(allContents)];
     trial.seed = input.seed;
-    trial.inPlace = input.inPlace % 2 && sameShape(function) && !checker.expected().demosaic;
+    trial.inPlace = input.inPlace % 2 && hasImagesOfOneShape(function) && !checker.expected().demosaic;
     // Where the formula says nothing the tiers are compared with each other, for which the source must be left.
     trial.inPlace = trial.inPlace && !(checker.expected().defined && trial.contents == Contents::anyFloats);
     if (trial.inPlace) trial.destination = trial.source;

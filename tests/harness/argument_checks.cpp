@@ -54,8 +54,10 @@ std::vector<Fault> faultsOf(const reference::Case& c, const Function& function)
 
     const auto& signature = function.signature;
     if (function.takesRange)
-        faults.push_back({zorStatusBadRange,
-                          [](Call& call, ZorSize bad) { call.extra.vMax = bad.width < 0 ? NAN : call.extra.vMin; }});
+        faults.push_back(
+            {zorStatusBadRange, [](Call& call, ZorSize bad) {
+                 call.extra.vMax = bad.width < 0 ? NAN : bad.height < 1 ? call.extra.vMin - 1 : call.extra.vMin;
+             }});
     if (!signature.inPlace) addImage(&Call::source, signature.sourceArray);
     if (c.checks == Checks::stepsFirst) addPlanes(&Call::source, signature.sourceArray, function.source->planes);
     addImage(&Call::destination, signature.destinationArray);

@@ -22,7 +22,7 @@ struct Trial {
     Contents contents = Contents::random;
     std::uint32_t seed = 1;
     std::optional<ZorRect> region = std::nullopt; // of the source, where the function takes one
-    bool inPlace = false;            // the source is the destination, too; their formats must have the same shape
+    bool inPlace = false;            // the source is the destination, too; they must be images of one shape
     int roundingMode = FE_TONEAREST; // of the caller; must be the same after the call
 };
 

@@ -96,4 +96,14 @@ void fill(TestImage& image, Contents contents, std::uint32_t seed)
     });
 }
 
+void fillColours(TestImage& image, int first)
+{
+    const ZorSize size = image.size();
+    reference::Pixels pixels(image.format(), image.image(), size);
+    reference::eachPixel(size, [&](int x, int y) {
+        const int colour = scattered(first + y * size.width + x, colours);
+        for (int c = 0; c < 3; ++c) pixels.put(c, x, y, colour >> 8 * c & 255);
+    });
+}
+
 } // namespace zorcc::test

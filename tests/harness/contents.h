@@ -29,4 +29,14 @@ const char* describe(Contents contents);
 // Fills the used rows; the same seed gives the same samples.
 void fill(TestImage& image, Contents contents, std::uint32_t seed);
 
+// Steps of `count`, a power of two, by an odd number reach every value, and neighbours have little in common.
+constexpr int scattered(int i, int count)
+{
+    return static_cast<int>((static_cast<unsigned>(i) * 0x9e3779b1u) & (count - 1u));
+}
+
+// All colours of three bytes, from number `first` on: one for each pixel.
+inline constexpr int colours = 1 << 24;
+void fillColours(TestImage& image, int first);
+
 } // namespace zorcc::test

@@ -46,7 +46,8 @@ void expectGolden(const GoldenCall& golden)
         std::vector<Bytes> source = golden.source, destination = golden.destination;
         for (Bytes& plane : destination) plane.assign(plane.size(), kept);
         EXPECT_EQ((*function)(imageOf(*function->source, golden.size.width, source),
-                              imageOf(*function->destination, golden.size.width, destination), golden.size),
+                              imageOf(*function->destination, golden.size.width, destination), golden.size,
+                              golden.extra),
                   golden.status)
             << golden.function << " on " << nameOf(tier);
         EXPECT_EQ(destination, golden.destination) << golden.function << " on " << nameOf(tier);
@@ -72,7 +73,8 @@ void expectGolden(const GoldenColours& golden)
             const OnTier chosen(tier);
             images.destination.fillPattern(1);
             if (inPlace) fillSource();
-            ASSERT_EQ((*function)(images.source.image(), images.destination.image(), size), zorStatusOk) << name;
+            ASSERT_EQ((*function)(images.source.image(), images.destination.image(), size, golden.extra), zorStatusOk)
+                << name;
             const Pixels to(*function->destination, images.destination.image(), used);
             eachSample(to, golden.destination, count, [&](int c, int x, int y, double value) {
                 ASSERT_EQ(to.get<double>(c, x, y), value)

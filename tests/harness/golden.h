@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "zorcc.h"
+#include "interface/call.h"
 
 namespace zorcc::test {
 
@@ -23,6 +23,7 @@ struct GoldenCall {
     ZorSize size;
     std::vector<Bytes> source, destination; // planes
     ZorStatus status = zorStatusOk;
+    interface::Extra extra = {};
 };
 
 // On every tier.
@@ -38,6 +39,7 @@ struct GoldenColours {
     Names functions;
     Colours source, destination;
     int width = 48;
+    interface::Extra extra = {};
 };
 
 void expectGolden(const GoldenColours& golden);

@@ -17,8 +17,8 @@ struct RowArrangement {
     int rows;
     std::size_t rowBytes;
     std::ptrdiff_t step;  // bytes from a row to the next; negative walks upwards
-    Edge edge;            // which end of the plane, or of each isolated row, touches inaccessible memory ...
-    std::size_t distance; // ... but for so many bytes
+    Edge edge;            // which end of the plane, or of each isolated row, touches inaccessible memory, or is near it
+    std::size_t distance; // in bytes of that end from inaccessible memory
     bool isolated;        // every row in memory of its own; the step is a multiple of isolatedStep()
 };
 

@@ -42,6 +42,12 @@ StepArguments stepArguments(bool any, bool perPlane)
 StepArguments sourceSteps(const Signature& s) { return stepArguments(s.steps, s.sourceSteps); }
 StepArguments destinationSteps(const Signature& s) { return stepArguments(s.steps, s.destinationSteps); }
 
+bool hasImagesOfOneShape(const Function& function)
+{
+    const Format &from = *function.source, &to = *function.destination;
+    return from.sample == to.sample && from.layout == to.layout && std::ranges::equal(from.plane, to.plane);
+}
+
 std::string describe(const Arrangement& a)
 {
     constexpr const char* names[] = {"tight", "sample", "wide", "isolated", "huge"};

@@ -35,6 +35,9 @@ enum class StepArguments { none, one, perPlane };
 StepArguments sourceSteps(const interface::Signature& signature);
 StepArguments destinationSteps(const interface::Signature& signature);
 
+// Whether source and destination may be the same image: they have the same rows of the same samples.
+bool hasImagesOfOneShape(const interface::Function& function);
+
 // The first byte of a row.
 inline std::uint8_t* rowOf(const interface::Image& image, int p, int y)
 {

@@ -4,13 +4,17 @@
 #include <gtest/gtest.h>
 #include <pthread.h>
 
+#include <algorithm>
 #include <atomic>
 #include <cerrno>
+#include <climits>
 #include <cstdlib>
+#include <vector>
 
 #include "tests/frame/core_stand_in.h"
-#include "tests/process/calls.h"
-#include "zorcore.h"
+#include "tests/harness/thread_count.h"
+#include "tests/process/prepared_call.h"
+#include "tests/reduce/methods.h"
 
 namespace {
 
@@ -33,15 +37,13 @@ namespace zorcc::test {
 namespace {
 
 constexpr ZorSize size{200, 196};
-constexpr ZorDitherMethod methods[] = {zorDitherMethodNone, zorDitherMethodFloydSteinberg,
-                                       zorDitherMethodJarvisJudiceNinke, zorDitherMethodStucki, zorDitherMethodOrdered};
 
 TEST(AllocationFailures, GiveTheirStatusAndNothingIsWritten)
 {
     int failures = 0;
     for (const interface::Function& function : interface::functions())
         for (const ZorDitherMethod method : methods) {
-            if (method != zorDitherMethodNone && function.family != "Bit-depth reduction") continue;
+            if (method != plain && function.family != "Bit-depth reduction") continue;
             PreparedCall call(function, size, method);
             call.prepare();
             call.expectThisAgain();
@@ -55,7 +57,29 @@ TEST(AllocationFailures, GiveTheirStatusAndNothingIsWritten)
             }
         }
     EXPECT_GE(failures, 32 * (3 * 5 + 4)); // of bit-depth reduction alone
-    RecordProperty("failures", failures);
+}
+
+// A table of all words pays in images of more than 65536 samples.
+TEST(AllocationFailures, DoNotMeetGammaOfSmallImages)
+{
+    std::vector<std::uint16_t> image(3 * 21846, 9);
+    for (const auto& gamma : {zoriGammaFwd_16u_C3IR, zoriGammaInv_16u_C3IR})
+        for (const int width : {21845, 21846}) {
+            const AllocationFailure failure(0);
+            EXPECT_EQ(gamma(image.data(), 6 * width, {width, 1}), width == 21845 ? zorStatusOk : zorStatusNoMemory);
+        }
+}
+
+// Rows of errors that no int can count. The sizes are never reached: nothing is read.
+TEST(AllocationFailures, OfRowsThatAreTooLong)
+{
+    const std::uint8_t pixel[] = {1, 2, 3, 4};
+    std::uint8_t result[] = {9, 9, 9, 9};
+    for (const ZorDitherMethod method : diffusions)
+        for (const int width : {1 << 29, 1 << 30, INT_MAX})
+            EXPECT_EQ(zoriReduceBits_8u_C4R(pixel, 4, result, 4, {width, 1}, 0, method, 2), zorStatusNoMemory);
+    EXPECT_EQ(std::count(result, result + 4, 9), 4);
+    EXPECT_EQ(liveBlocks(), 0);
 }
 
 #if !defined(ZORCC_SANITIZED) && !defined(__clang__) // which has another OpenMP runtime
@@ -77,11 +101,10 @@ TEST(ThreadFailuresDeathTest, EndTheProcessWithAMessage)
 
 TEST(ThreadFailures, NeverMeetASingleThread)
 {
-    const int before = ownGetNumThreads(), startedBefore = threadsStarted;
-    static_cast<void>(zorSetNumThreads(1));
+    const OnThreads one(1);
+    const int startedBefore = threadsStarted;
     for (const interface::Function& function : interface::functions()) PreparedCall(function, size)();
     EXPECT_EQ(threadsStarted, startedBefore);
-    static_cast<void>(zorSetNumThreads(before));
 }
 #endif
 

@@ -9,8 +9,8 @@
 #include <thread>
 
 #include "tests/harness/contents.h"
-#include "tests/process/calls.h"
-#include "zorcore.h"
+#include "tests/harness/thread_count.h"
+#include "tests/process/prepared_call.h"
 
 namespace zorcc::test {
 namespace {
@@ -20,7 +20,7 @@ template <class Work> int resultOfChild(Work work)
 {
     const pid_t child = fork();
     if (child == 0) {
-        alarm(20); // a child that waits for threads which it does not have
+        alarm(200); // ends a child that waits for threads which it does not have
         _exit(work());
     }
     int status = 0;
@@ -29,9 +29,7 @@ template <class Work> int resultOfChild(Work work)
 }
 
 struct Fork : testing::Test {
-    const int before = ownGetNumThreads();
-    Fork() { static_cast<void>(zorSetNumThreads(4)); }
-    ~Fork() override { static_cast<void>(zorSetNumThreads(before)); }
+    const OnThreads four{4};
 };
 
 TEST_F(Fork, ChildrenGiveTheSameBytes)

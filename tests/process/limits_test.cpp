@@ -1,15 +1,17 @@
 // SPDX-License-Identifier: MIT
-// Processes and threads that have little: address space, stack, time.
+// Processes in which many threads are asked for, some of them with little address space.
 #include <gtest/gtest.h>
+#include <omp.h>
+#include <pthread.h>
 #include <sys/resource.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <climits>
 #include <cstdio>
 #include <cstdlib>
 
-#include "tests/process/calls.h"
-#include "tests/process/small_threads.h"
+#include "tests/process/prepared_call.h"
 #include "zorcore.h"
 
 namespace zorcc::test {
@@ -25,9 +27,14 @@ rlim_t mappedBytes()
     return static_cast<rlim_t>(pages) * static_cast<rlim_t>(sysconf(_SC_PAGESIZE));
 }
 
-[[maybe_unused]] void limitAddressSpace(rlim_t more)
+// To what is mapped now, the stacks of `threads` threads, and 440 MiB for all else.
+[[maybe_unused]] void limitAddressSpace(int threads)
 {
-    const rlim_t bytes = mappedBytes() + more;
+    pthread_attr_t attributes;
+    std::size_t stackBytes = 0;
+    if (pthread_getattr_default_np(&attributes) != 0 || pthread_attr_getstacksize(&attributes, &stackBytes) != 0)
+        std::abort();
+    const rlim_t bytes = mappedBytes() + static_cast<rlim_t>(threads) * stackBytes + (440 << 20);
     const rlimit limit{bytes, bytes};
     if (setrlimit(RLIMIT_AS, &limit) != 0) std::abort();
 }
@@ -58,8 +65,9 @@ TEST_F(LimitsDeathTest, NoCountOfThreadsIsTooManyForAPicture)
 #ifndef ZORCC_SANITIZED // which maps terabytes
 TEST_F(LimitsDeathTest, ManyThreadsInLittleAddressSpace)
 {
-    EXPECT_EXIT((limitAddressSpace(700 << 20), std::_Exit(wrongCalls(100, {300, 300}))), testing::ExitedWithCode(0),
-                "");
+    const int largestTeam = std::max(32, 4 * omp_get_num_procs());
+    EXPECT_EXIT((limitAddressSpace(largestTeam), std::_Exit(wrongCalls(3 * largestTeam, {300, 300}))),
+                testing::ExitedWithCode(0), "");
 }
 #endif
 

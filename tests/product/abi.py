@@ -1,36 +1,36 @@
 # SPDX-License-Identifier: MIT
-"""The binary interface is what it was: abi.py LIBRARY BASELINE COMPILER
+"""The binary interface is what programs have been compiled with: abi.py INCLUDE-FOLDER BASELINE
 
-BASELINE has the types and the functions that callers have been compiled with, in C++. A library of the same name is
-made of it and compared with LIBRARY by abidiff: functions and their versions, sizes and members of types, enumerators.
-What a release adds is added to the baseline; nothing in it is changed.
+BASELINE has a line for each header: its name, how many declarations it has, and a digest of them, in which their order
+and the names of parameters do not count. That the libraries export what is declared is seen by linkage.py: a definition
+with other parameters is a function of its own, which nothing exports.
 """
+import hashlib
 import pathlib
 import re
-import shutil
-import subprocess
 import sys
-import tempfile
 
-from tools import leave_with, output_of
+from tools import declarations, leave_with
 
-library, baseline, compiler = sys.argv[1:]
-if not shutil.which("abidiff"):
-    print("skipped: no abidiff")
-    sys.exit(77)
-if ".debug_info" not in output_of("readelf", "-SW", library):
-    print("skipped: no debug information in the library")
-    sys.exit(77)
+WHAT_TO_DO = """{header} does not declare what programs have been compiled with. Changes since that was recorded:
+    git diff $(git log -1 --format=%h -- {baseline}) -- {header}
+Programs break by any change of a declaration, of a structure or of a number: undo it. If functions were added, or a
+version begins that needs new programs, this is the header's line in {baseline} from now on:
+    {line}"""
 
-text = pathlib.Path(baseline).read_text(encoding="ascii")
-version = re.search(r"^// Version (\w+\.\d+)$", text, re.M)[1]
-functions = re.sub(r"^((?:\w|[ *])+\w+\(.*\));$", r'extern "C" \1 { __builtin_trap(); }', text, flags=re.M)
-with tempfile.TemporaryDirectory() as folder:
-    folder = pathlib.Path(folder)
-    (folder / "baseline.cpp").write_text(functions, encoding="ascii")
-    (folder / "baseline.map").write_text(f"{version} {{ global: zor*; own*; local: *; }};\n", encoding="ascii")
-    former = folder / pathlib.Path(library).resolve().name
-    subprocess.run([compiler, "-g", "-shared", "-fPIC", "-w", f"-Wl,--version-script={folder}/baseline.map",
-                    f"-Wl,-soname,{former.name}", "-o", former, folder / "baseline.cpp"], check=True)
-    result = subprocess.run(["abidiff", "--no-unreferenced-symbols", former, library], capture_output=True, text=True)
-leave_with([result.stdout + result.stderr] if result.returncode else [])
+
+def line_of(name, header):
+    found = sorted(re.sub(r"(?<=[\w*] )\w+((?:\[\w*\])*[,)])", r"\1", declaration)
+                   for declaration in declarations(header))
+    return f"{name} {len(found)} {hashlib.sha256(' '.join(found).encode()).hexdigest()[:16]}" if found else ""
+
+
+include, baseline = map(pathlib.Path, sys.argv[1:])
+recorded = {line.split()[0]: line for line in baseline.read_text(encoding="ascii").splitlines() if line[0] != "#"}
+headers = {path.relative_to(include).as_posix(): path for path in include.rglob("*.h")}
+findings = []
+for name in sorted(set(headers) | set(recorded)):
+    line = line_of(name, headers[name]) if name in headers else ""
+    if line != recorded.get(name, ""):
+        findings.append(WHAT_TO_DO.format(header=include / name, baseline=baseline, line=line or "(none)"))
+leave_with(findings)

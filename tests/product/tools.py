@@ -14,17 +14,23 @@ def output_of(*command):
     return text
 
 
+def declarations(header):
+    """What a header itself declares, macros with a value included: one line each, white space normalised."""
+    text = re.sub(r"/\*.*?\*/", " ", pathlib.Path(header).read_text(encoding="ascii"), flags=re.S)
+    found = re.findall(r"^\s*#\s*define \w+\b .+$", text, flags=re.M)
+    found += re.findall(r"[^;{]+(?:\{[^}]*\}[^;]*)?;", re.sub(r"^\s*#.*$", "", text, flags=re.M))
+    return [" ".join(declaration.split()) for declaration in found]
+
+
 def prototypes(header):
     """{name: (return type, [parameters])} of the functions that a header and the families' headers that it includes
-    export, white space normalised."""
+    export."""
     header = pathlib.Path(header)
-    text = header.read_text(encoding="ascii")
-    for family in re.findall(r'^#include "(zorcc/\w+\.h)"', text, flags=re.M):
-        text += (header.parent / family).read_text(encoding="ascii")
-    text = re.sub(r"/\*.*?\*/|^\s*#.*?$", " ", text, flags=re.S | re.M)
+    families = re.findall(r'^#include "(zorcc/\w+\.h)"', header.read_text(encoding="ascii"), flags=re.M)
     found = {}
-    for result, name, parameters in re.findall(r"ZOR_API\s+([^;{(]*?)(\w+)\s*\(([^;{]*)\)\s*;", text):
-        found[name] = (" ".join(result.split()), [" ".join(p.split()) for p in parameters.split(",")])
+    for declaration in sum((declarations(path) for path in [header, *(header.parent / f for f in families)]), []):
+        if function := re.fullmatch(r"ZOR_API (.*?) ?(\w+)\((.*)\);", declaration):
+            found[function[2]] = (function[1], function[3].split(", "))
     if not found:
         sys.exit(f"{header}: no exported functions found")
     return found

@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <climits>
 #include <cmath>
 #include <limits>
 #include <numeric>
@@ -23,7 +22,7 @@ using Function = ZorStatus (*)(const Src*, int, Dst*, int, ZorSize, int, ZorDith
 
 template <class Sample> constexpr float whiteOf = std::is_same_v<Sample, float> ? 1 : (1ll << 8 * sizeof(Sample)) - 1;
 
-// Signed samples stand for a value so much greater.
+// What is added to a signed sample for the value that it stands for.
 template <class Sample> constexpr int biasOf = std::is_same_v<Sample, std::int16_t> ? 32768 : 0;
 
 // One sample, without its neighbours.
@@ -105,15 +104,6 @@ TEST(ReduceInputs, FloatsOfEveryKind)
     expectAll(zoriReduceBits_32f8u_C1R, floats, levels);
     expectAll(zoriReduceBits_32f16u_C1R, floats, levels);
     expectAll(zoriReduceBits_32f16s_C1R, floats, levels);
-}
-
-TEST(ReduceInputs, MethodsThatAreNone)
-{
-    const std::uint8_t sample = 100;
-    std::uint8_t result = 99;
-    for (const ZorDitherMethod method : {ZorDitherMethod{5}, ZorDitherMethod{-1}, ZorDitherMethod{INT_MIN}})
-        EXPECT_EQ(zoriReduceBits_8u_C1R(&sample, 1, &result, 1, {1, 1}, 0, method, 2), zorStatusOk);
-    EXPECT_EQ(result, 99);
 }
 
 // What saturates is extreme and leaves no error: the samples around it are as if it were not there.

@@ -59,7 +59,7 @@ Picture alongGradients(const Mosaic& m)
 
 namespace {
 
-// Values of a mosaic that is mirrored on all sides, for as many pixels as any pixel depends on.
+// Values of a mosaic that is mirrored on all sides, by `margin` pixels: no pixel depends on any further away.
 template <class T> class Plane {
 public:
     static constexpr int margin = 10;

@@ -98,7 +98,7 @@ TEST(CubeRoot, WithinTwoUnitsInTheLastPlace)
     EXPECT_LE(worst, 1.89);
 }
 
-// Of all sizes that make powers within 2^-64..2^64, and next to 1: as near as is said to the true one, and the same
+// Bases of all sizes whose powers are within 2^-64..2^64, and next to 1: within 1e-13 of the true power, and the same
 // bits for vectors as for numbers.
 TEST(Power, Within1e13OfTheTrueOne)
 {

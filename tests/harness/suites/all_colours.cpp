@@ -16,25 +16,15 @@ namespace {
 using reference::Case;
 using reference::Pixels;
 
-constexpr int colours = 1 << 24;
 constexpr ZorSize band{4096, 16};
 
-// Steps of `count` by an odd number reach every value, and neighbours have little in common.
-int scattered(int i, int count) { return static_cast<int>((static_cast<unsigned>(i) * 0x9e3779b1u) & (count - 1u)); }
-
-// Fills the band with the colours from number `first` on. A subsampled image has every pair of chroma values, each with
-// every luma in one of the blocks that have it.
-void fillColours(TestImage& image, int first)
+// Colours of a subsampled image: every pair of chroma values, each with every luma in one of the blocks that have it.
+void fillBlocks(TestImage& image, int first)
 {
     const interface::Format& format = image.format();
     const int log2X = format.log2X(), log2Y = format.log2Y(), log2Block = log2X + log2Y;
     Pixels pixels(format, image.image(), band);
     reference::eachPixel(band, [&](int x, int y) {
-        if (!format.subsampled()) {
-            const int colour = scattered(first + y * band.width + x, colours);
-            for (int c = 0; c < 3; ++c) pixels.put(c, x, y, colour >> 8 * c & 255);
-            return;
-        }
         const int block = (first >> log2Block) + (y >> log2Y) * (band.width >> log2X) + (x >> log2X);
         const int inBlock = ((y & ((1 << log2Y) - 1)) << log2X) + (x & ((1 << log2X) - 1));
         const int chroma = scattered(block & 0xffff, 0x10000);
@@ -62,8 +52,9 @@ void fillSweep(TestImage& image, int sweep)
 auto formulaOf(const Case& c)
 {
     const interface::Format &source = *functionOf(c).source, &destination = *functionOf(c).destination;
-    return std::tuple(c.reference, source.sample, destination.sample, source.subsampled(), destination.log2X(),
-                      destination.log2Y(), destination.fieldBits, destination.channels, functionOf(c).dithers);
+    return std::tuple(c.reference, c.imageReference, c.arguments, source.sample, destination.sample,
+                      source.subsampled(), destination.log2X(), destination.log2Y(), destination.fieldBits,
+                      destination.channels, functionOf(c).dithers);
 }
 
 // The first function of each formula on integers that have samples of their own for every channel.
@@ -86,9 +77,10 @@ class AllColours : public FamilyTest {};
 TEST_P(AllColours, SameAsReference)
 {
     const Trial trial{band, {Steps::sample}, {Steps::sample}};
+    const auto fillAll = function.source->subsampled() ? fillBlocks : fillColours;
     if (function.source->sample == interface::Sample::u8)
         for (int first = 0; first < colours; first += band.width * band.height)
-            ASSERT_TRUE(checker.check(trial, [&](TestImage& image) { fillColours(image, first); }))
+            ASSERT_TRUE(checker.check(trial, [&](TestImage& image) { fillAll(image, first); }))
                 << "colours from " << first;
     else
         for (int sweep = 0; sweep < sweeps; ++sweep)

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "tests/harness/family_test.h"
-#include "zorcore.h"
+#include "tests/harness/thread_count.h"
 
 namespace zorcc::test {
 namespace {
@@ -23,17 +23,15 @@ std::vector<int> smallHeights(const Case& c)
 
 class Differential : public FamilyTest {};
 
-// On one thread: to fork a team for each of so many small images would take longer than all the rest.
+// On one thread: to fork a team for each of thousands of small images would take longer than all the rest.
 TEST_P(Differential, EveryWidth)
 {
-    const int before = ownGetNumThreads();
-    ASSERT_EQ(zorSetNumThreads(1), zorStatusOk);
+    const OnThreads one(1);
     for (int width = 1; width <= 200; ++width)
         for (const int height : smallHeights(GetParam())) {
             if (HasFailure()) break;
             EXPECT_TRUE(arrangements.check(checker, {width, height}));
         }
-    ASSERT_EQ(zorSetNumThreads(before), zorStatusOk);
 }
 
 TEST_P(Differential, LongRows)
@@ -74,15 +72,9 @@ TEST_P(Differential, HugeSteps)
         }
 }
 
-// Where both images have one shape they may be the same image.
 TEST_P(Differential, InPlace)
 {
-    const interface::Format &from = *function.source, &to = *function.destination;
-    bool sameShape = from.sample == to.sample && from.layout == to.layout && from.planes == to.planes;
-    for (int p = 0; p < from.planes; ++p)
-        sameShape = sameShape && from.plane[p].samples == to.plane[p].samples &&
-                    from.plane[p].log2X == to.plane[p].log2X && from.plane[p].log2Y == to.plane[p].log2Y;
-    if (!sameShape) GTEST_SKIP() << "images of two shapes";
+    if (!hasImagesOfOneShape(function)) GTEST_SKIP() << "images of two shapes";
     for (int width = 1; width <= 200; ++width)
         for (const Steps steps : {Steps::tight, Steps::wide, Steps::isolated})
             for (const Edge edge : edges) {

@@ -6,21 +6,17 @@
 #include <vector>
 
 #include "tests/harness/family_test.h"
-#include "zorcore.h"
+#include "tests/harness/thread_count.h"
 
 namespace zorcc::test {
 namespace {
 
-class Threads : public FamilyTest {
-protected:
-    const int before = ownGetNumThreads();
-    ~Threads() override { static_cast<void>(zorSetNumThreads(before)); }
-};
+class Threads : public FamilyTest {};
 
 TEST_P(Threads, AnyNumber)
 {
     for (const int threads : {1, 2, 3, 4, 5, 6, 7, 8, 40}) {
-        ASSERT_EQ(zorSetNumThreads(threads), zorStatusOk);
+        const OnThreads chosen(threads);
         for (const ZorSize size : {ZorSize{65, 37}, {641, 203}, {128, 160}, {128, 129}, {130, 140}, {196, 196}})
             ASSERT_TRUE(checker.check({size, {Steps::sample}, {Steps::sample}})) << threads << " threads";
     }

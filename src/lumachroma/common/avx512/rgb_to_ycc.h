@@ -57,7 +57,7 @@ template <Weights y, int yBias, Weights u, Weights v, int bias, Order order> str
     GatherChroma gatherChroma;
 };
 
-// Whether a sum over so many pixels never leaves 0..255: bytes are gathered without saturation.
+// Whether a sum over `pixels` pixels never leaves 0..255: bytes are gathered without saturation.
 template <Weights w, int bias, int pixels> constexpr bool fitsByte()
 {
     const int64_t shift = pixels == 1 ? 16 : 18;
