@@ -150,7 +150,7 @@ typedef enum {
 /* Zeros, but for the size, are the defaults: ZorPlanOptions options = {sizeof options}. */
 typedef struct {
     size_t structBytes; /* of this structure as the caller knows it; what lies beyond is at its default */
-    int threads;        /* at most so many; 0: ownGetNumThreads() when the plan is made */
+    int threads;        /* the most that a run uses; 0: ownGetNumThreads() when the plan is made */
     int stripRows;      /* rows of a strip, rounded up to a multiple of 4; 0: as the cache wants it */
     ZorAlpha alpha;
     ZorDepth depth;
