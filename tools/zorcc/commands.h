@@ -43,7 +43,7 @@ struct ConvertOptions {
     Input in;
     OutputPath out;
     std::string to;
-    std::string matrix, fromMatrix; // empty: not said
+    std::string matrix, fromMatrix; // empty: not given
     bool deinterlace = false, dither = false;
     bool linear = false; // RGB is sRGB in files, and linear for the functions
     Timing timing;

@@ -192,7 +192,7 @@ keeps frame rate, aspect and interlacing of a .y4m IN, otherwise it says 25 pict
 The matrix is bt709 for pictures of 720 rows and more, and bt601 below; bt709full where a .y4m IN of 720 rows says full
 range. Names of formats such as yuv420p_bt709 say theirs. From YUV to YUV --matrix is the one to convert to, and
 --from-matrix that of IN; a .y4m OUT says the range of its matrix. Samples of a matrix without functions, such as bt2020,
-can be moved to another layout: --from-matrix bt2020. --stats shows the chain; what is lost is said in any case.
+can be moved to another layout: --from-matrix bt2020. --stats shows the chain; losses are always reported.
 
 A name with %03d is a sequence of files, for IN and OUT. - is standard input and output, with --as for the kind:
   ffmpeg -v error -i clip.mp4 -f yuv4mpegpipe - | zorcc convert - clip.rgb --to bgr24

@@ -102,8 +102,8 @@ std::uint64_t bytesInFile(const Format& format, ZorSize size, ZorSize visible);
 // What a video file says about its pictures, in the terms of Y4M.
 struct VideoTags {
     std::string frameRate = "25:1";
-    std::string interlacing = "p";       // empty: not said
-    std::string aspect = "1:1";          // of a pixel; empty: not said
+    std::string interlacing = "p";       // empty: unknown
+    std::string aspect = "1:1";          // of a pixel; empty: unknown
     std::string sampling420 = "420jpeg"; // where the chroma samples of 4:2:0 lie
 };
 

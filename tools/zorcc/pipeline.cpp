@@ -76,7 +76,7 @@ private:
             turnChanged.wait(lock, [&] { return error || written + 1 == number; });
             if (error) return;
         }
-        writer.write(std::move(picture), number); // nobody else has the turn
+        writer.write(std::move(picture), number); // where in order, by one thread at a time
         const std::lock_guard lock(turnMutex);
         ++written;
         progress.update(written);
