@@ -83,7 +83,8 @@ FAILING = {
     "out.png: this kind of file holds RGB": (
         "convert good.png out.png --to hsv24", "convert good.png out.png --to yuv444p", f"call {C3} good.png out.png"),
     "out.pgm: PGM holds grey": "convert good.png out.pgm",
-    "good.png: no conversion leads to bt2020 of limited range; the nearest that there is: bt601": "convert good.png out.y4m --matrix bt2020",
+    "good.png: no conversion leads to bt2020 of limited range; the nearest that there is: bt601":
+        "convert good.png out.y4m --matrix bt2020",
     "good.png: --dither is for pixels of 16 bits": "convert good.png out.y4m --dither",
     "good.png: deinterlacing takes 4:2:0, and the picture is rgb24\n": "convert good.png out.y4m --deinterlace",
     "nowhere/out.png: No such file": "convert good.png nowhere/out.png",
@@ -116,7 +117,8 @@ MISUSED = {
     "no command 'convrt'; did you mean convert": ("convrt good.png out.png", "help convrt"),
     "OUT": ("convert good.png", f"call {C3} good.png"),
     "IN": "sheet out.png",
-    "out.gif: write which kind of file? Name it, or say --as, one of png jpg": ("convert good.png out.gif", "chart out.gif"),
+    "out.gif: write which kind of file? Name it, or say --as, one of png jpg": (
+        "convert good.png out.gif", "chart out.gif"),
     "out: ": "convert good.png out",
     "Say --as one of png jpg": "convert good.png -",
     "--as: 'gif' is none of png jpg": "convert good.png out.png --as gif",
@@ -130,8 +132,8 @@ MISUSED = {
     **{f"--{option}": [f"{command} good.png out.png --{option} {value}" for value in values.split()]
        for command, option, values in (
            ("convert", "quality", "3"), ("convert", "repeat", "0"), ("convert", "threads", "0 many"),
-           ("reduce", "levels", "1"), ("reduce", "noise", "101"), ("demosaic", "method", "best"), ("grey", "weights", "1,2 1,2,x"),
-           ("twist", "matrix", "sepi saturation= 1;2;3"))},
+           ("reduce", "levels", "1"), ("reduce", "noise", "101"), ("demosaic", "method", "best"),
+           ("grey", "weights", "1,2 1,2,x"), ("twist", "matrix", "sepi saturation= 1;2;3"))},
     "'best' is none of none, ordered, fs, jjn, stucki": "reduce good.png out.png --dither best",
     "'rgb' is none of bggr, rggb, gbrg, grbg": "demosaic good.png out.png --grid rgb",
     "no function zoriNothing": "call zoriNothing good.png out.png",

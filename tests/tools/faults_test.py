@@ -93,7 +93,8 @@ class Faults(unittest.TestCase):
             def close():
                 for stream in streams:
                     os.close(stream)
-            self.assertEqual(run("call zoriRGBToYUV420_8u_C3P3R good.png results/a.y4m", preexec_fn=close).returncode, 0)
+            result = run("call zoriRGBToYUV420_8u_C3P3R good.png results/a.y4m", preexec_fn=close)
+            self.assertEqual(result.returncode, 0)
             result = run("--max-pixels 1 convert good.png results/b.y4m", preexec_fn=close)
             self.assertEqual((result.returncode, os.listdir("results")), (1, ["a.y4m"]))
             run("call zoriRGBToYUV420_8u_C3P3R odd.png results/a.yuv", preexec_fn=close)
