@@ -149,9 +149,9 @@ typedef enum {
 
 /* Zeros, but for the size, are the defaults: ZorPlanOptions options = {sizeof options}. */
 typedef struct {
-    size_t structBytes; /* of this structure as the caller knows it; what lies beyond is at its default */
-    int threads;        /* the most that are used; 0: ownGetNumThreads() when the plan is made */
-    int stripRows;      /* rows of a strip, rounded up to a multiple of 4; 0: as the cache wants it */
+    size_t structBytes; /* of this structure as the caller knows it; members beyond have their defaults */
+    int threads;        /* the most that a run uses; 0: ownGetNumThreads() when the plan is made */
+    int stripRows;      /* rows of a strip, rounded up to a multiple of 4; 0: as suits the cache */
     ZorAlpha alpha;
     ZorDepth depth;
     ZorFields fields;
@@ -165,8 +165,8 @@ typedef struct ZorPlan ZorPlan;
  * Makes a plan; null options are the defaults. Null where memory is out; any other plan has a status, which is Ok or
  * says why it cannot be run:
  *   zorStatusNullPointer    a picture or the name of its format is null
- *   zorStatusBadArgument    options: structBytes, a negative number or an enumerator that there is not; a matrix that
- *                           nobody knows, or that the format cannot have; a range that the matrix cannot have
+ *   zorStatusBadArgument    options: structBytes, a negative number or an enumerator that does not exist; a matrix
+ *                           that is unknown, or that the format cannot have; a range that the matrix cannot have
  *   zorStatusBadSize        a side below 1, rows above 2^31 - 1 bytes, or two different sizes
  *   zorStatusUnknownFormat
  *   zorStatusNoConversion

@@ -54,7 +54,7 @@ struct Chain {
     bool isCut() const { return stripRows < size.height; }
     int strips() const { return (size.height + stripRows - 1) / stripRows; }
 
-    // Lays out the memory of a strip of `rows` rows, or, for 0, of the number of rows that suits the cache.
+    // Lays out the memory of a strip of `rows` rows; 0: of the number that suits the cache.
     void layOut(int rows);
 
     // Whether steps and pointers of the caller can be used.

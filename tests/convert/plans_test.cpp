@@ -194,6 +194,13 @@ TEST(Plans, GoldenPixelsAndWays)
         {{"yuv420p", "rgba", sd, sd}, {"", "zoriYCrCb420ToRGB_8u_P3C4R"}},
         {{"uyvy", "nv12", sd, sd}, {"zoriCbYCr422ToYCbCr420_8u_C2P2R"}},
         {{"nv12", "yuv420p", hd, hd}, {"zoriYCbCr420_8u_P2P3R"}},
+        // Chroma is left out and repeated, never filtered.
+        {{"yuv422p", "yuv420p", sd, sd}, {"zoriYCbCr422ToYCbCr420_8u_P3R"}},
+        {{"yuv420p", "yuv422p", sd, sd}, {"zoriYCbCr420ToYCbCr422_8u_P3R"}},
+        {{"yuyv", "nv12", hd, hd}, {"zoriYCbCr422ToYCbCr420_8u_C2P2R"}},
+        {{"nv12", "yuyv", hd, hd}, {"zoriYCbCr420ToYCbCr422_8u_P2C2R"}},
+        {{"yuyv", "nv11", sd, sd}, {"zoriYCbCr422ToYCbCr411_8u_C2P2R"}},
+        {{"nv11", "yuyv", sd, sd}, {"zoriYCbCr411ToYCbCr422_8u_P2C2R"}},
         {{"bgr24", "uyvy", full, full}, {"zoriBGRToCbYCr422_709HDTV_8u_C3C2R"}},
         {{"rgb24", "yuv420p", tv, tv}, {"zoriRGBToYUV420_8u_C3P3R"}},
         {{"yuv420p", "yuv420p", sd, hd}, {"zoriYCbCr420ToBGR_8u_P3C3R", "zoriBGRToYCbCr420_709CSC_8u_C3P3R"}},

@@ -30,7 +30,8 @@ with tempfile.TemporaryDirectory() as folder:
     (folder / "declared.cpp").write_text("\n".join([f'#include "{header}"', *functions]), encoding="ascii")
     (folder / "declared.map").write_text(f"{version} {{ global: zor*; own*; local: *; }};\n", encoding="ascii")
     declared = folder / pathlib.Path(library).resolve().name
-    subprocess.run([compiler, "-g", "-shared", "-fPIC", "-w", f"-Wl,--version-script={folder}/declared.map",
-                    f"-Wl,-soname,{declared.name}", "-o", declared, folder / "declared.cpp"], check=True)
+    subprocess.run([compiler, "-g", "-shared", "-fPIC", "-w", f"-I{pathlib.Path(header).parent}",
+                    f"-Wl,--version-script={folder}/declared.map", f"-Wl,-soname,{declared.name}", "-o", declared,
+                    folder / "declared.cpp"], check=True)
     result = subprocess.run(["abidiff", "--no-unreferenced-symbols", declared, library], capture_output=True, text=True)
 leave_with([result.stdout + result.stderr] if result.returncode else [])

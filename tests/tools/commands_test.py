@@ -1,7 +1,6 @@
 # SPDX-License-Identifier: MIT
 """What the commands do with sound files."""
 import itertools
-import math
 import random
 import re
 import unittest
@@ -14,6 +13,13 @@ def smooth(width, height):
     across, down = max(width, 64), max(height, 64)
     return bytes(value for y in range(height) for x in range(width)
                  for value in (40 + 150 * x // across, 60 + 140 * y // down, 200 - 120 * (x + y) // (across + down)))
+
+
+def there_and_back(picture, target, size):
+    """What the tool prints on the way to a headerless file of another format, and the PSNR of what comes back"""
+    printed = zorcc("convert", picture, "there.raw", "--stats", "--to", target)
+    zorcc(f"convert --size {size} --format {target} there.raw back.ppm --to rgb24")
+    return printed, psnr(unit_samples(picture), unit_samples("back.ppm"))
 
 
 class List(unittest.TestCase):
@@ -32,35 +38,33 @@ class List(unittest.TestCase):
 class Call(unittest.TestCase):
     def test_every_function_there_and_back(self):
         """Each function's result, converted back or compared as it is, is the picture it came from."""
-        write_pnm("smooth.ppm", 64, 48, smooth(64, 48))
-        zorcc("convert smooth.ppm deep.png --to rgb48")
-        rows = [line.split()[:3] for line in zorcc("list").splitlines()]
-        made = {destination for _, source, destination in rows if not re.search("565|555|444", source)}
-        for name, source, destination in rows:
+        write_pnm("rgb24.ppm", 64, 48, smooth(64, 48))
+        zorcc("convert rgb24.ppm rgb48.ppm --to rgb48")
+        original, kinds = unit_samples("rgb24.ppm"), set()
+        for name, source, destination in (line.split()[:3] for line in zorcc("list").splitlines()):
             if source.startswith("bayer") or not re.search(r"(RGB|BGR|5[56]5)To|To(RGB|BGR|SBGR)", name):
                 continue
-            if "ToGray" in name or "Gamma" in name:  # grey; takes linear light
+            # Grey is another picture, gamma takes linear light, and no function makes 4:4:4 of BT.709.
+            if re.search("ToGray|Gamma|YCbCrToBGR_709CSC", name):
                 continue
+            # Under sanitizers one function of each pair of layouts, such as 8u_C3P3R.
+            kind = name.split("_", 1)[1] if SANITIZED else name
+            if kind in kinds:
+                continue
+            kinds.add(kind)
+            depth = "rgb48" if "SBGR" in name else "rgb24"
             with self.subTest(name):
                 if source.startswith(("rgb", "bgr")):
-                    zorcc("call", name, "smooth.ppm", "result.yuv")
-                    zorcc(f"convert --size 64x48 --format {destination} result.yuv result.png --matrix yuv",
-                          "--to", "rgb48" if "SBGR" in name else "rgb24")
-                elif source in made:
-                    zorcc("convert", "deep.png" if "SBGR" in name else "smooth.ppm",
-                          "source.yuv", "--matrix", "yuv", "--to", source)
-                    zorcc(f"call {name} --size 64x48 source.yuv result.png")
+                    zorcc("call", name, "rgb24.ppm", "result.yuv")
+                    zorcc(f"convert --size 64x48 --format {destination} result.yuv back.ppm --matrix yuv --to {depth}")
                 else:
-                    # No function makes the format: what is grey must come out grey.
-                    write("source.yuv", bytes([128]) * (64 * 48 * 6))  # whole pictures of every sampling
-                    zorcc(f"call {name} --size 64x48 source.yuv result_%d.ppm")
-                    greys = samples("result_1.ppm")
-                    self.assertAlmostEqual(sum(greys) / len(greys), 128, delta=8)
-                    self.assertLessEqual(max(greys) - min(greys), 16 if "Dither" in name else 0)
-                    continue
+                    given = f"{source}_{depth}.yuv"
+                    if not os.path.exists(given):
+                        zorcc(f"convert {depth}.ppm {given} --matrix yuv --to {source}")
+                    zorcc(f"call {name} --size 64x48 {given} back.ppm")
                 # To PhotoYCC and back makes colours darker by 3 %: its coefficients are rounded like that.
                 floor = 27 if "444" in name else 32 if re.search("5[56]5|YCC", name) else 38
-                self.assertGreater(compare("smooth.ppm", "result.png")["all"][0], floor)
+                self.assertGreater(psnr(original, unit_samples("back.ppm")), floor)
 
     def test_known_pixels(self):
         """Planes, alpha and rearranged inputs, by the luma weights 19595, 38470 and 7471 of 65536."""
@@ -68,6 +72,7 @@ class Call(unittest.TestCase):
         write_pnm("square.ppm", 2, 2, [255, 0, 0, 0, 255, 0, 0, 0, 255, 255, 255, 255])
         write_png("alpha.png", [[(255, 0, 0, 7), (0, 0, 255, 200)]], 8, RGB_ALPHA)
         write("grey.yuv", bytes([9, 99, 128, 128]))
+        write("red.yuv", bytes([63, 102, 240]))
         for line, *expected in (
                 ("zoriRGBToYUV_8u_C3P3R row.ppm y.pgm u.pgm v.pgm", [128, 102, 255], [128, 239, 90], [255, 29, 76]),
                 ("zoriRGBToYUV_8u_AC4R alpha.png kept.yuv", [76, 90, 255, 255, 29, 239, 102, 255]),
@@ -75,6 +80,8 @@ class Call(unittest.TestCase):
                 ("zoriYUV422ToRGB_8u_P3AC4R --size 2x1 grey.yuv zero.png", [9, 9, 9, 0, 99, 99, 99, 0]),
                 ("zoriRGBToYUV420_8u_P3R square.ppm planes.yuv", [76, 149, 29, 255]),
                 ("zoriBGRToYUV420_8u_AC4P3R square.ppm bgra.yuv", [76, 149, 29, 255]),
+                ("zoriYCbCrToBGR_709CSC_8u_P3C3R --size 1x1 red.yuv red.ppm", [255, 0, 0]),
+                ("zoriYCbCrToBGR_709CSC_8u_P3C4R --size 1x1 red.yuv red.ppm", [255, 0, 0]),
                 # 5-6-5: cut down to the top bits, red lowest.
                 ("zoriRGB565ToYUV420_16u8u_C3P3R square.ppm cut.yuv", [74, 147, 28, 250])):
             with self.subTest(line):
@@ -123,21 +130,24 @@ class Reduce(unittest.TestCase):
             for levels, values in ((2, {0, 255}), (4, {0, 85, 170, 255}), (16, set(range(0, 256, 17)))):
                 results.add(reduced(f"--levels {levels} --dither {method}"))
                 self.assertEqual(set(samples("out.pgm")), values)
-            self.assertEqual(reduced(f"--dither {method}") == reduced(f"--dither {method} --noise 50"),
-                             method == "none")
+            self.assertEqual(reduced(f"--levels 16 --dither {method} --noise 50") in results, method == "none")
         self.assertEqual(len(results), 15)
         self.assertEqual(reduced(""), reduced("--levels 2 --dither fs --noise 0"))
 
-    def test_every_kind_of_sample(self):
-        for depth, colour, levels, pixel, expected in (
-                (8, RGB, 2, (0, 127, 128), [0, 0, 255]), (16, GREY, 2, (32768,), [65535]),
-                (16, RGB_ALPHA, 4, (0, 40000, 30000, 12345), [0, 43690, 21845, 12345])):
+    def test_every_kind_of_sample_and_depth(self):
+        for depth, colour, options, pixel, result, expected in (
+                (8, RGB, "--levels 2", (0, 127, 128), 8, [0, 0, 255]), (16, GREY, "--levels 2", (32768,), 16, [65535]),
+                (16, RGB_ALPHA, "--levels 4", (0, 40000, 30000, 12345), 16, [0, 43690, 21845, 12345]),
+                (16, RGB, "--levels 4 --depth 8", (0, 32767, 65535), 8, [0, 85, 255]),
+                (16, RGB, "--levels 4 --depth 16", (0, 32767, 65535), 16, [0, 21845, 65535])):
             write_png("in.png", [[pixel]], depth, colour)
-            zorcc(f"reduce in.png out.png --dither none --levels {levels}")
-            self.assertEqual(read_png("out.png"), (depth, colour, expected))
-        write("in.pfm", b"Pf\n4 1\n-1.0\n" + struct.pack("<4f", -3.0, 0.3, 0.6, math.nan))
+            zorcc("reduce in.png out.png --dither none", *options.split())
+            self.assertEqual(read_png("out.png"), (result, colour, expected))
+        write_pfm("in.pfm", 4, 1, [-3.0, 0.3, 0.6, math.nan])
         zorcc("reduce in.pfm out.pfm --dither none --levels 3")
-        self.assertEqual([round(value, 4) for value in struct.unpack("<4f", read("out.pfm")[-16:])], [0, 0.5, 0.5, 0])
+        self.assertEqual([round(value, 4) for value in read_pfm("out.pfm")], [0, 0.5, 0.5, 0])
+        zorcc("reduce in.pfm out.pgm --dither none --levels 4 --depth 8")
+        self.assertEqual(samples("out.pgm"), [0, 85, 170, 0])
 
 
 class Demosaic(unittest.TestCase):
@@ -145,21 +155,21 @@ class Demosaic(unittest.TestCase):
     GRIDS = {"rggb": (0, 1, 1, 2), "bggr": (2, 1, 1, 0), "gbrg": (1, 2, 0, 1), "grbg": (1, 0, 2, 1)}
 
     def write_mosaic(self, grid, depth):
-        """A smooth picture through the grid of colours."""
-        write_pnm("smooth.ppm", 61, 43, smooth(61, 43))
-        colours, maximum = samples("smooth.ppm"), 2 ** depth - 1
+        """A smooth picture, which it gives, through the grid of colours."""
+        colours, maximum = smooth(61, 43), 2 ** depth - 1
         write_pnm("m.pgm", 61, 43, [colours[3 * (61 * y + x) + self.GRIDS[grid][y % 2 * 2 + x % 2]] * maximum // 255
                                     for y in range(43) for x in range(61)], maximum)
+        return [value / 255 for value in colours]
 
     def test_every_grid_method_and_depth(self):
         for grid, method, depth in itertools.product(self.GRIDS, ("gradient", "ahd"), (8, 16)):
             with self.subTest(grid=grid, method=method, depth=depth):
-                self.write_mosaic(grid, depth)
-                zorcc(f"demosaic m.pgm result.png --grid {grid} --method {method}")
-                self.assertEqual(read_png("result.png")[:2], (depth, RGB))
-                self.assertGreater(compare("smooth.ppm", "result.png")["all"][0], 44)
-        zorcc("demosaic m.pgm wrong.png --grid bggr")
-        self.assertLess(compare("smooth.ppm", "wrong.png")["all"][0], 20)
+                original = self.write_mosaic(grid, depth)
+                zorcc(f"demosaic m.pgm result.ppm --grid {grid} --method {method}")
+                self.assertEqual(read_pnm("result.ppm")[2], 2 ** depth - 1)
+                self.assertGreater(psnr(original, unit_samples("result.ppm")), 44)
+        zorcc("demosaic m.pgm wrong.ppm --grid bggr")
+        self.assertLess(psnr(original, unit_samples("wrong.ppm")), 20)
 
     def test_defaults(self):
         self.write_mosaic("rggb", 8)
@@ -182,9 +192,9 @@ class ColourModels(unittest.TestCase):
         write_png("deep.png", [[(20000, 10000, 5000)]], 16, RGB)
         zorcc("twist deep.png out.png --matrix", "1 0 0 0.5; 0 0 0 1; 0 1 1 0")
         self.assertEqual(read_png("out.png")[2], [52768, 65535, 15000])  # 52767.5
-        write("in.pfm", b"PF\n1 1\n-1.0\n" + struct.pack("<3f", -3.0, 0.5, 2.0))
+        write_pfm("in.pfm", 1, 1, [-3.0, 0.5, 2.0])
         zorcc("twist in.pfm out.pfm --matrix", "0 0 1 1; 1 0 0 0; 0 1 0 0")
-        self.assertEqual(struct.unpack("<3f", read("out.pfm")[-12:]), (3, -3, 0.5))
+        self.assertEqual(read_pfm("out.pfm"), [3, -3, 0.5])
 
     def test_gamma(self):
         write_png("in.png", [[(1, 128, 255, 9)]], 8, RGB_ALPHA)
@@ -202,12 +212,12 @@ class ColourModels(unittest.TestCase):
         self.assertEqual(read_png("out.png"), (8, GREY, [124, 255]))
         zorcc("grey in.png out.png --weights 0.5,0.25,0.25")
         self.assertEqual(read_png("out.png")[2], [138, 255])  # 137.5
-        write("in.pfm", b"PF\n1 1\n-1.0\n" + struct.pack("<3f", 1.0, 0.0, 0.0))
+        write_pfm("in.pfm", 1, 1, [1.0, 0.0, 0.0])
         zorcc("grey in.pfm out.pfm --weights 0.25,1,1")
-        self.assertEqual(struct.unpack("<f", read("out.pfm")[-4:]), (0.25,))
+        self.assertEqual(read_pfm("out.pfm"), [0.25])
 
     def test_tonemap(self):
-        write("in.pfm", b"Pf\n4 1\n-1.0\n" + struct.pack("<4f", 0, 2, 4, 510))
+        write_pfm("in.pfm", 4, 1, [0, 2, 4, 510])
         zorcc("tonemap in.pfm out.png")
         self.assertEqual(read_png("out.png"), (8, GREY, [0, 1, 2, 255]))
         zorcc("tonemap in.pfm out.png --mean")  # twice the mean is 258
@@ -230,13 +240,14 @@ class Convert(unittest.TestCase):
                                         ("luv48s", "ToLUV_16s_C3R", math.inf), ("luvf32", "ToLUV_32f_C3R", math.inf),
                                         ("photoycc48", "ToYCC_16u_C3R", 35)):
             with self.subTest(target):
-                self.assertIn(function + ":", zorcc("convert smooth.ppm one.raw --stats --to", target))
-                self.assertGreaterEqual(there_and_back("smooth.ppm", target, "200x100")[0], floor)
+                printed, found = there_and_back("smooth.ppm", target, "200x100")
+                self.assertIn(function + ":", printed)
+                self.assertGreaterEqual(found, floor)
 
     def test_models_by_name_have_the_samples_of_the_input(self):
         write_pnm("bytes.ppm", 1, 1, [255, 0, 0])
         write_pnm("words.ppm", 1, 1, [65535, 0, 0], 65535)
-        write("floats.pfm", b"PF\n1 1\n-1.0\n" + struct.pack("<3f", 1, 0, 0))
+        write_pfm("floats.pfm", 1, 1, [1, 0, 0])
         for model, in_bytes, in_words in (("xyz", [105, 54, 4], [27030, 13937, 1267]),
                                           ("luv", [136, 223, 173], [34891, 57207, 44462]),
                                           ("lab", [136, 208, 195], [34891, 53064, 49776])):
@@ -258,29 +269,18 @@ class Convert(unittest.TestCase):
         self.assertEqual(samples("back.ppm"), [188, 188, 188])
 
     def test_odd_sizes_lose_nothing(self):
-        for width, height in ((1, 1), (3, 5), (641, 481), (2, 7), (9, 1)):
-            size = f"{width}x{height}"
-            write_pnm("odd.ppm", width, height, smooth(width, height))
+        for width, height in ((1, 1), (9, 1), (2, 7), (131, 97)):
+            picture = smooth(width, height)
+            write_pnm("odd.ppm", width, height, picture)
             for target, tag in (("yuv420p", "420jpeg"), ("yuv422p", "422"), ("yuv444p", "444"), ("yuyv", "422"),
                                 ("nv12", "420jpeg"), ("yv12", "420jpeg")):
-                with self.subTest(size=size, target=target):
+                with self.subTest(width=width, height=height, target=target):
                     zorcc("convert odd.ppm odd.y4m --to", target)
                     words, frames = read_y4m("odd.y4m")
                     self.assertEqual((words[1:3], words[6], len(frames)), ([f"W{width}", f"H{height}"], "C" + tag, 1))
                     zorcc("convert odd.y4m back.ppm")
-                    for found in (compare("odd.ppm", "back.ppm")["all"], there_and_back("odd.ppm", target, size)):
-                        self.assertGreater(found[0], 40)
-                        self.assertLess(found[1], 9)  # a lost last column or row would show here
-
-    def test_usual_formats(self):
-        zorcc("chart c.png --size 64x36")
-        for line in ("c.png c.y4m", "c.y4m c.yuv", "c.png c.rgb", "c.png c.ppm", "c.png bgr.raw --to bgr24"):
-            zorcc("convert", *line.split())
-        words, frames = read_y4m("c.y4m")
-        self.assertEqual(words, "YUV4MPEG2 W64 H36 F25:1 Ip A1:1 C420jpeg XCOLORRANGE=LIMITED".split())
-        self.assertEqual(read("c.yuv"), frames[0])
-        self.assertEqual(read("c.rgb"), read_pnm("c.ppm")[3])
-        self.assertEqual(read("bgr.raw")[0::3], read("c.rgb")[2::3])
+                    # A lost last column or row would show here.
+                    self.assertLess(max(abs(a - b) for a, b in zip(picture, samples("back.ppm"), strict=True)), 9)
 
     def test_many_pictures(self):
         frames = [bytes([40 * i + y // 2 for y in range(8 * 6)] + 24 * [100 + i]) for i in range(5)]
@@ -311,52 +311,36 @@ class Convert(unittest.TestCase):
     def test_sixteen_bits_a_pixel(self):
         write_pnm("smooth.ppm", 200, 100, smooth(200, 100))
         write_pnm("flat.ppm", 8, 8, bytes([101, 60, 190]) * 64)
+        zorcc("convert flat.ppm flat709.y4m --matrix bt709")  # of which no function dithers
+        words = lambda path: set(struct.unpack("<64H", read(path)))
         for target, floor in (("rgb565", 33), ("bgr565", 33), ("rgb555", 31), ("bgr555", 31), ("rgb444", 28),
                               ("bgr444", 28)):
             with self.subTest(target):
-                self.assertGreater(there_and_back("smooth.ppm", target, "200x100")[0], floor)
+                self.assertGreater(there_and_back("smooth.ppm", target, "200x100")[1], floor)
                 # Of a flat picture cutting down makes one word, dithering several.
                 lines = zorcc(f"convert flat.ppm dithered.raw --to {target} --dither --stats").splitlines()
                 self.assertIn(f"To{target.upper()}Dither_8u16u_P3C3R", lines[-1])
-                zorcc("convert flat.ppm flat709.y4m --matrix bt709")  # of which no function dithers
                 lines = zorcc(f"convert flat709.y4m 709.raw --to {target} --dither --stats --matrix bt709").splitlines()
                 self.assertIn("Dither", lines[-1])
                 zorcc("convert flat.ppm cut.raw --to", target)
-                words = lambda path: set(struct.unpack("<64H", read(path)))
                 self.assertEqual((len(words("cut.raw")), len(words("dithered.raw")) > 1), (1, True))
         # The channel named first is in the low bits, elsewhere in the high ones.
         write("565.raw", bytes([0x1f, 0]))
         for name, expected in (("rgb565", [248, 0, 0]), ("bgr565", [0, 0, 248]), ("rgb565le", [0, 0, 248])):
             zorcc(f"convert --size 1x1 --format {name} 565.raw one.ppm")
             self.assertEqual(samples("one.ppm"), expected)
-        write("odd.raw", bytes(range(6)))
-        zorcc("convert --size 3x1 --format rgb565 odd.raw copy.raw --to rgb565")
-        self.assertEqual(read("copy.raw"), read("odd.raw"))
 
     def test_reversible_ycocg(self):
         """Lifting loses nothing, be it of 8 bits or of 16."""
-        rng = random.Random(5)
-        write_png("deep.png", [[tuple(rng.randrange(65536) for _ in range(3)) for _ in range(64)] for _ in range(48)],
-                  16, RGB)
-        zorcc("convert deep.png deep.png")  # as it writes them
-        zorcc("chart chart.png --size 64x48")
-        deep_pictures = [("deep.png", "64x48")]
-        mosaic = os.path.join(PICTURES, "rose_bayer_rggb_768x512_16bit.pgm")
-        if os.path.exists(mosaic):
-            zorcc("demosaic", mosaic, *"rose.png --grid rggb".split())
-            deep_pictures.append(("rose.png", "768x512"))
-        trials = [("chart.png", "64x48", "ycocgr444p16s", "")]
-        trials += [(*deep, "ycocgr444p16s", " --to rgb48") for deep in deep_pictures]
-        trials += [(*deep, "ycocgr444p32s", "") for deep in deep_pictures]
-        for path, size, lifted, back in trials:
-            with self.subTest(f"{path} {lifted}"):
-                zorcc(f"convert {path} lifted.raw --to {lifted}")
-                zorcc(f"convert --size {size} --format {lifted} lifted.raw back.png{back}")
-                self.assertEqual(read("back.png"), read(path))
-
-    def test_result_does_not_depend_on_threads(self):
-        zorcc("chart c.png --size 300x200")
-        self.assertEqual(len({(zorcc("convert c.png c.y4m --threads", n), read("c.y4m")) for n in (1, 2, 3, 500)}), 1)
+        dice = random.Random(5)
+        write_pnm("8.ppm", 64, 48, dice.randbytes(64 * 48 * 3))
+        write_pnm("16.ppm", 64, 48, [dice.randrange(65536) for _ in range(64 * 48 * 3)], 65535)
+        for depth, lifted, back in ((8, "ycocgr444p16s", ""), (16, "ycocgr444p16s", "--to rgb48"),
+                                    (16, "ycocgr444p32s", "")):
+            with self.subTest(depth=depth, lifted=lifted):
+                zorcc(f"convert {depth}.ppm lifted.raw --to {lifted}")
+                zorcc(f"convert --size 64x48 --format {lifted} lifted.raw back.ppm {back}")
+                self.assertEqual(read("back.ppm"), read(f"{depth}.ppm"))
 
     def test_onto_itself_and_through_a_link_whose_name_hides_the_kind(self):
         zorcc("chart c.png --size 20x10")
@@ -420,9 +404,7 @@ class Chart(unittest.TestCase):
     def test_any_size_the_same_bytes_every_time_and_all_corners_and_greys(self):
         for size in ("1x1", "2x1", "1x9", "3x5", "17x13", "2000x3", "641x481", "1280x720"):
             zorcc("chart a.ppm --size", size)
-            zorcc("chart b.ppm --size", size)
             self.assertEqual("%dx%d" % read_pnm("a.ppm")[:2], size)
-            self.assertEqual(read("a.ppm"), read("b.ppm"))
         zorcc("chart default.ppm")
         self.assertEqual(read("default.ppm"), read("a.ppm"))
         values = samples("default.ppm")
@@ -432,43 +414,10 @@ class Chart(unittest.TestCase):
         self.assertEqual((corners | {(grey, grey, grey) for grey in range(256)}) - colours, set())
 
 
-class CompareAndSheet(unittest.TestCase):
-    def test_compare_counts_squares_and_the_largest_difference(self):
-        write_pnm("a.ppm", 31, 17, bytes([100] * 31 * 17 * 3))
-        write_pnm("b.ppm", 31, 17, bytes([109] + 99 * [100] + [83] + [100] * (31 * 17 * 3 - 101)))
-        found = compare("a.ppm", "b.ppm")
-        for name, squares, count, largest in (("R", 81, 527, 9), ("G", 289, 527, 17), ("all", 81 + 289, 3 * 527, 17)):
-            self.assertAlmostEqual(found[name][0], 10 * math.log10(255 ** 2 * count / squares), delta=0.006)
-            self.assertEqual(found[name][1], largest)
-        self.assertEqual(found["B"], (math.inf, 0))
-
-    def test_compare_y4m_over_all_frames(self):
-        frames = [bytes(range(i, i + 15)) + bytes(12 * [100]) for i in range(3)]
-        write_y4m("a.y4m", 3, 5, frames)
-        write_y4m("b.y4m", 3, 5, frames[:2] + [frames[2][:14] + bytes([116]) + frames[2][15:26] + bytes([103])])
-        found = compare("a.y4m", "b.y4m")
-        self.assertEqual({name: found[name][1] for name in found}, {"Y": 100, "U": 0, "V": 3, "all": 100})
-        self.assertAlmostEqual(found["Y"][0], 10 * math.log10(255 ** 2 * 45 / 100 ** 2), delta=0.006)
-
-    def test_compare_alpha_only_where_both_have_it(self):
-        write_pnm("opaque.ppm", 1, 1, [1, 2, 3])
-        for alpha in (4, 14):
-            write_png(f"{alpha}.png", [[(1, 2, 3, alpha)]], 8, RGB_ALPHA)
-        self.assertEqual(compare("4.png", "14.png")["A"][1], 10)
-        self.assertEqual(compare("4.png", "opaque.ppm"), {name: (math.inf, 0) for name in ("R", "G", "B", "all")})
-
+class Sheet(unittest.TestCase):
     def test_sheet(self):
         write_pnm("a.ppm", 2, 3, 6 * [1, 2, 3])
         write_pnm("b.ppm", 1, 1, [4, 5, 6])
         zorcc("sheet s.ppm a.ppm b.ppm")
         self.assertEqual(read_pnm("s.ppm")[:2], (2 + 8 + 1, 3))
         self.assertEqual(samples("s.ppm")[:66], 2 * [1, 2, 3] + 24 * [32] + [4, 5, 6] + 2 * [1, 2, 3] + 27 * [32])
-
-
-class Help(unittest.TestCase):
-    def test_help_and_version(self):
-        self.assertIn("libzorccn8.so.6.1", zorcc("--version"))
-        for command in ("list", "call", "convert", "reduce", "demosaic", "twist", "gamma", "grey", "tonemap", "chart",
-                        "compare", "sheet"):
-            self.assertIn(command, zorcc("--help"))
-            self.assertRegex(zorcc(command, "--help"), r"Examples?:\n  zorcc " + command)

@@ -1,6 +1,5 @@
 # SPDX-License-Identifier: MIT
 """What the commands do with broken files, bad arguments and signals: one line, an exit code, nothing half-written."""
-import random
 import signal
 import time
 import unittest
@@ -9,7 +8,6 @@ from files import *
 
 FAILED, USAGE = 1, 2
 HUGE = 2 ** 31 - 1
-
 
 GOOD = ("good.png", "good.jpg", "good.y4m", "good.ppm")
 
@@ -66,8 +64,9 @@ RAW = "--format yuv420p good.yuv out.png --size"
 FAILING = {
     **{f"{name}: {text}": f"convert {name} out.png" for name, (_, text) in UNREADABLE.items()},
     **{f"full.{kind}: ": f"convert good.png full.{kind}" for kind in ("ppm", "png", "jpg", "y4m")},
-    "good.png: zoriReduceBits_8u_C3R: that many levels": "reduce good.png out.png --levels 257",
+    "good.png: zoriReduceBits_8u_C3R: this number of levels is not supported": "reduce good.png out.png --levels 257",
     "good.y4m: cannot reduce yuv420p": "reduce good.y4m out.png",
+    "good.png: a picture of 8 bits cannot be reduced to 16": "reduce good.png out.png --depth 16",
     "missing.png: No such file": ("convert missing.png out.png", "compare good.png missing.png",
                                   "sheet out.png good.png missing.png", "reduce missing.png out.png"),
     "missing.pgm: No such file": "demosaic missing.pgm out.png",
@@ -84,7 +83,8 @@ FAILING = {
     "out.png: this kind of file holds RGB": (
         "convert good.png out.png --to hsv24", "convert good.png out.png --to yuv444p", f"call {C3} good.png out.png"),
     "out.pgm: PGM holds grey": "convert good.png out.pgm",
-    "good.png: no conversion leads to bt2020 of limited range": "convert good.png out.y4m --matrix bt2020",
+    "good.png: no conversion leads to bt2020 of limited range; the nearest that there is: bt601":
+        "convert good.png out.y4m --matrix bt2020",
     "good.png: --dither is for pixels of 16 bits": "convert good.png out.y4m --dither",
     "good.png: deinterlacing takes 4:2:0, and the picture is rgb24\n": "convert good.png out.y4m --deinterlace",
     "nowhere/out.png: No such file": "convert good.png nowhere/out.png",
@@ -106,18 +106,25 @@ FAILING = {
     "good.y4m: the file holds yuv420p: convert it to RGB": (
         "twist good.y4m out.png --matrix swap", "grey good.y4m out.png", "gamma good.y4m out.png"),
     "good.png: the file holds rgb24, but tone mapping takes a grey PFM": "tonemap good.png out.png",
+    "tiny.pgm: the region is not in the picture": "call zoriCFAToRGB_8u_C1C3R tiny.pgm out.png --region 3,0,2,2",
+    "none_%d.png: No such file": "convert none_%d.png out.y4m",
     "out.png: ": f"chart out.png --size {HUGE}x{HUGE}",
     "nothing_of_the_kind: ": "list nothing_of_the_kind",
 }
 MISUSED = {
     "which command?": ("", "--threads 2"),
-    "paint": "paint",
+    "no command 'paint'": "paint",
+    "no command 'convrt'; did you mean convert": ("convrt good.png out.png", "help convrt"),
     "OUT": ("convert good.png", f"call {C3} good.png"),
     "IN": "sheet out.png",
-    "out.gif": ("convert good.png out.gif", "chart out.gif"),
+    "out.gif: write which kind of file? Name it, or say --as, one of png jpg": (
+        "convert good.png out.gif", "chart out.gif"),
     "out: ": "convert good.png out",
+    "Say --as one of png jpg": "convert good.png -",
+    "--as: 'gif' is none of png jpg": "convert good.png out.png --as gif",
     "--to": "convert good.png out.raw",
-    "unknown format yuv999p; the nearest is ": "convert good.png out.y4m --to yuv999p",
+    "unknown format yuv42p; the nearest is yuv422p": "convert good.png out.y4m --to yuv42p",
+    "unknown matrix bt79; the nearest is bt709": "convert good.png out.yuv --matrix bt79",
     "good.yuv: a headerless file needs --size": "convert good.yuv out.png",
     "--format": "convert --size 64x48 good.yuv out.png",
     "--size": ("convert --format yuv420p good.png out.png",
@@ -125,10 +132,15 @@ MISUSED = {
     **{f"--{option}": [f"{command} good.png out.png --{option} {value}" for value in values.split()]
        for command, option, values in (
            ("convert", "quality", "3"), ("convert", "repeat", "0"), ("convert", "threads", "0 many"),
-           ("reduce", "levels", "1"), ("reduce", "noise", "101"), ("reduce", "dither", "best"),
-           ("demosaic", "grid", "rgb"), ("demosaic", "method", "best"), ("grey", "weights", "1,2 1,2,x"),
-           ("twist", "matrix", "sepi saturation= 1;2;3"))},
+           ("reduce", "levels", "1"), ("reduce", "noise", "101"), ("demosaic", "method", "best"),
+           ("grey", "weights", "1,2 1,2,x"), ("twist", "matrix", "sepi saturation= 1;2;3"))},
+    "'best' is none of none, ordered, fs, jjn, stucki": "reduce good.png out.png --dither best",
+    "'rgb' is none of bggr, rggb, gbrg, grbg": "demosaic good.png out.png --grid rgb",
     "no function zoriNothing": "call zoriNothing good.png out.png",
+    "no function zoriRGBToYUV_8u_C3; did you mean zoriRGBToYUV_8u_C3": "call zoriRGBToYUV_8u_C3 good.png out.yuv",
+    "takes no arguments": [f"call {C3} good.png out.yuv {more}" for more in ("--levels 3", "--region 0,0,1,1")],
+    "'many' is no number": "call zoriReduceBits_8u_C3R good.png out.png --levels many",
+    "takes noise, method, levels": "call zoriReduceBits_8u_C3R good.png out.png --alpha 3",
     "name one file, or 3": f"call {C3} good.png y.pgm u.pgm",
 }
 
@@ -143,7 +155,7 @@ class Errors(unittest.TestCase):
         before = state()
         result = run(line)
         self.assertEqual((result.returncode, result.stdout), (code, ""), result)
-        self.assertRegex(result.stderr, r"^zorcc: [^\n]+\n$")
+        self.assertRegex(result.stderr, r"^zorcc: [^\n]{1,200}\n$")
         self.assertIn(text, result.stderr)
         self.assertEqual(state(), before)
 
@@ -161,24 +173,6 @@ class Errors(unittest.TestCase):
                 with self.subTest(name=name, cut=cut):
                     write("prefix", content[:cut])
                     self.assert_fails("convert prefix out.png", FAILED, "prefix: ")
-
-    def test_damaged_files_never_crash(self):
-        seed = random.SystemRandom().randrange(2 ** 32)
-        dice = random.Random(seed)
-        for name in GOOD:
-            for turn in range(25):
-                content = bytearray(read(name))
-                for _ in range(dice.choice((1, 1, 5))):
-                    content[dice.randrange(min(len(content), dice.choice((60, 700, 10 ** 6))))] = dice.randrange(256)
-                write("damaged", content)
-                result = run("convert damaged out_%d.ppm")
-                self.assertIn(result.returncode, (0, FAILED), (name, seed, turn, result))
-                self.assertEqual(result.stderr.count("\n"), result.returncode, (name, seed, turn, result))
-
-    def test_full_standard_output(self):
-        with open("/dev/full", "w") as full:
-            result = subprocess.run([ZORCC, "list"], stdout=full, stderr=subprocess.PIPE, text=True, env=ENVIRONMENT)
-        self.assertEqual((result.returncode, result.stderr), (FAILED, "zorcc: standard output: cannot write\n"))
 
     def test_a_signal_removes_what_is_unfinished(self):
         frame = read("two.y4m").split(b"\n", 1)[0] + b"\nFRAME\n" + read("good.yuv")

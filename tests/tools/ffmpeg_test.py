@@ -1,13 +1,9 @@
 # SPDX-License-Identifier: MIT
 """Files mean the same in another program: Y4M of every matrix, all formats that both know, pipes. Skipped where ffmpeg
 is not installed."""
-import array
 import itertools
-import math
 import random
 import re
-import shutil
-import subprocess
 import sys
 import unittest
 
@@ -21,6 +17,10 @@ if not shutil.which("ffmpeg"):
 MATRICES = {"bt601": ("bt601", "limited"), "bt709": ("bt709", "limited"), "bt709full": ("bt709", "full")}
 
 
+def ffmpeg(line):
+    subprocess.run(["ffmpeg", "-v", "error", "-y", *line.split()], check=True, stdin=subprocess.DEVNULL)
+
+
 class Ffmpeg(unittest.TestCase):
     def check(self, original, matrix, to, floor):
         zorcc("convert", original, "original.ppm")
@@ -28,8 +28,7 @@ class Ffmpeg(unittest.TestCase):
         # As ffmpeg shows it, without dithering or shortcuts in chroma.
         name, value_range = MATRICES[matrix]
         scale = f"scale=in_color_matrix={name}:in_range={value_range}:flags=accurate_rnd+full_chroma_int+bilinear"
-        subprocess.run(["ffmpeg", "-v", "error", "-y", "-i", "picture.y4m", "-vf", scale, "-pix_fmt", "rgb24",
-                        "decoded.ppm"], check=True, stdin=subprocess.DEVNULL)
+        ffmpeg(f"-i picture.y4m -vf {scale} -pix_fmt rgb24 decoded.ppm")
         self.assertGreater(compare("original.ppm", "decoded.ppm")["all"][0], floor)
         before, after = samples("original.ppm"), samples("decoded.ppm")
         for channel in range(3):
@@ -69,17 +68,10 @@ RAW = f"-f rawvideo -s {SIZE} -pix_fmt"
 SCALE = "scale=flags=neighbor+accurate_rnd+full_chroma_int+full_chroma_inp:sws_dither=none"
 
 
-def ffmpeg(line):
-    subprocess.run(["ffmpeg", "-v", "error", "-y", *line.split()], check=True, stdin=subprocess.DEVNULL)
-
-
-def psnr(a, b, kind="B"):
+def raw_psnr(a, b, kind="B"):
     """Of files with samples of a type of the array module"""
-    p, q = array.array(kind, read(a)), array.array(kind, read(b))
-    assert len(p) == len(q) > 0, (a, len(p), b, len(q))
     peak = {"B": 255, "H": 65535, "f": 1}[kind]
-    squares = sum((x - y) ** 2 for x, y in zip(p, q))
-    return 10 * math.log10(peak ** 2 * len(p) / squares) if squares else math.inf
+    return psnr(*([value / peak for value in array.array(kind, read(path))] for path in (a, b)))
 
 
 class Formats(unittest.TestCase):
@@ -105,9 +97,9 @@ class Formats(unittest.TestCase):
         for name, (kind, files, pictures) in formats.items():
             with self.subTest(name, matrix=matrix):
                 zorcc(f"convert --size {SIZE} --format rgb24 blocks.raw tool.raw --to {name} {matrix}")
-                self.assertGreaterEqual(psnr("tool.raw", f"ffmpeg_{name}.raw", kind), files)
+                self.assertGreaterEqual(raw_psnr("tool.raw", f"ffmpeg_{name}.raw", kind), files)
                 zorcc(f"convert --size {SIZE} --format {name} ffmpeg_{name}.raw tool.rgb --to rgb24 {matrix}")
-                self.assertGreaterEqual(psnr("tool.rgb", f"ffmpeg_{name}.rgb"), pictures)
+                self.assertGreaterEqual(raw_psnr("tool.rgb", f"ffmpeg_{name}.rgb"), pictures)
 
     def test_red_green_blue(self):
         # ffmpeg takes 16 bits for 15 on the way.
@@ -137,6 +129,7 @@ class Formats(unittest.TestCase):
                     zorcc(f"convert --size {SIZE} --format {name} there.raw back.raw --to {base}")
                     self.assertEqual(read("back.raw"), read("base.raw"))
 
+    @unittest.skipIf(SANITIZED, "two hundred starts for names alone")
     def test_no_format_is_forgotten(self):
         """Those of ffmpeg that the tool knows are in the tables above, but for full range by name."""
         tabled = {*RGB_FORMATS, *PACKED_BITS, *YUV_FORMATS}
@@ -149,11 +142,11 @@ class Formats(unittest.TestCase):
 
 class Pipes(unittest.TestCase):
     def test_from_ffmpeg_and_back(self):
-        source = ["ffmpeg", "-v", "error", "-f", "lavfi", "-i", "testsrc=size=66x50:rate=25", "-frames:v", "7",
-                  "-pix_fmt", "yuv420p", "-f", "yuv4mpegpipe"]
-        subprocess.run([*source, "-y", "clip.y4m"], check=True, stdin=subprocess.DEVNULL)
-        with subprocess.Popen([*source, "-"], stdin=subprocess.DEVNULL, stdout=subprocess.PIPE) as pipe:
-            subprocess.run([ZORCC, "convert", "-", "out.y4m"], stdin=pipe.stdout, check=True, env=ENVIRONMENT)
+        source = "-f lavfi -i testsrc=size=66x50:rate=25 -frames:v 7 -pix_fmt yuv420p -f yuv4mpegpipe"
+        ffmpeg(source + " clip.y4m")
+        with subprocess.Popen(f"ffmpeg -v error {source} -".split(), stdin=subprocess.DEVNULL,
+                              stdout=subprocess.PIPE) as pipe:
+            run("convert - out.y4m", stdin=pipe.stdout)
         self.assertEqual(read_y4m("out.y4m")[1], read_y4m("clip.y4m")[1])
         with subprocess.Popen([ZORCC, "convert", "clip.y4m", "-", "--as", "y4m"], stdout=subprocess.PIPE,
                               env=ENVIRONMENT) as pipe:

@@ -2,6 +2,7 @@
 """Running the tool, and files written and read without it."""
 import array
 import atexit
+import math
 import os
 import shutil
 import struct
@@ -12,6 +13,7 @@ import zlib
 ZORCC = os.environ["ZORCC_TOOL"]
 SOURCE = os.environ["ZORCC_SOURCE"]
 PICTURES = os.environ["ZORCC_PICTURES"]
+SANITIZED = bool(os.environ.get("ZORCC_SANITIZE"))
 
 # Under sanitizers, too, sizes that no machine has memory for end in the tool's own message, and a run at once.
 ENVIRONMENT = dict(os.environ)
@@ -24,10 +26,15 @@ atexit.register(shutil.rmtree, FOLDER)
 os.chdir(FOLDER)
 
 
-def run(line, *more):
-    """Runs the tool with the words of a line, and further arguments as they are."""
-    return subprocess.run([ZORCC, *line.split(), *map(str, more)], capture_output=True, text=True, timeout=120,
-                          env=ENVIRONMENT)
+def run(line, *more, binary=False, stdout=subprocess.PIPE, env=ENVIRONMENT, **options):
+    """Runs the tool with the words of a line, and further arguments as they are; options are those of subprocess. What
+    it prints is text, or bytes where that is binary."""
+    result = subprocess.run([ZORCC, *line.split(), *map(str, more)], stdout=stdout, stderr=subprocess.PIPE, env=env,
+                            timeout=120, **options)
+    result.stderr = result.stderr.decode()
+    if not binary and result.stdout is not None:
+        result.stdout = result.stdout.decode()
+    return result
 
 
 def zorcc(line, *more):
@@ -43,11 +50,11 @@ def compare(a, b):
     return {row[0]: (float(row[1]), float(row[2])) for row in rows}
 
 
-def there_and_back(picture, target, size, back="back.ppm"):
-    """PSNR and largest difference of a picture that went through a headerless file of another format"""
-    zorcc("convert", picture, "there.raw", "--to", target)
-    zorcc(f"convert --size {size} --format {target} there.raw {back} --to rgb24")
-    return compare(picture, back)["all"]
+def psnr(a, b):
+    """Of two sequences of samples of which 1 is white"""
+    assert len(a) == len(b) > 0, (len(a), len(b))
+    squares = sum((x - y) ** 2 for x, y in zip(a, b))
+    return 10 * math.log10(len(a) / squares) if squares else math.inf
 
 
 def read(path):
@@ -85,6 +92,18 @@ def read_y4m(path):
     header, *frames = read(path).split(b"FRAME\n")
     assert header.endswith(b"\n") and len(set(map(len, frames))) == 1, (path, header, [len(f) for f in frames])
     return header.decode().split(), frames
+
+
+def write_pfm(path, width, height, values):
+    """Grey, or three samples a pixel"""
+    kind = b"Pf" if len(values) == width * height else b"PF"
+    return write(path, kind + b"\n%d %d\n-1.0\n" % (width, height) + struct.pack(f"<{len(values)}f", *values))
+
+
+def read_pfm(path):
+    """The samples of a file as the tool writes it"""
+    values = read(path).split(b"\n", 3)[3]
+    return list(struct.unpack(f"<{len(values) // 4}f", values))
 
 
 GREY, RGB, PALETTE, GREY_ALPHA, RGB_ALPHA = 0, 2, 3, 4, 6
@@ -131,7 +150,16 @@ def read_png(path):
 
 
 def samples(path):
-    """The samples of an 8-bit PNM file, of a PNG file, or the bytes of any other"""
+    """The samples of a PNM or PNG file, or the bytes of any other"""
     if path.endswith(".png"):
         return read_png(path)[2]
-    return list(read_pnm(path)[3] if path.endswith((".pgm", ".ppm")) else read(path))
+    if not path.endswith((".pgm", ".ppm")):
+        return list(read(path))
+    _, _, maximum, packed = read_pnm(path)
+    return list(packed) if maximum < 256 else list(struct.unpack(f">{len(packed) // 2}H", packed))
+
+
+def unit_samples(path):
+    """The samples of a PNM file, of which 1 is white"""
+    maximum = read_pnm(path)[2]
+    return [value / maximum for value in samples(path)]

@@ -15,10 +15,6 @@ def write_red(rows):
     write_pnm("red.ppm", 8, rows, bytes([255, 0, 0]) * 8 * rows)
 
 
-def colour(frame, rows):
-    return frame[0], frame[8 * rows], frame[8 * rows + 4 * (rows // 2)]
-
-
 def frame_of(matrix, rows):
     y, cb, cr = RED[matrix]
     return bytes([y] * 8 * rows + [cb] * (4 * (rows // 2)) + [cr] * (4 * (rows // 2)))
@@ -26,8 +22,9 @@ def frame_of(matrix, rows):
 
 class Matrix(unittest.TestCase):
     def assert_red(self, frame, rows, matrix):
-        for found, expected in zip(colour(frame, rows), RED[matrix]):
-            self.assertLessEqual(abs(found - expected), 1, (colour(frame, rows), matrix))
+        colour = frame[0], frame[8 * rows], frame[8 * rows + 4 * (rows // 2)]
+        for found, expected in zip(colour, RED[matrix]):
+            self.assertLessEqual(abs(found - expected), 1, (colour, matrix))
 
     def assert_back(self, line):
         zorcc("convert", *line.split(), "back.ppm")
@@ -40,7 +37,7 @@ class Matrix(unittest.TestCase):
             write_red(rows)
             zorcc("convert red.ppm red.y4m")
             words, frames = read_y4m("red.y4m")
-            self.assertIn("XCOLORRANGE=LIMITED", words)
+            self.assertEqual(words, f"YUV4MPEG2 W8 H{rows} F25:1 Ip A1:1 C420jpeg XCOLORRANGE=LIMITED".split())
             self.assert_red(frames[0], rows, matrix)
             zorcc("convert red.ppm red.yuv")
             self.assertEqual(read("red.yuv"), frames[0])
@@ -97,9 +94,6 @@ class Matrix(unittest.TestCase):
 
     def test_matrices_without_functions(self):
         """They are known, and can be moved to other layouts."""
-        write_red(48)
-        self.assertIn("no conversion leads to bt2020 of limited range; the nearest that there is: bt601",
-                      run("convert red.ppm out.yuv --matrix bt2020").stderr)
         frame = frame_of("bt601", 48)
         write("in.yuv", frame)
         zorcc("convert --size 8x48 --format yuv420p in.yuv nv12.yuv --to nv12 --from-matrix bt2020")
@@ -117,11 +111,3 @@ class Matrix(unittest.TestCase):
         write_y4m("in.y4m", 8, 48, [frame], b"F25:1 It A1:1 C420jpeg")
         zorcc("convert in.y4m out.y4m --deinterlace")
         self.assertIn("Ip", read_y4m("out.y4m")[0])
-
-    def test_names_of_the_outside_world(self):
-        write_pnm("red.ppm", 2, 2, [255, 0, 0] * 4)
-        for name, own in (("yuyv422", "yuy2"), ("UYVY422", "uyvy"), ("iyuv", "i420"), ("NV12", "nv12")):
-            zorcc("convert red.ppm red.y4m --to", "yuv422p" if "22" in name else "yuv420p")
-            for target in (name, own):
-                zorcc(f"convert red.y4m {own}_{target == own}.yuv --to", target)
-            self.assertEqual(read(own + "_True.yuv"), read(own + "_False.yuv"))

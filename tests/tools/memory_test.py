@@ -20,8 +20,7 @@ class Memory(unittest.TestCase):
     def run_with(self, line, **environment):
         shutil.rmtree("out", ignore_errors=True)
         os.mkdir("out")
-        return subprocess.run([ZORCC, *line.split()], capture_output=True, timeout=120,
-                              env=dict(os.environ, LD_PRELOAD=PRELOAD, **environment))
+        return run(line, binary=True, env=dict(os.environ, LD_PRELOAD=PRELOAD, **environment))
 
     def results(self, result):
         return result.stdout, {name: read("out/" + name) for name in sorted(os.listdir("out"))}
@@ -46,4 +45,4 @@ class Memory(unittest.TestCase):
                         self.assertEqual(self.results(result), expected)
                         continue
                     self.assertEqual((result.returncode, os.listdir("out")), (1, []), result)
-                    self.assertRegex(result.stderr.strip(b"\n"), rb"^[^\n]+$")
+                    self.assertRegex(result.stderr.strip("\n"), r"^[^\n]+$")

@@ -9,6 +9,7 @@
 #include <memory>
 #include <random>
 
+#include "tests/convert/picture.h"
 #include "tools/zorcc/commands.h"
 #include "tools/zorcc/messages.h"
 #include "tools/zorcc/pipeline.h"
@@ -16,24 +17,8 @@
 namespace {
 
 using namespace zorcc::tool;
-using Bytes = std::vector<char>;
-
-// A file's planes, one after the other without gaps.
-struct Planes {
-    explicit Planes(const ZorPicture& picture)
-    {
-        zorPictureLayout(&picture, &layout);
-        std::size_t offset[ZOR_MAX_PLANES + 1] = {};
-        for (int p = 0; p < layout.planes; ++p)
-            offset[p + 1] = offset[p] + static_cast<std::size_t>(layout.rowBytes[p]) * layout.rows[p];
-        bytes.resize(offset[layout.planes]);
-        for (int p = 0; p < layout.planes; ++p) plane[p] = bytes.data() + offset[p];
-    }
-
-    ZorLayout layout;
-    Bytes bytes;
-    void* plane[ZOR_MAX_PLANES] = {};
-};
+using zorcc::test::PictureInMemory;
+using Bytes = std::vector<std::uint8_t>;
 
 class Pairs : public testing::TestWithParam<ZorSize> {
 protected:
@@ -67,28 +52,29 @@ protected:
 
 TEST_P(Pairs, AsTheLayerConvertsThem)
 {
-    std::minstd_rand dice(1);
+    zorcc::test::Random random(1);
     int connected = 0;
     for (int i = 0; const char* const from = zorFormatAt(i); ++i) {
         const ZorPicture source = {from, nullptr, zorRangeDefault, GetParam()};
-        Planes given(source);
-        for (char& byte : given.bytes) byte = static_cast<char>(dice() >> 8);
-        std::ofstream(folder / "in.raw", std::ios::binary).write(given.bytes.data(), std::ssize(given.bytes));
+        PictureInMemory given(from, GetParam());
+        given.fill(random);
+        const Bytes file = given.bytes();
+        std::ofstream(folder / "in.raw", std::ios::binary)
+            .write(reinterpret_cast<const char*>(file.data()), std::ssize(file));
         for (int j = 0; const char* const to = zorFormatAt(j); ++j) {
             const ZorPicture target = {to, nullptr, zorRangeDefault, GetParam()};
             const std::unique_ptr<ZorPlan, void (*)(ZorPlan*)> plan(zorPlanCreate(&source, &target, nullptr),
                                                                     zorPlanFree);
-            Planes expected(target);
-            if (i == j)
-                expected.bytes = given.bytes; // also what belongs to no pixel
-            else if (zorPlanStatus(plan.get()) != zorStatusOk)
-                expected.bytes.clear();
-            else
-                ASSERT_EQ(zorPlanRun(plan.get(), given.plane, given.layout.rowBytes, expected.plane,
-                                     expected.layout.rowBytes),
-                          zorStatusOk);
-            connected += !expected.bytes.empty();
-            ASSERT_TRUE(convertedByTool(from, to) == expected.bytes) << from << " to " << to;
+            Bytes expected;
+            if (i == j) {
+                expected = file; // also what belongs to no pixel
+            } else if (zorPlanStatus(plan.get()) == zorStatusOk) {
+                PictureInMemory made(to, GetParam());
+                ASSERT_EQ(zorPlanRun(plan.get(), given.plane, given.step, made.plane, made.step), zorStatusOk);
+                expected = made.bytes();
+            }
+            connected += !expected.empty();
+            ASSERT_TRUE(convertedByTool(from, to) == expected) << from << " to " << to;
         }
     }
     EXPECT_GT(connected, 5000);

@@ -7,7 +7,7 @@ from files import *
 
 def piped(line, given=b""):
     """What the tool prints when it reads `given`"""
-    result = subprocess.run([ZORCC, *line.split()], input=given, capture_output=True, timeout=120, env=ENVIRONMENT)
+    result = run(line, binary=True, input=given)
     assert result.returncode == 0 and not result.stderr, (line, result)
     return result.stdout
 
@@ -27,23 +27,23 @@ class Streams(unittest.TestCase):
         self.assertEqual(read_y4m("back.y4m")[1], frames(5))
         zorcc("chart c.png --size 40x30")
         for kind in ("png", "jpg", "ppm"):
-            zorcc("convert c.png c." + kind if kind != "png" else "convert c.png d.png")
-            picture = read("d.png" if kind == "png" else "c." + kind)
+            zorcc(f"convert c.png named.dat --as {kind}")
+            zorcc(f"convert c.png named.{kind}")
+            picture = read("named." + kind)
+            self.assertEqual(read("named.dat"), picture)
             self.assertEqual(piped(f"convert c.png - --as {kind}"), picture)
             self.assertEqual(piped("convert - - --as ppm", picture)[:3], b"P6\n")
-        zorcc("convert c.png named.dat --as ppm")
-        self.assertEqual(read("named.dat"), read("c.ppm"))
 
     def test_measurements_stay_out_of_the_result(self):
         zorcc("chart c.png --size 40x30")
-        result = subprocess.run([ZORCC, *"convert c.png - --as y4m --stats".split()], capture_output=True)
+        result = run("convert c.png - --as y4m --stats", binary=True)
         self.assertTrue(result.stdout.startswith(b"YUV4MPEG2") and b"megapixels/s" not in result.stdout)
-        self.assertIn(b"megapixels/s", result.stderr)
+        self.assertIn("megapixels/s", result.stderr)
 
     def test_who_closes_the_pipe_ends_the_tool(self):
         write_y4m("long.y4m", 640, 480, frames(20, 640, 480))
         process = subprocess.Popen([ZORCC, *"convert long.y4m - --as yuv".split()], stdout=subprocess.PIPE,
-                                   stderr=subprocess.PIPE)
+                                   stderr=subprocess.PIPE, env=ENVIRONMENT)
         process.stdout.read(10)
         process.stdout.close()
         self.assertEqual((process.stderr.read(), process.wait(60)), (b"zorcc: standard output: Broken pipe\n", 1))
@@ -58,9 +58,8 @@ class Streams(unittest.TestCase):
                 self.assertEqual(read("all.rgb"), b"".join(bytes([40 * i, 0, 0] * 8) for i in range(5)))
                 zorcc(f"grey {folder}/f_%03d.ppm grey_%d.pgm --weights 1,0,0")
                 self.assertEqual([samples(f"grey_{i + 1}.pgm")[0] for i in range(5)], [0, 40, 80, 120, 160])
-        self.assertIn("none_%d.png: No such file", run("convert none_%d.png out.y4m").stderr)
 
-    def test_the_first_failure_of_a_sequence_is_told_and_nothing_is_left(self):
+    def test_the_first_failure_of_a_sequence_is_reported_and_nothing_is_left(self):
         os.mkdir("failed")
         for i in range(1, 9):
             write_pnm(f"s_{i}.ppm", 4, 2, bytes(24))
@@ -75,10 +74,11 @@ class Streams(unittest.TestCase):
 
     def test_the_result_does_not_depend_on_threads(self):
         write_y4m("in.y4m", 16, 12, frames(40))
-        for out in ("out.y4m", "out.rgb", "o_%02d.png"):
-            results = set()
+        zorcc("chart in.png --size 300x200")
+        for line in ("in.y4m out.y4m", "in.y4m out.rgb", "in.y4m o_%02d.png", "in.png out.y4m"):
+            results, out = set(), line.split()[1]
             for threads in (1, 2, 3, 16, 500):
-                zorcc(f"convert in.y4m {out} --threads {threads}")
+                zorcc(f"convert {line} --threads {threads}")
                 results.add(b"".join(read(out % i) for i in range(1, 41)) if "%" in out else read(out))
             self.assertEqual(len(results), 1)
 

@@ -1,34 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "arguments.h"
 
-#include <charconv>
-
 #include "error.h"
-#include "names.h"
 
 namespace zorcc::tool {
 
 namespace {
-
-template <class T> T number(const std::string& name, std::string_view text)
-{
-    T value{};
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
-    if (error != std::errc() || end != text.data() + text.size())
-        throw UsageError("--" + name + ": " + quoted(std::string(text)) + " is no number");
-    return value;
-}
-
-template <class T> std::vector<T> numbers(const std::string& name, std::string_view text)
-{
-    std::vector<T> all;
-    for (std::size_t start = 0; start <= text.size();) {
-        const std::size_t end = std::min(text.find(',', start), text.size());
-        all.push_back(number<T>(name, text.substr(start, end - start)));
-        start = end + 1;
-    }
-    return all;
-}
 
 // "noise, method" names noise and method.
 bool takes(const Function& function, const std::string& name)
@@ -55,23 +32,24 @@ Arguments::Arguments(const Function& function, const std::map<std::string, std::
 
 void Arguments::set(const std::string& name, const std::string& text)
 {
-    if (name == "alpha") extra.alpha = number<int>(name, text);
-    if (name == "slice") extra.slice = number<int>(name, text);
-    if (name == "noise") extra.noise = number<int>(name, text);
-    if (name == "levels") extra.levels = number<int>(name, text);
-    if (name == "interpolation") extra.interpolation = number<int>(name, text);
-    if (name == "vMin") extra.vMin = number<float>(name, text);
-    if (name == "vMax") extra.vMax = number<float>(name, text);
-    if (name == "method") extra.method = static_cast<ZorDitherMethod>(choiceOf("--method", text, ditherMethods));
-    if (name == "grid") extra.grid = choiceOf("--grid", text, bayerGrids);
-    if (name == "weights") weights = numbers<float>(name, text);
+    const std::string option = "--" + name;
+    if (name == "alpha") extra.alpha = number<int>(option, text);
+    if (name == "slice") extra.slice = number<int>(option, text);
+    if (name == "noise") extra.noise = number<int>(option, text);
+    if (name == "levels") extra.levels = number<int>(option, text);
+    if (name == "interpolation") extra.interpolation = number<int>(option, text);
+    if (name == "vMin") extra.vMin = number<float>(option, text);
+    if (name == "vMax") extra.vMax = number<float>(option, text);
+    if (name == "method") extra.method = static_cast<ZorDitherMethod>(choiceOf(option, text, ditherMethods));
+    if (name == "grid") extra.grid = choiceOf(option, text, bayerGrids);
+    if (name == "weights") weights = numbers<float>(option, text);
     if (name == "twist") {
-        twist = parseTwist(text);
+        twist = parseTwist(option, text);
         extra.twist = twist.rows;
     }
     if (name == "region") {
-        const std::vector<int> sides = numbers<int>(name, text);
-        if (sides.size() != 4) throw UsageError("--region: " + quoted(text) + " is not x,y,width,height");
+        const std::vector<int> sides = numbers<int>(option, text);
+        if (sides.size() != 4) throw UsageError(option + ": " + quoted(text) + " is not x,y,width,height");
         extra.region = ZorRect{sides[0], sides[1], sides[2], sides[3]};
     }
 }

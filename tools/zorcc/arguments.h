@@ -3,10 +3,12 @@
 #pragma once
 
 #include <map>
+#include <optional>
 #include <string>
+#include <vector>
 
-#include "commands.h"
 #include "function_run.h"
+#include "values.h"
 
 namespace zorcc::tool {
 

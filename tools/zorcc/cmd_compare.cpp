@@ -65,7 +65,7 @@ public:
     }
 
 private:
-    // Compared as it is at 8 bits, otherwise as floats of 0..1.
+    // Samples of 8 bits are compared as they are, others as floats of 0..1.
     void printLine(const std::string& name, const Difference& difference) const
     {
         char line[120], psnr[32] = "inf";
@@ -97,7 +97,7 @@ void compare(const CompareOptions& options)
 {
     Input other = options.a;
     other.path = options.b;
-    // Of a headerless file and one with a header, the names tell which is which.
+    // Where one of both files has a header, their names show which.
     const auto open = [&](Input input, const Input& twin) {
         const bool hasHeader = input.size && !isHeaderlessPath(input.path) && isHeaderlessPath(twin.path);
         return hasHeader ? openReader(input.path) : openInput(input, nullptr, OddSizes::roundUp);

@@ -16,14 +16,14 @@ namespace zorcc::tool {
 
 namespace {
 
-// The samples of RGB that a picture is usually made from: of signed YCoCg, which has a bit more, half as many bits.
+// The type of the RGB samples that a picture is usually made of: half as wide for signed YCoCg, which has a bit more.
 Sample usualSample(const Format& format)
 {
     if (!isYCoCg(format)) return format.sample;
     return format.sample == Sample::s32 ? Sample::u16 : Sample::u8;
 }
 
-// The format of a file where the user gives none: one that it can hold, without a conversion where possible.
+// The format of the result where the user gives none: one that its file can hold, the source's where possible.
 const Format& usualFormat(const OutputPath& out, const Format& from)
 {
     const auto planar420 = [] { return formatNamed("yuv420p").format; };
@@ -59,7 +59,8 @@ const Function& deinterlacingFunction(const Format& from, const Format& to)
     throw Cause("no function deinterlaces");
 }
 
-// What the source is taken for: names of formats say more than options, and those more than the label of a file.
+// The kind that the source is taken for: the matrix in a format's name overrides the options, which override the label
+// in the file.
 PictureKind sourceKind(const ConvertOptions& options, const Picture& picture, const PictureKind& target)
 {
     PictureKind kind = picture.kind();
@@ -69,7 +70,7 @@ PictureKind sourceKind(const ConvertOptions& options, const Picture& picture, co
     return kind;
 }
 
-// What one thread does with pictures of one kind and size.
+// Converts pictures of one kind and size, on one thread at a time.
 class Worker {
 public:
     Worker(const ConvertOptions& options, const Picture& picture) : kind(picture.kind()), size(picture.visible())
@@ -168,7 +169,7 @@ private:
     std::vector<Step> steps;
 };
 
-// Those who have nothing to do. A plan is for one thread at a time.
+// Idle workers, of which threads take one for each picture: a plan may run on one thread at a time.
 class Workers {
 public:
     explicit Workers(const ConvertOptions& given) : options(given) {}

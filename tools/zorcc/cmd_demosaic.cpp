@@ -12,8 +12,8 @@ void demosaic(const DemosaicOptions& options)
         if (!isGrey(format) || format.sample == Sample::f32)
             throw Cause("the file holds " + std::string(format.name) +
                         ", but a mosaic is a grey PGM or PNG file of 8 or 16 bits");
-        const std::string type = format.sample == Sample::u8 ? "_8u_C1C3R" : "_16u_C1C3R";
-        return {*interface::findFunction(operation + type), {.alpha = 255, .grid = options.grid}};
+        return {*interface::findFunction(operation + "_" + sampleType(format) + "_C1C3R"),
+                {.alpha = 255, .grid = options.grid}};
     });
 }
 

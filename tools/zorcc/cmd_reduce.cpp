@@ -12,10 +12,9 @@ namespace {
 const Function& functionFor(const Format& format, int depth)
 {
     if (!isRgb(format)) throw Cause("cannot reduce " + std::string(format.name) + ": convert it to RGB");
-    const bool isFloat = format.sample == Sample::f32, isDeepFile = isFloat || format.sample == Sample::u16;
-    const std::string source = isFloat ? "32f" : isDeepFile ? "16u" : "8u";
-    const std::string result = depth == 8 || !isDeepFile ? "8u" : "16u";
-    if (depth == 16 && !isDeepFile) throw Cause("a picture of 8 bits cannot be reduced to 16");
+    const std::string source = sampleType(format);
+    if (depth == 16 && source == "8u") throw Cause("a picture of 8 bits cannot be reduced to 16");
+    const std::string result = depth == 8 || source == "8u" ? "8u" : "16u";
     const std::string layout = isGrey(format) ? "C1" : hasAlpha(format) ? "AC4" : "C3";
     return *interface::findFunction("zoriReduceBits_" + source + (source == result ? "" : result) + "_" + layout + "R");
 }

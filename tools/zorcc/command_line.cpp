@@ -2,7 +2,9 @@
 #include "command_line.h"
 
 #include <algorithm>
+#include <climits>
 #include <cstring>
+#include <limits>
 
 #include "error.h"
 #include "messages.h"
@@ -37,10 +39,10 @@ struct Parser {
         app.add_flag("-q,--quiet", quiet, "no warnings");
         app.add_option_function<int>("--threads", setThreads, "threads to use; one a processor if not given")
             ->type_name("N")
-            ->check(CLI::PositiveNumber);
+            ->check(CLI::Range(1, INT_MAX));
         app.add_option("--max-pixels", maxPixels, "refuse files with larger pictures")
             ->type_name("N")
-            ->check(CLI::PositiveNumber)
+            ->check(CLI::Range(std::int64_t{1}, std::numeric_limits<std::int64_t>::max()))
             ->capture_default_str();
         app.require_subcommand(0, 1); // a missing one is reported below
         app.fallthrough();

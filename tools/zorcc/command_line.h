@@ -8,8 +8,8 @@
 
 namespace zorcc::tool {
 
-// What the command line asks for, which may throw, or what is to be printed in its place: help, the version. Throws
-// UsageError, and std::bad_alloc. `--quiet`, `--threads` and `--max-pixels` hold from here on.
+// The command that the command line asks for, which may throw; if empty, a text to print: help, the version. parse()
+// throws UsageError and std::bad_alloc; `--quiet`, `--threads` and `--max-pixels` take effect in it.
 struct Request {
     std::function<void()> command;
     std::string text;

@@ -43,7 +43,7 @@ struct ConvertOptions {
     Input in;
     OutputPath out;
     std::string to;
-    std::string matrix, fromMatrix; // empty: not said
+    std::string matrix, fromMatrix; // empty: not given
     bool deinterlace = false, dither = false;
     bool linear = false; // RGB is sRGB in files, and linear for the functions
     Timing timing;
@@ -125,27 +125,5 @@ void sheet(const SheetOptions& options);
 
 // The input of call, convert and compare; a headerless one is of the format `usual` if the user names none.
 std::unique_ptr<Reader> openInput(const Input& input, const Format* usual, OddSizes oddSizes);
-
-// Prints the lines of measurements, to stderr where standard output is one of the results.
-void printStats(const std::string& lines, const std::vector<std::string>& results);
-
-// Where the functions of the library take them by numbers.
-inline const std::vector<std::pair<std::string, int>> ditherMethods = {{"none", zorDitherMethodNone},
-                                                                       {"ordered", zorDitherMethodOrdered},
-                                                                       {"fs", zorDitherMethodFloydSteinberg},
-                                                                       {"jjn", zorDitherMethodJarvisJudiceNinke},
-                                                                       {"stucki", zorDitherMethodStucki}};
-inline const std::vector<std::pair<std::string, int>> bayerGrids = {
-    {"bggr", zorBayerBGGR}, {"rggb", zorBayerRGGB}, {"gbrg", zorBayerGBRG}, {"grbg", zorBayerGRBG}};
-
-// The number of a choice, whatever its letters' case; throws UsageError, which lists them, for others.
-int choiceOf(const std::string& what, const std::string& text, const std::vector<std::pair<std::string, int>>& choices);
-
-// The three or four rows of a colour twist, from "a b c d; ..." or a name (sepia, ...); constants are relative to
-// white.
-struct TwistMatrix {
-    float rows[4][4] = {{1, 0, 0, 0}, {0, 1, 0, 0}, {0, 0, 1, 0}, {0, 0, 0, 1}};
-};
-TwistMatrix parseTwist(const std::string& text);
 
 } // namespace zorcc::tool

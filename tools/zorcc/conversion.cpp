@@ -2,12 +2,12 @@
 #include "conversion.h"
 
 #include <algorithm>
-#include <chrono>
 #include <cstring>
 #include <limits>
 
 #include "error.h"
 #include "formats.h"
+#include "function_run.h"
 #include "messages.h"
 
 namespace zorcc::tool {
@@ -82,22 +82,18 @@ Picture Conversion::operator()(Picture picture) const
 
 Picture Conversion::timed(Picture picture, int repeat, double& seconds) const
 {
-    using Clock = std::chrono::steady_clock;
     const ZorSize visible = picture.visible(), before = wholeBlocks(visible, *source);
     if (!(picture.size() == before)) picture = resized(std::move(picture), *source, before);
     seconds = 0;
     if (isIdentity()) return std::move(picture).takenFor(*destination).takenFor(colour);
     const ZorSize after = wholeBlocks(visible, *destination);
     Picture result(*destination, after, visible, after == visible ? Contents::any : Contents::zeros);
-    seconds = std::numeric_limits<double>::infinity();
-    for (int i = 0; i < repeat; ++i) {
-        const Clock::time_point start = Clock::now();
+    seconds = fastestRun(repeat, [&] {
         const ZorStatus status = zorPlanRun(plan.get(), picture.image().plane, picture.image().step,
                                             result.image().plane, result.image().step);
-        seconds = std::min(seconds, std::chrono::duration<double>(Clock::now() - start).count());
         if (status == zorStatusNoMemory) throw Cause("not enough memory");
         if (status != zorStatusOk) throw Cause("the conversion returned " + std::to_string(status));
-    }
+    });
     return std::move(result).takenFor(colour);
 }
 

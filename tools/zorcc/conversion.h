@@ -14,13 +14,14 @@ namespace zorcc::tool {
 // A plan for pictures of one size. One thread at a time may use it.
 class Conversion {
 public:
-    // Between formats of the layer. Throws Cause with the layer's words where there is no way.
+    // Between formats of the layer. Throws Cause with the layer's message where there is no way.
     Conversion(const PictureKind& from, const PictureKind& to, ZorSize size, const ZorPlanOptions& options = usual);
 
-    // The picture in the other format, with chroma for whole blocks. Comes back untouched where nothing is to be done.
+    // The picture in the other format, with chroma for whole blocks. Where nothing is to be done, its bytes stay where
+    // they are.
     Picture operator()(Picture picture) const;
 
-    // The same, and the colour that the picture had before.
+    // The same, with the matrix and range that the picture had before.
     Picture keepingColour(Picture picture) const;
 
     // The same `repeat` times, and the shortest time of a run in seconds.

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How unlike two channels are.
+// Measures of the difference between two channels.
 #pragma once
 
 #include "picture.h"

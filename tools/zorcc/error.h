@@ -7,7 +7,7 @@
 
 namespace zorcc::tool {
 
-// What a file holds where something else should be, fit for a terminal.
+// Text from a file or a command line, made safe for a terminal.
 inline std::string quoted(std::string text)
 {
     for (char& c : text)
@@ -15,7 +15,7 @@ inline std::string quoted(std::string text)
     return "'" + text + "'";
 }
 
-// Why something with a file or a picture did not work. Whoever knows the file adds its name (naming).
+// Why something with a file or a picture failed. naming() adds the name of the file where it is known.
 class Cause : public std::runtime_error {
 public:
     using std::runtime_error::runtime_error;
@@ -33,7 +33,7 @@ public:
     using std::runtime_error::runtime_error;
 };
 
-// Runs `body`; a Cause out of it becomes an Error of the file.
+// Runs `body`; a Cause that it throws becomes an Error with the name of the file.
 template <class Body> auto naming(const std::string& file, Body body)
 {
     try {

@@ -30,12 +30,16 @@ void runOnFile(const std::string& in, const OutputPath& out, const Timing& timin
     if (timing.stats) printStats(stats.line(), {out.path});
 }
 
+std::string sampleType(const Format& format)
+{
+    return format.sample == Sample::f32 ? "32f" : format.sample == Sample::u16 ? "16u" : "8u";
+}
+
 const Function& colourFunction(const std::string& operation, const Format& format, const std::string& result)
 {
-    const std::string type = format.sample == Sample::f32 ? "32f" : format.sample == Sample::u16 ? "16u" : "8u";
     const std::string layout = hasAlpha(format) ? "AC4" : "C3";
     const Function* const function =
-        interface::findFunction("zori" + operation + "_" + type + "_" + layout + result + "R");
+        interface::findFunction("zori" + operation + "_" + sampleType(format) + "_" + layout + result + "R");
     if (!function || !isRgb(format)) throw Cause("the file holds " + std::string(format.name) + ": convert it to RGB");
     return *function;
 }

@@ -21,8 +21,12 @@ struct Work {
 void runOnFile(const std::string& in, const OutputPath& out, const Timing& timing,
                const std::function<Work(const Format& format)>& choose);
 
+// The sample type of pictures as files hold them, in names of functions: "32f" for floats, "16u" for words, "8u" for
+// bytes.
+std::string sampleType(const Format& format);
+
 // The function zori<operation>_<sample type>_<layout>R for pictures as files hold them, of three channels, or of four
-// where they have alpha: "32f" for floats, "16u" for words, "8u" for bytes. Throws Cause unless they are grey or RGB.
+// where they have alpha. Throws Cause unless they are RGB.
 const Function& colourFunction(const std::string& operation, const Format& format, const std::string& result = "");
 
 } // namespace zorcc::tool

@@ -15,7 +15,7 @@ using interface::Layout;
 
 namespace {
 
-// A format, and the layer's words for it, which it refers to.
+// A format, and the layer's description, whose names it refers to.
 struct Entry {
     ZorLayout layout;
     Format format;
@@ -47,7 +47,7 @@ void describe(Entry& entry)
 // Null for a name that the layer does not know.
 const Format* findFormat(const std::string& name)
 {
-    static std::deque<Entry> known; // where they are, they stay
+    static std::deque<Entry> known; // whose elements never move
     static std::mutex mutex;
     const ZorPicture picture = {name.c_str(), nullptr, zorRangeDefault, {1, 1}};
     ZorLayout layout;
@@ -61,7 +61,7 @@ const Format* findFormat(const std::string& name)
     return &entry.format;
 }
 
-// The layer's words about a picture that there cannot be.
+// The layer's message about a picture that cannot exist.
 std::string complaintAbout(const ZorPicture& picture)
 {
     const std::unique_ptr<ZorPlan, void (*)(ZorPlan*)> plan(zorPlanCreate(&picture, &picture, nullptr), zorPlanFree);

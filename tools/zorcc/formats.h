@@ -12,7 +12,7 @@ namespace zorcc::tool {
 // The names of all.
 std::vector<std::string> formatNames();
 
-// By a name of the layer or one that the layer takes for it, which may say the colour, too: yuv420p_bt709, yuvj420p.
+// By a name or an alias that the layer knows, which may include the colour: yuv420p_bt709, yuvj420p.
 // Throws UsageError for other names.
 PictureKind formatNamed(const std::string& name);
 
@@ -23,13 +23,13 @@ const Format& layerFormat(const Format& format);
 inline bool areSame(const Format& a, const Format& b) { return &layerFormat(a) == &layerFormat(b); }
 
 // The interleaved format of three channels of a colour model, by the model's name: xyz, luv, lab, photoycc, hls, hsv.
-// Of samples like those of `from` where there is one, otherwise of 16 bits. Null where the name is no such model's.
+// With samples like those of `from` where there is such a format, otherwise of 16 bits. Null for other names.
 const Format* formatOfModel(const std::string& name, const Format& from);
 
 // Throws UsageError for a name that is no matrix.
 void checkMatrix(const std::string& name);
 
-// What a function's images are by; empty where its model leaves that open.
+// The matrix and range of images of a model of functions; empty where the model leaves them open.
 Colour colourOf(interface::Model model);
 
 inline bool hasChannel(const Format& format, char letter)
@@ -43,10 +43,10 @@ inline bool isRgb(const Format& format) { return hasChannel(format, 'R') || isGr
 inline bool isYCoCg(const Format& format) { return hasChannel(format, 'O'); }
 inline bool isYuv(const Format& format) { return hasChannel(format, 'Y') && hasChannel(format, 'U'); }
 
-// How a picture file that holds red, green and blue, or grey, of the given sample type says it.
+// The format of RGB or grey pictures, with samples of this type, in picture files.
 const Format& pictureFormat(bool grey, bool alpha, Sample sample);
 
-// How Y4M holds luma and chroma: of the format's own sampling where it can be.
+// The format of luma and chroma in Y4M files: of the same sampling where Y4M has it.
 const Format& y4mFormat(const Format& format);
 
 } // namespace zorcc::tool

@@ -2,13 +2,14 @@
 #include "function_run.h"
 
 #include <algorithm>
-#include <chrono>
 #include <cstdio>
+#include <iostream>
 #include <map>
 
 #include "conversion.h"
 #include "error.h"
 #include "formats.h"
+#include "io/file_kind.h"
 
 namespace zorcc::tool {
 
@@ -21,7 +22,7 @@ std::string statusText(ZorStatus status)
         {zorStatusBadSize, "the picture is too small for the function"},
         {zorStatusNoMemory, "not enough memory"},
         {zorStatusBadStep, "bad step"},
-        {zorStatusDitherLevels, "that many levels are not supported"}};
+        {zorStatusDitherLevels, "this number of levels is not supported"}};
     const auto found = texts.find(status);
     return found != texts.end() ? found->second : "status " + std::to_string(status);
 }
@@ -48,21 +49,21 @@ void Stats::add(const std::string& functions, ZorSize extent, double seconds)
     time += seconds;
 }
 
+void printStats(const std::string& lines, const std::vector<std::string>& results)
+{
+    (std::any_of(results.begin(), results.end(), isStandardStream) ? std::cerr : std::cout) << lines;
+}
+
 Picture run(const Function& function, const Picture& source, int repeat, double& seconds,
             const interface::Extra& arguments, ZorStatus* status)
 {
-    using Clock = std::chrono::steady_clock;
     Picture result(*function.destination, source.size(), source.visible());
     if (function.alpha == interface::Alpha::keep) setOpaque(result);
-    Clock::duration best = Clock::duration::max();
-    for (int i = 0; i < repeat; ++i) {
-        const Clock::time_point start = Clock::now();
+    seconds += fastestRun(repeat, [&] {
         const ZorStatus returned = function(source.image(), result.image(), source.size(), arguments);
-        best = std::min(best, Clock::now() - start);
         if (returned < 0) throw Cause(std::string(function.name) + ": " + statusText(returned));
         if (status) *status = returned;
-    }
-    seconds += std::chrono::duration<double>(best).count();
+    });
     const Colour colour = colourOf(function.destination->model);
     return std::move(result).takenFor(colour.matrix.empty() ? source.colour() : colour);
 }

@@ -6,10 +6,10 @@
 
 namespace zorcc::tool {
 
-// Says a line. Takes no memory, so that it works where there is none left.
+// Prints a line. Allocates nothing, so that it works when memory has run out.
 void say(const char* text);
 
-// Warnings are said once each, and not at all when quiet. May be called on any thread.
+// Each warning is printed once, and none after beQuiet(). May be called on any thread.
 void beQuiet();
 void warn(const std::string& file, const std::string& text);
 

@@ -43,7 +43,7 @@ std::string joined(const std::vector<std::string>& names, const std::string& sep
 
 std::string nearest(const std::string& name, const std::vector<std::string>& known)
 {
-    constexpr std::size_t most = 3, longest = 200; // nobody means a name that long
+    constexpr std::size_t most = 3, longest = 200; // no name is that long
     const std::string wanted = inSmallLetters(name.substr(0, longest));
     const std::size_t limit = 1 + wanted.size() / 3; // letters that may be wrong
     std::vector<std::pair<std::size_t, std::string>> near;

@@ -2,10 +2,12 @@
 #include "options.h"
 
 #include <charconv>
+#include <climits>
 
 #include "error.h"
 #include "formats.h"
 #include "names.h"
+#include "values.h"
 
 namespace zorcc::tool {
 
@@ -32,8 +34,7 @@ CLI::Option* addText(CLI::App* command, const char* name, const char* help, cons
 
 // One of several words, in small or capital letters.
 template <class T>
-void addChoice(CLI::App* command, const char* name, T& value, const char* help,
-               const std::vector<std::pair<std::string, int>>& choices)
+void addChoice(CLI::App* command, const char* name, T& value, const char* help, const Choices& choices)
 {
     std::string words;
     for (const auto& choice : choices) words += (words.empty() ? "" : "|") + choice.first;
@@ -62,8 +63,7 @@ void addInput(CLI::App* command, Input& input, const std::string& usualFormat)
 
 void addKind(CLI::App* command, std::string& as)
 {
-    command->add_option("--as", as, "kind of OUT, whatever its name: png jpg ppm pgm pfm y4m yuv rgb raw")
-        ->type_name("KIND");
+    command->add_option("--as", as, std::string("kind of OUT, whatever its name: ") + kindsToWrite)->type_name("KIND");
 }
 
 void addOutput(CLI::App* command, OutputPath& out, const char* help)
@@ -76,7 +76,7 @@ void addTiming(CLI::App* command, Timing& timing)
 {
     command->add_option("--repeat", timing.repeat, "run the library N times on each picture and take the best time")
         ->type_name("N")
-        ->check(CLI::PositiveNumber);
+        ->check(CLI::Range(1, INT_MAX));
     command->add_flag("-v,--verbose,--stats", timing.stats,
                       "print the function, and megapixels/s of the library alone");
 }
@@ -192,7 +192,7 @@ keeps frame rate, aspect and interlacing of a .y4m IN, otherwise it says 25 pict
 The matrix is bt709 for pictures of 720 rows and more, and bt601 below; bt709full where a .y4m IN of 720 rows says full
 range. Names of formats such as yuv420p_bt709 say theirs. From YUV to YUV --matrix is the one to convert to, and
 --from-matrix that of IN; a .y4m OUT says the range of its matrix. Samples of a matrix without functions, such as bt2020,
-can be moved to another layout: --from-matrix bt2020. --stats shows the chain; what is lost is said in any case.
+can be moved to another layout: --from-matrix bt2020. --stats shows the chain; losses are always reported.
 
 A name with %03d is a sequence of files, for IN and OUT. - is standard input and output, with --as for the kind:
   ffmpeg -v error -i clip.mp4 -f yuv4mpegpipe - | zorcc convert - clip.rgb --to bgr24

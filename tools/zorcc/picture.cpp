@@ -18,8 +18,8 @@ constexpr std::size_t alignment = 64;
 
 constexpr std::size_t aligned(std::size_t bytes) { return (bytes + alignment - 1) / alignment * alignment; }
 
-// Blocks of pictures that are gone. A video needs the same sizes for every picture, and the system's pages for a new
-// large block cost about as much as a conversion.
+// Blocks of destroyed pictures, for new ones. A video needs the same sizes for every picture, and the system's pages
+// for a new large block cost about as much as a conversion.
 class Pool {
 public:
     void* take(std::size_t bytes)

@@ -27,16 +27,16 @@ inline ZorSize wholeBlocks(ZorSize size, const Format& format)
     return wholeBlocks(size, format.log2X(), format.log2Y());
 }
 
-// Throws Cause if a row of the image has more bytes than a step can say.
+// Throws Cause if a row of the image has more bytes than a step can express.
 void checkRowBytes(const Format& format, ZorSize size);
 
-// What files may hold, unless the user allows more: their headers cost nothing, but the memory for them does.
+// Pixels of a picture in a file, unless the user allows more: a short header can promise any number.
 inline std::int64_t maxPixels = 1 << 28;
 
 // Throws Cause for pictures of files that are larger.
 void checkPixels(ZorSize size);
 
-// What luma and chroma are by, in the words of zorconvert.h: empty, and the default, where nobody says it.
+// The matrix and the range of luma and chroma, by their names in zorconvert.h; empty and the default where unknown.
 struct Colour {
     std::string matrix = {};
     ZorRange range = zorRangeDefault;
@@ -52,7 +52,7 @@ struct PictureKind {
     bool operator==(const PictureKind&) const = default;
 };
 
-// Of a new picture: whatever its memory held is for those who write all of it.
+// What a new picture holds: zeros, or anything, for callers that write all of it.
 enum class Contents { zeros, any };
 
 // Every plane starts on a 64-byte boundary; its rows follow each other without gaps, as the functions
@@ -62,7 +62,7 @@ public:
     Picture(const Format& format, ZorSize size, ZorSize visible, Contents contents = Contents::zeros);
     Picture(const Format& format, ZorSize size) : Picture(format, size, size) {}
 
-    // The same bytes in a format that has the same memory, or by another colour.
+    // The same bytes taken for another format of the same memory layout, or for another matrix and range.
     Picture takenFor(const Format& format) &&;
     Picture takenFor(Colour colour) &&;
 
@@ -102,8 +102,8 @@ std::uint64_t bytesInFile(const Format& format, ZorSize size, ZorSize visible);
 // What a video file says about its pictures, in the terms of Y4M.
 struct VideoTags {
     std::string frameRate = "25:1";
-    std::string interlacing = "p";       // empty: not said
-    std::string aspect = "1:1";          // of a pixel; empty: not said
+    std::string interlacing = "p";       // empty: unknown
+    std::string aspect = "1:1";          // of a pixel; empty: unknown
     std::string sampling420 = "420jpeg"; // where the chroma samples of 4:2:0 lie
 };
 

@@ -34,7 +34,7 @@ public:
             std::vector<std::jthread> others;
             try {
                 for (int i = 1; i < workers; ++i) others.emplace_back([this] { work(); });
-            } catch (...) { // those that have begun must end
+            } catch (...) { // threads that have started must end
                 fail(0, std::current_exception());
             }
             work();
@@ -69,14 +69,14 @@ private:
         Picture picture = std::move(pending).get();
         const Format& before = picture.format();
         picture = naming(reader.path(), [&] { return make(std::move(picture)); });
-        // A function says nothing of what it drops, and a plan says it in the same words, which are not repeated.
+        // Functions do not report that they drop alpha; plans do, in the same words, and each warning is printed once.
         if (hasAlpha(before) && !hasAlpha(picture.format())) warn(reader.path(), "alpha is dropped");
         if (writer.mustBeInOrder()) {
             std::unique_lock lock(turnMutex);
             turnChanged.wait(lock, [&] { return error || written + 1 == number; });
             if (error) return;
         }
-        writer.write(std::move(picture), number); // nobody else has the turn
+        writer.write(std::move(picture), number); // where in order, by one thread at a time
         const std::lock_guard lock(turnMutex);
         ++written;
         progress.update(written);
@@ -89,7 +89,7 @@ private:
         return error != nullptr;
     }
 
-    // Of several failures that of the first picture is told.
+    // Of several failures, that of the first picture is reported.
     void fail(int number, std::exception_ptr cause)
     {
         const std::lock_guard lock(turnMutex);

@@ -9,13 +9,14 @@
 
 namespace zorcc::tool {
 
-// Threads that the tool may use: what --threads says, otherwise one a processor.
+// The number of threads that the tool may use; if not set, one a processor.
 void setThreads(int count);
 
-// Writes what `make` makes of each picture of the input, and says on a terminal how far it is. Where there may be
-// several pictures, each thread takes one in its turn, makes the new one and writes it in its turn, so that reading,
-// making and writing overlap; then a call of the library uses one thread. With `oneAtATime` the pictures follow each
-// other, and calls use all threads: for measuring. `make` is called on several threads at once.
+// Converts each picture of the input by `make` and writes the result, with a line of progress on a terminal. Where
+// there may be several pictures, each thread reads the next one, converts it, and writes it when the pictures before it
+// have been written, so that reading, converting and writing overlap; a call of the library then uses one thread. With
+// `oneAtATime`, for measuring, pictures follow each other and calls use all threads. `make` is called on several
+// threads at once.
 void writeAll(Reader& reader, Writer& writer, const std::function<Picture(Picture)>& make, bool oneAtATime = false);
 
 } // namespace zorcc::tool

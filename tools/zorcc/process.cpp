@@ -15,8 +15,8 @@ namespace zorcc::tool {
 
 namespace {
 
-// Takes the numbers of closed standard streams. What is read from stdin or written to stdout is an error then, as it
-// would be without a file of that number; nobody can hear about stderr.
+// Occupies the numbers of closed standard streams, in the mode in which reading stdin and writing stdout fail as on a
+// closed stream. What is written to stderr is lost.
 void occupyStandardStreams()
 {
     constexpr int modes[] = {O_WRONLY, O_RDONLY, O_WRONLY};

@@ -4,9 +4,9 @@
 
 namespace zorcc::tool {
 
-// To be called once, before any file is opened and any thread started. A standard stream that is closed must not give
-// its number to a file. Files that get too large and readers that go away are errors of the write, no signals. From
-// here on SIGINT, SIGTERM and SIGHUP, and an exit from anywhere, remove the unfinished files.
+// To be called once, before any file is opened and any thread started. No file gets the number of a closed standard
+// stream. A file that becomes too large, or a reader that closes its end of a pipe, makes the write fail and sends no
+// signal. SIGINT, SIGTERM and SIGHUP, and an exit from anywhere, remove the unfinished files.
 void prepareProcess();
 
 } // namespace zorcc::tool

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The transfer function of sRGB (IEC 61966-2-1), with which picture files hold linear light.
+// The transfer function of sRGB (IEC 61966-2-1), by which picture files encode linear light.
 #pragma once
 
 #include "picture.h"

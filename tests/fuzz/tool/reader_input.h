@@ -10,7 +10,6 @@
 #include <string>
 
 #include "tools/zorcc/error.h"
-#include "tools/zorcc/io/codecs.h"
 #include "tools/zorcc/io/reader.h"
 #include "tools/zorcc/messages.h"
 

@@ -23,21 +23,21 @@ def write(target, name, content):
         file.write(content)
 
 
-chart, grey = path("png_reader", "chart.png"), path("png_reader", "grey.png")
+chart, grey = path("file_reader/png", "chart.png"), path("file_reader/png", "grey.png")
 zorcc("chart", chart, "--size", "23x17")
 zorcc("grey", chart, grey)
 for depth in ("rgb48", "rgba"):
-    zorcc("convert", chart, path("png_reader", depth + ".png"), "--to", depth)
+    zorcc("convert", chart, path("file_reader/png", depth + ".png"), "--to", depth)
 for picture in (chart, grey):
     name = os.path.basename(picture)[:-4]
-    zorcc("convert", picture, path("jpeg_reader", name + ".jpg"))
-    zorcc("convert", picture, path("pnm_reader", name + ".ppm"))
-    zorcc("convert", picture, path("pnm_reader", name + ".pfm"))
-zorcc("convert", grey, path("pnm_reader", "grey.pgm"))
-write("pnm_reader", "text.ppm", b"P3\n# text\n2 2\n255\n1 2 3 4 5 6 7 8 9 10 11 12\n")
+    zorcc("convert", picture, path("file_reader/jpeg", name + ".jpg"))
+    zorcc("convert", picture, path("file_reader/pnm", name + ".ppm"))
+    zorcc("convert", picture, path("file_reader/pnm", name + ".pfm"))
+zorcc("convert", grey, path("file_reader/pnm", "grey.pgm"))
+write("file_reader/pnm", "text.ppm", b"P3\n# text\n2 2\n255\n1 2 3 4 5 6 7 8 9 10 11 12\n")
 for form in ("yuv420p", "yuv422p", "yuv444p"):
-    zorcc("convert", chart, path("y4m_reader", form + ".y4m"), "--to", form)
-write("y4m_reader", "tags.y4m", b"YUV4MPEG2 W2 H2 F24000:1001 It A10:11 C420mpeg2 XCOLORRANGE=FULL\n" +
+    zorcc("convert", chart, path("file_reader/y4m", form + ".y4m"), "--to", form)
+write("file_reader/y4m", "tags.y4m", b"YUV4MPEG2 W2 H2 F24000:1001 It A10:11 C420mpeg2 XCOLORRANGE=FULL\n" +
       2 * (b"FRAME Ip\n" + bytes(6)))
 dice = random.Random(1)
 for form in ("yuv420p", "nv12", "yuyv", "rgb24", "rgb565", "rgbf32"):

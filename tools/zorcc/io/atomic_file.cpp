@@ -40,7 +40,7 @@ mode_t modeOfNewFiles()
 
 void removeUnfinishedFiles()
 {
-    listMutex.lock(); // to the end: nothing new appears
+    listMutex.lock(); // until the process ends, so that no file is created any more
     for (const TemporaryFile* file = firstOfList; file; file = file->after) unlink(file->name.c_str());
 }
 

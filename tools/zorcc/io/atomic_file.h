@@ -9,7 +9,7 @@
 
 namespace zorcc::tool {
 
-// Removes them and lets no new ones appear, nor files that are complete: for the end of the process.
+// Removes all unfinished files. After that none can be created or renamed: for the end of the process.
 void removeUnfinishedFiles();
 
 // A new file beside the one that it is to become, in a list of all such files from before it exists until it is renamed
@@ -46,7 +46,7 @@ public:
     void write(const void* from, std::size_t count);
     void print(const std::string& text) { write(text.data(), text.size()); }
 
-    // All is written; the file waits, closed, for commit().
+    // Ends writing; commit() then gives the file its name.
     void close();
     void commit();
 

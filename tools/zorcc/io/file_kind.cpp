@@ -24,12 +24,11 @@ std::optional<FileKind> fileKind(const std::string& path)
 
 FileKind fileKindToWrite(const OutputPath& out)
 {
-    constexpr const char* known = "png jpg ppm pgm pfm y4m yuv rgb raw";
     const auto kind = fileKind(out.as.empty() ? out.path : "." + out.as);
-    if (!kind && !out.as.empty()) throw UsageError("--as: '" + out.as + "' is none of " + known);
+    if (!kind && !out.as.empty()) throw UsageError("--as: '" + out.as + "' is none of " + kindsToWrite);
     if (!kind && isStandardStream(out.path))
-        throw UsageError(std::string("standard output: write which kind of file? Say --as one of ") + known);
-    if (!kind) throw UsageError(out.path + ": write which kind of file? Name it, or say --as, one of " + known);
+        throw UsageError(std::string("standard output: write which kind of file? Say --as one of ") + kindsToWrite);
+    if (!kind) throw UsageError(out.path + ": write which kind of file? Name it, or say --as, one of " + kindsToWrite);
     return *kind;
 }
 

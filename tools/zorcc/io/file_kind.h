@@ -19,6 +19,9 @@ struct OutputPath {
     std::string path, as;
 };
 
+// Values of --as.
+inline constexpr const char* kindsToWrite = "png jpg ppm pgm pfm y4m yuv rgb raw";
+
 // .png .jpg .jpeg .pgm .ppm .pnm .pfm .y4m .yuv .rgb .raw, in small or capital letters.
 std::optional<FileKind> fileKind(const std::string& path);
 

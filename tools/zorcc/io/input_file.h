@@ -21,11 +21,11 @@ public:
     std::optional<std::uint64_t> size() const { return bytes; }
     std::optional<std::uint64_t> left() const;
 
-    // Throws if the file is known to end within the next `count` bytes: asked before memory is taken for them.
+    // Throws if the file is known to end within the next `count` bytes; called before memory is allocated for them.
     void expect(std::uint64_t count) const;
 
     int get();  // one byte, or EOF
-    int peek(); // the same, and it stays
+    int peek(); // the same byte, which the next get() gives again
     bool atEnd() { return peek() == EOF; }
     void read(void* to, std::size_t count);  // exactly that many bytes
     std::string readLine(std::size_t limit); // without the line feed, which must come within `limit` bytes

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What files say beside their pixels, and the tool leaves alone: it says so in one line.
+// Metadata that the tool ignores, with a warning.
 #pragma once
 
 #include <cstdint>

@@ -92,7 +92,7 @@ Picture decodePng(InputFile& file)
 
     const ZorSize size = {static_cast<int>(png_get_image_width(png, info)),
                           static_cast<int>(png_get_image_height(png, info))};
-    // Deflate makes at most 1032 bytes of one, so a short file is known to lack rows before memory is taken for them.
+    // Deflate makes at most 1032 bytes of one, so a file that is too short is refused before memory is allocated.
     constexpr std::uint64_t maxExpansion = 1032;
     file.expect(static_cast<std::uint64_t>(png_get_rowbytes(png, info)) * size.height / maxExpansion);
     checkPixels(size);

@@ -1,8 +1,0 @@
-// SPDX-License-Identifier: MIT
-#include "reader_input.h"
-
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
-{
-    using namespace zorcc::tool;
-    return readBytes(data, size, [](const std::string& path) { readAll(*y4mReader(InputFile(path))); });
-}
