@@ -6,8 +6,7 @@ function(zorcc_shared_library target)
   set_target_properties(${target} PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION}
     BUILD_WITH_INSTALL_RPATH ON INSTALL_RPATH "$ORIGIN" LINK_DEPENDS_NO_SHARED ON)
   target_link_libraries(${target} PRIVATE zorcc_library_options)
-  # The C library's start files are marked for neither half of control-flow enforcement here; shadow stacks suit them.
-  target_link_options(${target} PRIVATE -Wl,--as-needed -Wl,-z,nodelete -Wl,-z,shstk)
+  target_link_options(${target} PRIVATE -Wl,--as-needed -Wl,-z,nodelete)
   if(NOT ZORCC_SANITIZE) # whose runtime comes with the program
     target_link_options(${target} PRIVATE -Wl,-z,defs)
   endif()

@@ -34,7 +34,7 @@ enum {
 /* ---- pictures ---------------------------------------------------------------------------------------------------- */
 
 /* Range of luma and chroma. RGB and grey are of full range. */
-typedef enum {
+typedef ZOR_ENUM{
     zorRangeDefault = 0, /* that of the matrix: limited for bt601 and bt709, full for yuv; or as the name says */
     zorRangeLimited = 1, /* luma 16..235, chroma 16..240 */
     zorRangeFull = 2     /* 0..255 */
@@ -118,30 +118,30 @@ ZOR_API const char* zorFormatAt(int index);
 /* ---- plans ------------------------------------------------------------------------------------------------------- */
 
 /* Where only one picture has alpha. Where both have it, it is kept. */
-typedef enum {
+typedef ZOR_ENUM{
     zorAlphaDrop = 0,   /* it is dropped, and opaque where only the destination has it */
     zorAlphaRefuse = 1, /* a plan that drops alpha is refused; opaque where only the destination has it */
     zorAlphaOpaque = 2  /* the destination is opaque, whatever the source has */
 } ZorAlpha;
 
 /* How red, green, blue and grey of more than 8 bits become 8 bits. */
-typedef enum {
-    zorDepthNearest = 0,        /* to the nearest value */
-    zorDepthFloydSteinberg = 1, /* by error diffusion: the picture is not cut into strips */
-    zorDepthJarvisJudiceNinke = 2,
-    zorDepthStucki = 3,
-    zorDepthOrdered = 4, /* by a 4 x 4 matrix of thresholds */
-    zorDepthTruncate = 5 /* the upper 8 bits */
+typedef ZOR_ENUM{
+    zorDepthNearest = 0,           /* to the nearest value */
+    zorDepthFloydSteinberg = 1,    /* by error diffusion: the picture is not cut into strips */
+    zorDepthJarvisJudiceNinke = 2, /* likewise */
+    zorDepthStucki = 3,            /* likewise */
+    zorDepthOrdered = 4,           /* by a 4 x 4 matrix of thresholds */
+    zorDepthTruncate = 5           /* the upper 8 bits */
 } ZorDepth;
 
 /* How channels become the fields of packed 16-bit formats. */
-typedef enum {
+typedef ZOR_ENUM{
     zorFieldsTruncate = 0, /* their top bits */
     zorFieldsDither = 1    /* by a 4 x 4 matrix of thresholds; from luma and chroma alone */
 } ZorFields;
 
 /* How colours become grey. */
-typedef enum {
+typedef ZOR_ENUM{
     zorGreyLuma = 0,    /* 0.299 R + 0.587 G + 0.114 B */
     zorGreyWeights = 1, /* by greyWeights */
     zorGreyRefuse = 2   /* a plan that drops colours is refused */
@@ -150,7 +150,7 @@ typedef enum {
 /* Zeros, but for the size, are the defaults: ZorPlanOptions options = {sizeof options}. */
 typedef struct {
     size_t structBytes; /* of this structure as the caller knows it; members beyond have their defaults */
-    int threads;        /* the most that a run uses; 0: ownGetNumThreads() when the plan is made */
+    int threads;        /* the most of a run, capped as in zorcore.h; 0: ownGetNumThreads() when the plan is made */
     int stripRows;      /* rows of a strip, rounded up to a multiple of 4; 0: as suits the cache */
     ZorAlpha alpha;
     ZorDepth depth;

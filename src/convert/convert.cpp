@@ -8,6 +8,7 @@
 
 #include "convert/chain.h"
 #include "convert/moves.h"
+#include "frame/team_size.h"
 #include "zorcore.h"
 
 using namespace zorcc::conversion;
@@ -287,7 +288,7 @@ ZorStatus make(ZorPlan& plan, const ZorPicture* given[2], const ZorPlanOptions* 
     for (int i = 0; i < chain.images(); ++i)
         if (checkSize(chain.format(i), chain.size) != zorStatusOk)
             return fail(words, zorStatusBadSize, "rows of ", chain.format(i).name, " are above 2 GiB");
-    chain.threads = options.threads > 0 ? options.threads : ownGetNumThreads();
+    chain.threads = zorcc::teamSize(options.threads > 0 ? options.threads : ownGetNumThreads());
     chain.alpha = alphaStepOf(chain, options.alpha == zorAlphaOpaque);
     chain.layOut(options.stripRows);
     describe(plan, to, words);

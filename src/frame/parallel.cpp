@@ -7,6 +7,7 @@
 
 #include <algorithm>
 
+#include "frame/team_size.h"
 #include "zorcore.h"
 
 namespace zorcc {
@@ -18,9 +19,6 @@ constexpr int minBandedSize = 192; // width and height
 constexpr int minGroupedWidth = 128;
 constexpr int maxSerialGroupedHeight = 128;
 constexpr int rowsPerGroup = 4;
-
-// No team is larger than the greater of both: the runtime ends the process when it cannot start what it is asked for.
-constexpr int largestTeam = 32, largestTeamPerProcessor = 4;
 
 // Calls body(0) .. body(count - 1), contiguous ranges on each of at most `wanted` threads.
 void forEach(int wanted, int count, FunctionRef<void(int)> body)
@@ -37,13 +35,7 @@ void forEach(int wanted, int count, FunctionRef<void(int)> body)
 } // namespace
 
 // A caller that is parallel itself already keeps the processors busy.
-int threadsHere()
-{
-    if (omp_in_parallel()) return 1;
-    const int threads = ownGetNumThreads();
-    if (threads <= largestTeam) return threads; // to count processors takes a system call
-    return std::min(threads, std::max(largestTeam, largestTeamPerProcessor * omp_get_num_procs()));
-}
+int threadsHere() { return omp_in_parallel() ? 1 : teamSize(ownGetNumThreads()); }
 
 void Member::waitForOthers() const
 {

@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
 // Every pair of formats that a plan connects gives what its functions give when they are called by hand.
 #include <gtest/gtest.h>
+#include <unistd.h>
 
+#include <climits>
 #include <filesystem>
 #include <map>
+#include <thread>
 
 #include "tests/convert/by_hand.h"
 #include "tests/harness/tiers.h"
@@ -168,8 +171,7 @@ TEST(PlansDeathTest, OneMeansOne)
         for ([[maybe_unused]] const auto& task : std::filesystem::directory_iterator("/proc/self/task")) ++count;
         return count;
     };
-    const auto newThreads = [&](int threads) {
-        const ZorSize size{640, 480};
+    const auto newThreads = [&](int threads, ZorSize size = {640, 480}) {
         const Plan plan = planOf({"rgb24", "hls24", colours[0], colours[0]}, size, optionsOf(threads, 0));
         const PictureInMemory source("rgb24", size), destination("hls24", size);
         const int before = tasks();
@@ -177,6 +179,23 @@ TEST(PlansDeathTest, OneMeansOne)
     };
     EXPECT_EXIT(std::exit(newThreads(1)), testing::ExitedWithCode(0), "");
     EXPECT_EXIT(std::exit(newThreads(3)), testing::ExitedWithCode(2), "");
+    // Enough pixels for 64.
+    const unsigned most = std::max(32u, 4 * std::thread::hardware_concurrency()) - 1;
+    EXPECT_EXIT(std::exit(newThreads(INT_MAX, {64, 1 << 16})), testing::ExitedWithCode(std::min(64, int(most))), "");
+}
+
+// A child has none of the runtime's threads.
+TEST(PlansDeathTest, WorkInChildrenOfAFork)
+{
+    GTEST_FLAG_SET(death_test_style, "fast");
+    const ZorSize size{640, 480};
+    const Plan plan = planOf({"rgb24", "nv12", colours[0], colours[0]}, size, optionsOf(3, 0));
+    PictureInMemory source("rgb24", size), expected("nv12", size), result("nv12", size);
+    Random random(8);
+    source.fill(random);
+    ASSERT_EQ(run(plan, source, expected), zorStatusOk);
+    EXPECT_EXIT((alarm(20), std::_Exit(run(plan, source, result) + !isSame(result, expected))),
+                testing::ExitedWithCode(0), "");
 }
 
 // Pixels worked out by hand, and the ways to them.

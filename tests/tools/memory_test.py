@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: MIT
 """Every allocation and start of a thread of the tool's commands made to fail in turn: the result as it should be, or one
-line, exit code 1 and nothing left. A run tries some of them; with ZORCC_EVERY_FAILURE=1 it tries all."""
+line, exit code 1 and nothing left. A run tries some of them; with ZORCC_EVERY_FAILURE=1 (ctest -C every -L every)
+it tries all."""
 import unittest
 
 from files import *
