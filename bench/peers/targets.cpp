@@ -335,7 +335,8 @@ bool checkTargets(const std::vector<Result>& results, bool areAll)
         if (!isTiny(result.size) && result.ours.contains(tierOfGeomean))
             if (const auto figure = figureOf(result, tierOfGeomean, bestPeer)) all.add(name, figure->reached);
     }
-    if (areAll) judge.judge("geomean", tierOfGeomean, {all.geomean(), std::string(bestPeer)}, wantedGeomean);
+    if (areAll && results.front().ours.contains(tierOfGeomean))
+        judge.judge("geomean", tierOfGeomean, {all.geomean(), std::string(bestPeer)}, wantedGeomean);
     return judge.sum();
 }
 
