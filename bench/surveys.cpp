@@ -63,19 +63,20 @@ double processorSeconds(clockid_t clock)
     return static_cast<double>(time.tv_sec) + 1e-9 * static_cast<double>(time.tv_nsec);
 }
 
-// Whether other threads work in a call: the process then uses more time of processors than this thread. The first call
-// starts them; they have fallen asleep before the second.
+// Seconds of processors that other threads of this process have used.
+double secondsOfOthers()
+{
+    return processorSeconds(CLOCK_PROCESS_CPUTIME_ID) - processorSeconds(CLOCK_THREAD_CPUTIME_ID);
+}
+
+// Whether other threads work in a call. The first one starts them; they have fallen asleep before the second.
 bool forks(const Workload& work)
 {
     work();
     std::this_thread::sleep_for(std::chrono::milliseconds(20));
-    const auto others = [] {
-        return processorSeconds(CLOCK_PROCESS_CPUTIME_ID) - processorSeconds(CLOCK_THREAD_CPUTIME_ID);
-    };
-    const double before = others(), mine = processorSeconds(CLOCK_THREAD_CPUTIME_ID);
+    const double before = secondsOfOthers();
     work();
-    constexpr double leastShare = 0.1;
-    return others() - before > leastShare * (processorSeconds(CLOCK_THREAD_CPUTIME_ID) - mine);
+    return secondsOfOthers() - before > 2e-5;
 }
 
 double median(std::vector<double> values)
@@ -126,18 +127,27 @@ bool printGrowth(const std::regex& filter)
 
 bool printForks(const std::regex& filter)
 {
+    std::map<std::string, double> best;
+    std::set<std::string> done;
+    // Something else may keep the second processor busy for a while: slow ones get other chances later.
+    for (int pass = 0; pass < 4; ++pass)
+        forEachVariant(filter, [&](const Function& function, const Variant& variant, const std::string& name) {
+            if (done.contains(name)) return;
+            const Workload work(function, variant, frameSize);
+            zorSetNumThreads(2);
+            if (pass == 0 && !forks(work)) {
+                done.insert(name);
+                return;
+            }
+            std::vector<Runner> runners;
+            for (const int threads : {1, 2})
+                runners.push_back({"", [=] { zorSetNumThreads(threads); }, [&] { work(); }});
+            race(runners, 0.3);
+            best[name] = std::max(best[name], runners[0].seconds / runners[1].seconds);
+            if (best[name] >= 1) done.insert(name);
+        });
     Ranking gain;
-    forEachVariant(filter, [&](const Function& function, const Variant& variant, const std::string& name) {
-        const Workload work(function, variant, frameSize);
-        zorSetNumThreads(2);
-        if (!forks(work)) return;
-        std::vector<Runner> runners;
-        for (const int threads : {1, 2}) runners.push_back({"", [=] { zorSetNumThreads(threads); }, [&] { work(); }});
-        int tries = 5; // something else may keep the second processor busy for a while
-        do race(runners, 0.3);
-        while (runners[0].seconds < runners[1].seconds && --tries > 0);
-        gain.add(name, runners[0].seconds / runners[1].seconds);
-    });
+    for (const auto& [name, figure] : best) gain.add(name, figure);
     gain.print("Speed at " + sizeName(frameSize) + " on two threads in multiples of that on one", 1, std::string::npos);
     return gain.below(1) == 0;
 }

@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 // Our conversions on every tier of this machine compared with what other libraries offer for the same pixel formats.
+#include <unistd.h>
+
 #include <algorithm>
 #include <array>
 #include <cstdio>
+#include <cstdlib>
 #include <iterator>
 #include <optional>
 #include <regex>
@@ -84,7 +87,8 @@ struct Options {
 bool compareAll(const Options& options)
 {
     const std::regex wanted(options.filter);
-    const Tiers tiers = tiersHere(tiersHere().at(options.tier));
+    highestTier = tiersHere().at(options.tier);
+    const Tiers tiers = tiersHere(highestTier);
     const std::vector<Library> all = libraries();
     std::vector<std::string> versions;
     for (const Library& library : all)
@@ -118,7 +122,7 @@ bool compareAll(const Options& options)
             if (!libyuvs.empty()) measure(function, variant, tinySizes, libyuvs);
         }
     if (results.empty()) throw std::runtime_error("no function with a peer matches '" + options.filter + "'");
-    if (!options.json.empty()) writeJson(options.json, versions, results);
+    if (!options.json.empty()) writeJson(options.json, options.tier, versions, results);
     if (options.summary) printSummary(results);
     return !options.check || checkTargets(results, options.filter.empty());
 }
@@ -133,13 +137,20 @@ int main(int argc, char** argv)
     app.add_option("--seconds", options.seconds, "Time for one function at one size")
         ->check(CLI::PositiveNumber)
         ->capture_default_str();
-    app.add_option("--tier", options.tier, "The best SIMD tier of zorcc to run; the peers use whatever there is")
+    app.add_option("--tier", options.tier, "The highest SIMD tier; below avx512 the peers do without AVX-512, too")
         ->check(CLI::IsMember(tiersHere()))
         ->capture_default_str();
     app.add_option("--json", options.json, "File to write the figures to");
     app.add_flag("--summary", options.summary, "Print the geomean to the best peer, and the worst figures, at the end");
     app.add_flag("--check", options.check, "Compare the figures with the project's targets; exit 1 if one is missed");
     CLI11_PARSE(app, argc, argv);
+
+    // OpenCV is told when it is loaded.
+    constexpr const char* unused = "OPENCV_CPU_DISABLE";
+    if (options.tier != nameOf(bestTier()) && !std::getenv(unused)) {
+        setenv(unused, "AVX512-SKX", 1);
+        execv("/proc/self/exe", argv);
+    }
 
     zorSetNumThreads(1);
     try {

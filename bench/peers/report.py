@@ -2,8 +2,8 @@
 # SPDX-License-Identifier: MIT
 """Draws docs/speed.svg and fills in the README's figures, from the JSON of zorcc_peers.
 
-    bench/peers/report.py              # runs build/release/bin/zorcc_peers, for about four minutes
-    bench/peers/report.py FILE.json    # what it has written before, by --json
+    bench/peers/report.py              # runs build/release/bin/zorcc_peers on AVX2 and AVX-512, for some minutes
+    bench/peers/report.py FILE.json... # what it has written before, by --tier and --json
 """
 import json
 import math
@@ -71,12 +71,12 @@ def geomean(values):
     return math.exp(sum(map(math.log, values)) / len(values))
 
 
-def ratios_of(results):
+def ratios_of(runs):
     """Our speed in multiples of the best peer's: {function: {(tier, size): ratio}}."""
     ratios = {}
-    for r in results:
-        if r["size"] in (CACHED, FRAME) and (peer := best_peer(r)):
-            for tier in TIERS.keys() & r["zorcc"].keys():
+    for tier, results in runs.items():
+        for r in results:
+            if r["size"] in (CACHED, FRAME) and (peer := best_peer(r)):
                 ratios.setdefault(r["function"], {})[tier, r["size"]] = r["zorcc"][tier] / peer[1]
     return ratios
 
@@ -155,36 +155,40 @@ def summary(ratios):
                          f"speed in multiples of the fastest peer's is {means}; zorcc is behind {behind}.", 120)
 
 
-def table(results):
-    lines = ["| conversion | function | AVX2 | AVX-512 | fastest peer | memcpy |", "|---|---|---|---|---|---|"]
-    found = {r["function"]: r for r in results if r["size"] == FRAME}
-    for conversion, function in CONVERSIONS.items():
-        result = found[function]
+def table(runs):
+    lines = [f'| conversion | function | {" | ".join(TIERS[tier] for tier in runs)} | memcpy |',
+             "|---|---|" + "---|" * len(runs) + "---|"]
+    found = {(tier, r["function"]): r for tier, results in runs.items() for r in results if r["size"] == FRAME}
+
+    def cell(tier, function):
+        result = found[tier, function]
         name, speed = best_peer(result)
-        ours = [f'{result["zorcc"][tier]:.0f} ({result["zorcc"][tier] / speed:.2f})' if tier in result["zorcc"] else ""
-                for tier in TIERS]
         library = name.split()[0 if "library" not in name else -1]
-        lines.append(f'| {conversion} | `{function}` | {ours[0]} | {ours[1]} | {speed:.0f} {library} '
-                     f'| {result["memcpy"]:.0f} |')
+        ours = result["zorcc"][tier]
+        return f"{ours:.0f}, {ours / speed:.2f} x {library}"
+
+    for conversion, function in CONVERSIONS.items():
+        lines.append(f'| {conversion} | `{function}` | {" | ".join(cell(tier, function) for tier in runs)} '
+                     f'| {found[next(iter(runs)), function]["memcpy"]:.0f} |')
     return "\n".join(lines)
 
 
-def measure():
+def measure(tier):
     with tempfile.NamedTemporaryFile(suffix=".json") as file:
-        subprocess.run([ROOT / "build/release/bin/zorcc_peers", "--json", file.name, "--seconds", "0.3"],
-                       check=True, stdout=subprocess.DEVNULL)
-        return json.load(file)
+        run = subprocess.run([ROOT / "build/release/bin/zorcc_peers", "--tier", tier, "--json", file.name, "--seconds",
+                              "0.25"], stdout=subprocess.DEVNULL)
+        return json.load(file) if run.returncode == 0 else None  # the processor lacks the tier
 
 
 def main():
-    data = json.loads(pathlib.Path(sys.argv[1]).read_text()) if len(sys.argv) > 1 else measure()
-    results = data["results"]
-    ratios = ratios_of(results)
+    data = [json.loads(pathlib.Path(path).read_text()) for path in sys.argv[1:]] or filter(None, map(measure, TIERS))
+    runs = {run["tier"]: run["results"] for run in data}
+    ratios = ratios_of(runs)
     (ROOT / "docs/speed.svg").write_text(plot(ratios))
     readme = ROOT / "README.md"
     mark = "<!-- {} of bench/peers/report.py -->"
     begin, end = mark.format("begin"), mark.format("end")
-    made = f"{begin}\n\n{summary(ratios)}\n\n{table(results)}\n\n{end}"
+    made = f"{begin}\n\n{summary(ratios)}\n\n{table(runs)}\n\n{end}"
     text, count = re.subn(f"{begin}.*{end}", lambda _: made, readme.read_text(), flags=re.S)
     if count != 1:
         sys.exit(f"README.md lacks {begin}")

@@ -76,11 +76,12 @@ void printSummary(const std::vector<Result>& results)
                       10);
 }
 
-void writeJson(const std::string& path, const std::vector<std::string>& versions, const std::vector<Result>& results)
+void writeJson(const std::string& path, const std::string& tier, const std::vector<std::string>& versions,
+               const std::vector<Result>& results)
 {
     using Number = std::pair<std::string, double>;
     std::ofstream file(path);
-    file << "{\"libraries\": [";
+    file << "{\"tier\": \"" << tier << "\", \"libraries\": [";
     for (const std::string& version : versions)
         file << (&version == versions.data() ? "" : ", ") << '"' << version << '"';
     file << "],\n\"results\": [";

@@ -37,7 +37,8 @@ void print(const Result& result);
 // same of the time of a call on small images.
 void printSummary(const std::vector<Result>& results);
 
-// The versions of the libraries, and all results.
-void writeJson(const std::string& path, const std::vector<std::string>& versions, const std::vector<Result>& results);
+// The highest tier, the versions of the libraries, and all results.
+void writeJson(const std::string& path, const std::string& tier, const std::vector<std::string>& versions,
+               const std::vector<Result>& results);
 
 } // namespace zorcc::bench
