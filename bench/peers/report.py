@@ -107,7 +107,8 @@ def plot(ratios):
             dot(x, 48, kind)
             words(x + 8, 52, f"{title}, {size}")
             x += 132
-    words(total[0] - left, 52, "one thread; logarithmic scale; right of the red line zorcc is ahead", "words faint", "end")
+    words(total[0] - left, 52, "one thread; logarithmic scale; right of the red line zorcc is ahead", "words faint",
+          "end")
 
     for column in (0, 1):
         origin = left + column * (names + width + gap) + names
@@ -130,8 +131,8 @@ def plot(ratios):
                 words(at, y, f"{2 ** power:g}", "words faint", "middle")
         for i, (name, figures) in enumerate(part):
             middle = top + (i + .5) * row
-            out.append("<g><title>" + escape(name + "".join(
-                f"\n{TIERS[tier]}, {size}: {ratio:.2f}" for (tier, size), ratio in sorted(figures.items()))) + "</title>")
+            tip = "".join(f"\n{TIERS[tier]}, {size}: {ratio:.2f}" for (tier, size), ratio in sorted(figures.items()))
+            out.append(f"<g><title>{escape(name + tip)}</title>")
             words(origin - 8, middle + 3.4, name.removeprefix("zori"), "name", "end")
             for k, tier in enumerate(TIERS):
                 ends = {size: place(figures[tier, size]) for size in (FRAME, CACHED) if (tier, size) in figures}
