@@ -18,6 +18,12 @@ namespace zorcc::bench {
 // An image whose conversion stays within the second-level cache, and a frame that does not.
 inline constexpr ZorSize cachedSize = {256, 64}, frameSize = {1920, 1080};
 
+// Images so small that a call costs more than its pixels.
+inline constexpr ZorSize tinySizes[] = {{16, 16}, {1, 1}};
+
+inline bool same(ZorSize a, ZorSize b) { return a.width == b.width && a.height == b.height; }
+inline bool isTiny(ZorSize size) { return size.width <= tinySizes[0].width; }
+
 inline std::string sizeName(ZorSize size) { return std::to_string(size.width) + "x" + std::to_string(size.height); }
 
 inline double pixels(ZorSize size) { return static_cast<double>(size.width) * size.height; }

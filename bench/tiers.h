@@ -9,12 +9,14 @@
 
 namespace zorcc::bench {
 
-// The tiers of this processor by name.
-inline std::map<std::string, Tier> tiersHere()
+using Tiers = std::map<std::string, Tier>;
+
+// The tiers of this processor by name; those up to a lower one.
+inline Tiers tiersHere(Tier best = bestTier())
 {
-    std::map<std::string, Tier> tiers;
+    Tiers tiers;
     for (Tier tier : {Tier::ssse3, Tier::avx2, Tier::avx512})
-        if (tier <= bestTier()) tiers.emplace(nameOf(tier), tier);
+        if (tier <= best) tiers.emplace(nameOf(tier), tier);
     return tiers;
 }
 

@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
 // Speed of every conversion of the library, each with a memcpy of the same traffic.
-#include <cstring>
+#include <regex>
 #include <string>
 #include <vector>
 
 #include <CLI/CLI.hpp>
 #include <benchmark/benchmark.h>
 
-#include "bench/picture.h"
+#include "bench/surveys.h"
 #include "bench/tiers.h"
-#include "bench/variants.h"
+#include "bench/workload.h"
 
 namespace {
 
@@ -26,28 +26,26 @@ void report(benchmark::State& state, ZorSize size, std::size_t bytes)
 
 void measure(benchmark::State& state, const Function& function, const Variant& variant, ZorSize size)
 {
-    const Picture source(*function.source, size), destination(*function.destination, size);
-    if (function(source.image, destination.image, size, variant.arguments) != zorStatusOk) {
+    const Workload work(function, variant, size);
+    if (work() != zorStatusOk) {
         state.SkipWithError("the conversion reports an error");
         return;
     }
     for (auto _ : state) {
-        function(source.image, destination.image, size, variant.arguments);
+        work();
         benchmark::ClobberMemory();
     }
     report(state, size, trafficBytes(function, size));
 }
 
-// Half of the conversion's traffic is read and half is written.
 void measureCopy(benchmark::State& state, const Function& function, const Variant&, ZorSize size)
 {
-    const std::size_t bytes = trafficBytes(function, size) / 2;
-    const Buffer source(bytes), destination(bytes);
+    const Copy copy(function, size);
     for (auto _ : state) {
-        std::memcpy(destination.data(), source.data(), bytes);
+        copy();
         benchmark::ClobberMemory();
     }
-    report(state, size, 2 * bytes);
+    report(state, size, trafficBytes(function, size));
 }
 
 // The clock is the processor time of the calling thread, which a busy machine does not spoil; with several threads it
@@ -80,11 +78,31 @@ int main(int argc, char** argv)
     app.add_option("--threads", threads, "Threads that one call may use")
         ->check(CLI::PositiveNumber)
         ->capture_default_str();
+    std::string filter;
+    app.add_option("--filter", filter, "Only the functions whose names match this regular expression, of the lists");
+    struct {
+        const char *option, *help;
+        bool (*print)(const std::regex&);
+        bool wanted = false;
+    } surveys[] = {
+        {"--summary", "List the slowest relative to memcpy, and to their family", printSlowest},
+        {"--growth", "List speeds at 8K in multiples of those at 1080p; exit 1 if one is below 0.9", printGrowth},
+        {"--forks", "List speeds on two threads in multiples of those on one; exit 1 if one is below 1", printForks},
+    };
+    for (auto& survey : surveys) app.add_flag(survey.option, survey.wanted, survey.help);
     app.allow_extras();
     CLI11_PARSE(app, argc, argv);
 
     setActiveTier(tiers.at(tier));
     zorSetNumThreads(threads);
+    bool surveyed = false, ok = true;
+    for (const auto& survey : surveys)
+        if (survey.wanted) {
+            ok = survey.print(std::regex(filter)) && ok;
+            surveyed = true;
+        }
+    if (surveyed) return ok ? 0 : 1;
+
     benchmark::AddCustomContext("tier", tier);
     benchmark::AddCustomContext("threads", std::to_string(threads));
     benchmark::AddCustomContext("bytes_per_second", "bytes read plus bytes written");

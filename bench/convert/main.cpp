@@ -8,7 +8,7 @@
 #include <CLI/CLI.hpp>
 
 #include "bench/convert/peers.h"
-#include "bench/peers/race.h"
+#include "bench/race.h"
 #include "bench/tiers.h"
 #include "zorconvert.h"
 

@@ -220,7 +220,12 @@ const Row rows[] = {
     {"zoriYCbCr422ToCbYCr422_8u_C2R", "SwapUVPlane", swapBytes},
 };
 
-void useEverything() { ::libyuv::MaskCpuFlags(-1); }
+void useEverything()
+{
+    using namespace ::libyuv;
+    constexpr int avx512 = kCpuHasAVX512BW | kCpuHasAVX512VL | kCpuHasAVX512VNNI | kCpuHasAVX512VBMI;
+    MaskCpuFlags(highestTier == Tier::avx512 ? -1 : ~avx512);
+}
 void useSSSE3Only()
 {
     using namespace ::libyuv;

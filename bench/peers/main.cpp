@@ -1,18 +1,24 @@
 // SPDX-License-Identifier: MIT
 // Our conversions on every tier of this machine compared with what other libraries offer for the same pixel formats.
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
 #include <cstdio>
-#include <cstring>
+#include <cstdlib>
+#include <iterator>
+#include <optional>
 #include <regex>
+#include <span>
 #include <stdexcept>
 
 #include <CLI/CLI.hpp>
 
 #include "bench/peers/peer.h"
-#include "bench/peers/race.h"
 #include "bench/peers/targets.h"
-#include "bench/picture.h"
+#include "bench/race.h"
 #include "bench/tiers.h"
-#include "bench/variants.h"
+#include "bench/workload.h"
 
 namespace {
 
@@ -43,82 +49,82 @@ std::vector<Library> libraries()
     return all;
 }
 
-// All ways to do the job of `function`: ours on every tier, a memcpy of the same traffic, the peers.
-Result compare(const Function& function, const Variant& variant, ZorSize size, const std::vector<const Peer*>& peers,
-               double seconds)
+// All ways to do the job of `function`: ours on every tier, a memcpy of the same traffic, the peers. Nothing if it does
+// not take images of this size.
+std::optional<Result> compare(const Function& function, const Variant& variant, ZorSize size,
+                              const std::vector<const Peer*>& peers, const Tiers& tiers, double seconds)
 {
-    const Picture source(*function.source, size), destination(*function.destination, size);
-    const std::size_t copyBytes = trafficBytes(function, size) / 2;
-    const Buffer copySource(copyBytes), copyDestination(copyBytes);
-    const Job job{function, source.image, destination.image, size, variant.arguments};
+    // Where planes are smaller than the image, peers write the one sample of a smaller plane that ours may not.
+    const Workload ours(function, variant, size, isTiny(size) ? tinySizes[0] : size);
+    if (isTiny(size) && ours() != zorStatusOk) return std::nullopt;
+    const Copy copy(function, size);
+    const Job job{function, ours.source.image, ours.destination.image, size, variant.arguments};
 
-    const interface::Call call {
-        source.image, destination.image, size, function.withScratch(variant.arguments, size)
-    };
     std::vector<Runner> runners;
-    for (const auto& [name, tier] : tiersHere())
-        runners.push_back({name, [t = tier] { setActiveTier(t); }, [&] { function.bound(call); }});
-    runners.push_back({"memcpy", {}, [&] { std::memcpy(copyDestination.data(), copySource.data(), copyBytes); }});
+    for (const auto& [name, tier] : tiers) runners.push_back({name, [t = tier] { setActiveTier(t); }, [&] { ours(); }});
+    runners.push_back({"memcpy", {}, [&] { copy(); }});
     for (const Peer* peer : peers) runners.push_back({peer->name, peer->select, peer->prepare(job)});
     race(runners, seconds);
 
     auto speed = [&, runner = runners.begin()]() mutable { return pixels(size) / 1e6 / runner++->seconds; };
     Result result{&function, nameOf(function, variant), size, {}, {}};
-    for (const auto& [name, tier] : tiersHere()) result.ours[tier] = speed();
-    const double copy = speed();
+    for (const auto& [name, tier] : tiers) result.ours[tier] = speed();
+    const double copySpeed = speed();
     for (const Peer* peer : peers) result.peers.push_back({peer->name, peer->ssse3Only, speed()});
-    result.peers.push_back({"memcpy", false, copy});
+    result.peers.push_back({"memcpy", false, copySpeed});
     return result;
 }
 
-void printRow(const std::string& name, double speed, const std::map<Tier, double>& ours)
-{
-    std::printf("  %-44s %9.0f", name.c_str(), speed);
-    for (const auto& [tier, our] : ours) std::printf(" %7.2fx", our / speed);
-    std::printf("\n");
-}
+bool isLibyuv(const Peer* peer) { return peer->name.starts_with("libyuv ") && !peer->ssse3Only; }
 
-void print(const Result& result)
-{
-    std::printf("%-46s %9s", result.name.c_str(), sizeName(result.size).c_str());
-    for (const auto& [tier, our] : result.ours) std::printf(" %8s", nameOf(tier));
-    std::printf("\n  %-44s %9s", "zorcc", "");
-    for (const auto& [tier, our] : result.ours) std::printf(" %8.0f", our);
-    std::printf("\n");
-    for (const PeerSpeed& peer : result.peers) printRow(peer.name, peer.speed, result.ours);
-    std::printf("\n");
-    std::fflush(stdout);
-}
+struct Options {
+    std::string filter, tier = nameOf(bestTier()), json;
+    double seconds = 0.5;
+    bool check = false, summary = false;
+};
 
 // False if a target is missed.
-bool compareAll(const std::string& filter, double seconds, bool check)
+bool compareAll(const Options& options)
 {
-    const std::regex wanted(filter);
+    const std::regex wanted(options.filter);
+    highestTier = tiersHere().at(options.tier);
+    const Tiers tiers = tiersHere(highestTier);
     const std::vector<Library> all = libraries();
+    std::vector<std::string> versions;
     for (const Library& library : all)
-        if (!library.version.empty()) std::printf("%s\n", library.version.c_str());
-    std::printf(
-        "Mpx/s of one thread, the best of many short batches in turn; under each tier our speed in multiples of "
-        "the row's.\nmemcpy reads and writes as many bytes as the conversion.\n\n");
+        if (!library.version.empty()) versions.push_back(library.version);
+    for (const std::string& version : versions) std::printf("%s\n", version.c_str());
+    std::printf("Mpx/s of one thread, or nanoseconds of a call on a small image, the best of many short batches in "
+                "turn; under each tier\nour speed in multiples of the row's. memcpy reads and writes as many bytes as "
+                "the conversion.\n\n");
 
     std::vector<Result> results;
+    const auto measure = [&](const Function& function, const Variant& variant, std::span<const ZorSize> sizes,
+                             const std::vector<const Peer*>& peers) {
+        for (const ZorSize size : sizes)
+            if (const auto result = compare(function, variant, size, peers, tiers, options.seconds)) {
+                results.push_back(*result);
+                print(*result);
+            }
+    };
     for (const Function& function : interface::functions())
         for (const Variant& variant : variantsOf(function)) {
             const std::string name = nameOf(function, variant);
             if (!std::regex_search(name, wanted)) continue;
-            std::vector<const Peer*> peers;
+            std::vector<const Peer*> peers, libyuvs;
             for (const Library& library : all)
                 for (const Peer& peer : library.peers)
                     if (peer.function == name) peers.push_back(&peer);
+            std::ranges::copy_if(peers, std::back_inserter(libyuvs), isLibyuv);
             // There are targets for functions without peers, but not for variants of them.
-            if (peers.empty() && !(check && variant.name.empty())) continue;
-            for (ZorSize size : {cachedSize, frameSize}) {
-                results.push_back(compare(function, variant, size, peers, seconds));
-                print(results.back());
-            }
+            if (peers.empty() && !(options.check && variant.name.empty())) continue;
+            measure(function, variant, std::array{cachedSize, frameSize}, peers);
+            if (!libyuvs.empty()) measure(function, variant, tinySizes, libyuvs);
         }
-    if (results.empty()) throw std::runtime_error("no function with a peer matches '" + filter + "'");
-    return !check || checkTargets(results);
+    if (results.empty()) throw std::runtime_error("no function with a peer matches '" + options.filter + "'");
+    if (!options.json.empty()) writeJson(options.json, options.tier, versions, results);
+    if (options.summary) printSummary(results);
+    return !options.check || checkTargets(results, options.filter.empty());
 }
 
 } // namespace
@@ -126,19 +132,29 @@ bool compareAll(const std::string& filter, double seconds, bool check)
 int main(int argc, char** argv)
 {
     CLI::App app("Conversions of zorcc and of other libraries, all on one thread.");
-    std::string filter;
-    double seconds = 0.5;
-    bool check = false;
-    app.add_option("--filter", filter, "Only the functions whose names match this regular expression");
-    app.add_option("--seconds", seconds, "Time for one function at one size")
+    Options options;
+    app.add_option("--filter", options.filter, "Only the functions whose names match this regular expression");
+    app.add_option("--seconds", options.seconds, "Time for one function at one size")
         ->check(CLI::PositiveNumber)
         ->capture_default_str();
-    app.add_flag("--check", check, "Compare the figures with the project's targets; exit 1 if one is missed");
+    app.add_option("--tier", options.tier, "The highest SIMD tier; below avx512 the peers do without AVX-512, too")
+        ->check(CLI::IsMember(tiersHere()))
+        ->capture_default_str();
+    app.add_option("--json", options.json, "File to write the figures to");
+    app.add_flag("--summary", options.summary, "Print the geomean to the best peer, and the worst figures, at the end");
+    app.add_flag("--check", options.check, "Compare the figures with the project's targets; exit 1 if one is missed");
     CLI11_PARSE(app, argc, argv);
+
+    // OpenCV is told when it is loaded.
+    constexpr const char* unused = "OPENCV_CPU_DISABLE";
+    if (options.tier != nameOf(bestTier()) && !std::getenv(unused)) {
+        setenv(unused, "AVX512-SKX", 1);
+        execv("/proc/self/exe", argv);
+    }
 
     zorSetNumThreads(1);
     try {
-        return compareAll(filter, seconds, check) ? 0 : 1;
+        return compareAll(options) ? 0 : 1;
     } catch (const std::exception& error) {
         std::fprintf(stderr, "zorcc_peers: %s\n", error.what());
         return 2;

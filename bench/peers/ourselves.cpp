@@ -50,7 +50,7 @@ constexpr Twins twins[] = {
     {"zoriYCCToRGB_16u_C3R", "zoriYCCToRGB_8u_C3R"},
 };
 
-void selectBestTier() { setActiveTier(bestTier()); }
+void selectBestTier() { setActiveTier(highestTier); }
 
 } // namespace
 

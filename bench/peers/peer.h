@@ -8,8 +8,13 @@
 #include <vector>
 
 #include "interface/functions.h"
+#include "simd/tier.h"
 
 namespace zorcc::bench {
+
+// The highest tier that ours runs on. Without AVX-512, other libraries do without it, too: all is as on a processor
+// that has none. Set before libraries are asked for their operations.
+inline Tier highestTier = bestTier();
 
 // One conversion of ours with images to run it on; the images outlive all work on them.
 struct Job {

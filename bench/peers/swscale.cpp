@@ -3,6 +3,7 @@
 #include <stdexcept>
 
 extern "C" {
+#include <libavutil/cpu.h>
 #include <libavutil/pixdesc.h>
 #include <libswscale/swscale.h>
 }
@@ -61,6 +62,8 @@ Work prepare(const Job& job)
 // measure the same again.
 Library swscale()
 {
+    if (highestTier < Tier::avx512)
+        av_force_cpu_flags(av_get_cpu_flags() & ~(AV_CPU_FLAG_AVX512 | AV_CPU_FLAG_AVX512ICL));
     Library library{"libswscale " AV_STRINGIFY(LIBSWSCALE_VERSION), {}};
     for (const Function& function : interface::functions()) {
         const AVPixelFormat from = pixelFormat(*function.source), to = pixelFormat(*function.destination);

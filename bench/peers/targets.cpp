@@ -1,40 +1,61 @@
 // SPDX-License-Identifier: MIT
 #include "bench/peers/targets.h"
 
+#include <algorithm>
 #include <cstdio>
+#include <optional>
+#include <set>
 
 #include "bench/picture.h"
-#include "bench/tiers.h"
+#include "bench/ranking.h"
 
 namespace zorcc::bench {
 
 namespace {
 
-// Our speed on a tier, in multiples of a peer's.
+// What a speed is a multiple of, beside a peer by name: the fastest of other libraries, held to SSSE3 or not; of a
+// unit.
+constexpr std::string_view bestPeer = "best peer", bestSsse3Peer = "best peer held to SSSE3", absolute = "Mpx/s";
+
+constexpr ZorSize bothSizes = {}; // cachedSize and frameSize
+
 struct Target {
     std::string_view function;
     ZorSize size;
     Tier tier;
-    double ratio;
+    double wanted;
     std::string_view peer;
 };
 
 const Target targets[] = {
+    // In place of what is asked of everything. The peer of the first two calculates with 8-bit weights.
+    {"zoriBGRToYUV420_8u_AC4P3R", bothSizes, Tier::avx2, 0.85, bestPeer},
+    {"zoriBGRToYCbCr420_8u_AC4P3R", bothSizes, Tier::avx2, 0.85, bestPeer},
+    {"zoriRGBToYUV420_8u_C3P3R", bothSizes, Tier::avx2, 1.15, bestPeer},
+    {"zoriRGBToYCbCr420_8u_C3P3R", bothSizes, Tier::avx2, 1.15, bestPeer},
+    {"zoriBGRToYCbCr420_8u_C3P3R", bothSizes, Tier::avx2, 1.15, bestPeer},
+    {"zoriYCbCr420ToBGR_8u_P3C4R", bothSizes, Tier::avx2, 1.2, bestPeer},
+    {"zoriRGBToYUV_8u_C3P3R", bothSizes, Tier::avx2, 1.5, bestPeer},
+    {"zoriRGBToYCbCr_8u_C3P3R", bothSizes, Tier::avx2, 1.5, bestPeer},
+    {"zoriYUV422ToRGB_8u_C2C3R", bothSizes, Tier::avx2, 1.3, bestPeer},
+    {"zoriYCbCr422ToRGB_8u_C2C3R", bothSizes, Tier::avx2, 1.3, bestPeer},
+    {"zoriRGBToHLS_32f_C3R", bothSizes, Tier::avx2, 1.4, bestPeer},
+    {"zoriHLSToRGB_32f_C3R", bothSizes, Tier::avx2, 1.4, bestPeer},
+    {"zoriReduceBits_8u_C1R fs", bothSizes, Tier::avx2, 1.3, bestPeer},
+    {"zoriReduceBits_8u_C3R fs", bothSizes, Tier::avx2, 1.3, bestPeer},
+    {"zoriCFAToRGB_16u_C1C3R", frameSize, Tier::avx2, 4, bestPeer},
+
     {"zoriRGBToYUV420_8u_C3P3R", cachedSize, Tier::avx512, 1.4, "libyuv RAWToI420"},
-    {"zoriRGBToYUV420_8u_C3P3R", cachedSize, Tier::avx2, 0.75, "libyuv RAWToI420"},
     {"zoriRGBToYUV420_8u_C3P3R", frameSize, Tier::avx512, 1.3, "libyuv RAWToI420"},
     {"zoriYUV420ToRGB_8u_P3C3R", cachedSize, Tier::avx512, 2.6, "libyuv I420ToRAW"},
     {"zoriYUV420ToRGB_8u_P3C3R", cachedSize, Tier::avx2, 1.1, "libyuv I420ToRAW"},
     {"zoriRGBToYUV_8u_C3R", cachedSize, Tier::avx512, 2.6, "OpenCV RGB2YUV"},
     {"zoriRGBToYUV_8u_C3R", frameSize, Tier::avx512, 2.6, "OpenCV RGB2YUV"},
     {"zoriRGBToYCbCr420_8u_C3P3R", cachedSize, Tier::avx512, 1.6, "libyuv RAWToI420"},
-    {"zoriRGBToYCbCr420_8u_C3P3R", cachedSize, Tier::avx2, 0.95, "libyuv RAWToI420"},
     {"zoriRGBToYCbCr420_8u_C3P3R", frameSize, Tier::avx512, 1.3, "libyuv RAWToI420"},
     {"zoriYCbCr420ToRGB_8u_P3C3R", cachedSize, Tier::avx512, 2.3, "libyuv I420ToRAW"},
-    {"zoriYCbCr420ToRGB_8u_P3C3R", cachedSize, Tier::avx2, 0.95, "libyuv I420ToRAW"},
     {"zoriYCbCr420ToRGB_8u_P3C3R", frameSize, Tier::avx512, 1.3, "libyuv I420ToRAW"},
     {"zoriYCbCr420ToBGR_8u_P3C4R", cachedSize, Tier::avx512, 1.6, "libyuv I420ToARGB"},
-    {"zoriYCbCr420ToBGR_8u_P3C4R", cachedSize, Tier::avx2, 0.75, "libyuv I420ToARGB"},
     {"zoriYCbCr420ToBGR_8u_P3C4R", frameSize, Tier::avx512, 1.3, "libyuv I420ToARGB"},
     {"zoriRGBToYCbCr_8u_C3P3R", cachedSize, Tier::avx512, 2.4, "libyuv RAWToARGB + ARGBToI444"},
     {"zoriRGBToYCbCr_8u_C3P3R", frameSize, Tier::avx512, 1.3, "libyuv RAWToARGB + ARGBToI444"},
@@ -59,7 +80,6 @@ const Target targets[] = {
     {"zoriYCbCr420ToRGB565Dither_8u16u_P3C3R", cachedSize, Tier::avx512, 1.5, "libyuv I420ToRGB565Dither"},
     {"zoriYCbCr420ToRGB565Dither_8u16u_P3C3R", cachedSize, Tier::avx2, 1.5, "libyuv I420ToRGB565Dither"},
     {"zoriBGRToYCbCr420_8u_C3P3R", cachedSize, Tier::avx512, 1.6, "libyuv RGB24ToI420"},
-    {"zoriBGRToYCbCr420_8u_C3P3R", cachedSize, Tier::avx2, 1.15, "libyuv RGB24ToI420"},
     {"zoriBGRToYCbCr422_8u_C3C2R", cachedSize, Tier::avx512, 1.5, "libyuv RGB24ToARGB + ARGBToYUY2"},
     {"zoriBGRToYCbCr422_8u_C3C2R", cachedSize, Tier::avx2, 1.15, "libyuv RGB24ToARGB + ARGBToYUY2"},
     {"zoriBGRToYCbCr411_8u_C3P3R", cachedSize, Tier::avx512, 0.8, "zorcc twin"},
@@ -80,22 +100,18 @@ const Target targets[] = {
     {"zoriYCoCgToSBGR_32s16s_P3C3R", cachedSize, Tier::avx512, 0.8 * 6 / 18, "zorcc twin"},
     {"zoriYCoCgToSBGR_Rev_32s16s_P3C3R", cachedSize, Tier::avx512, 0.8 * 6 / 18, "zorcc twin"},
     {"zoriReduceBits_8u_C1R none", frameSize, Tier::avx512, 1, "zorcc ordered"},
-    {"zoriReduceBits_8u_C1R ordered", frameSize, Tier::avx512, 1, "zimg ordered"},
     {"zoriReduceBits_8u_C1R ordered", frameSize, Tier::ssse3, 0.4, "zimg ordered"},
-    {"zoriReduceBits_8u_C1R fs", frameSize, Tier::avx512, 1, "zimg error diffusion"},
     {"zoriReduceBits_8u_C1R fs", frameSize, Tier::ssse3, 0.4, "zimg error diffusion"},
     {"zoriReduceBits_8u_C1R jjn", frameSize, Tier::avx512, 0.5, "zorcc fs"},
     {"zoriReduceBits_8u_C1R jjn", frameSize, Tier::ssse3, 0.2, "zorcc fs"},
     {"zoriReduceBits_8u_C1R stucki", frameSize, Tier::avx512, 0.5, "zorcc fs"},
     {"zoriReduceBits_8u_C1R stucki", frameSize, Tier::ssse3, 0.2, "zorcc fs"},
-    {"zoriReduceBits_8u_C3R ordered", frameSize, Tier::avx512, 0.8, "zimg ordered"},
     {"zoriReduceBits_8u_C3R ordered", frameSize, Tier::ssse3, 0.32, "zimg ordered"},
     {"zoriReduceBits_8u_C3R fs", frameSize, Tier::avx512, 1.2, "zimg error diffusion"},
     {"zoriReduceBits_8u_C3R fs", frameSize, Tier::ssse3, 0.48, "zimg error diffusion"},
     {"zoriYCbCr420_8u_P2P3R", cachedSize, Tier::avx512, 1.1, "libyuv NV12ToI420"},
     {"zoriYCbCr420_8u_P3P2R", cachedSize, Tier::avx512, 1.1, "libyuv I420ToNV12"},
     {"zoriYCbCr420ToYCbCr422_8u_P2C2R", cachedSize, Tier::avx512, 2, "libyuv NV12ToI420 + I420ToYUY2"},
-    {"zoriYCbCr420ToYCbCr422_8u_P2C2R", cachedSize, Tier::avx512, 1, "libyuv MergeUVPlane"},
     // Not reached: loads and stores alone come to 1.4 to 1.5 times, of UYVY to planes to 2.1 times.
     {"zoriYCrCb420ToYCbCr422_8u_P3C2R", cachedSize, Tier::avx512, 2, "libyuv I420ToYUY2"},
     {"zoriYCrCb420ToCbYCr422_8u_P3C2R", cachedSize, Tier::avx512, 2, "libyuv I420ToUYVY"},
@@ -104,7 +120,6 @@ const Target targets[] = {
     {"zoriCbYCr422ToYCbCr420_8u_C2P2R", cachedSize, Tier::avx512, 2, "libyuv UYVYToNV12"},
     {"zoriYCbCr422_8u_C2P3R", cachedSize, Tier::avx512, 1.5, "libyuv YUY2ToI422"},
     {"zoriCbYCr422ToYCbCr422_8u_C2P3R", cachedSize, Tier::avx512, 1.5, "libyuv UYVYToI422"},
-    {"zoriCbYCr422ToYCbCr422_8u_C2R", cachedSize, Tier::avx512, 1, "libyuv SwapUVPlane"},
     {"zoriYCbCr422ToYCbCr420_8u_P3R", cachedSize, Tier::avx512, 1.2, "libyuv I422ToI420"},
     {"zoriRGBToHLS_8u_C3R", cachedSize, Tier::avx512, 4.5, "OpenCV RGB2HLS_FULL"},
     {"zoriRGBToHLS_8u_C3R", cachedSize, Tier::ssse3, 1, "OpenCV RGB2HLS_FULL"},
@@ -150,8 +165,6 @@ const Target targets[] = {
     // floating point.
     {"zoriColorTwist32f_8u_C3R", cachedSize, Tier::avx512, 1.1, "OpenCV transform"},
     {"zoriColorTwist32f_8u_C3R", cachedSize, Tier::avx2, 1.1, "OpenCV transform"},
-    {"zoriColorTwist_32f_C3R", cachedSize, Tier::avx512, 1, "OpenCV transform"},
-    {"zoriColorTwist_32f_C3R", cachedSize, Tier::avx2, 1, "OpenCV transform"},
     // Not reached: with VBMI it is at 0.9 of a memcpy, on AVX2 sixteen shuffles stand for one look-up.
     {"zoriGammaFwd_8u_C3R", cachedSize, Tier::avx512, 15, "OpenCV LUT"},
     {"zoriGammaFwd_8u_C3R", cachedSize, Tier::avx2, 3, "OpenCV LUT"},
@@ -170,89 +183,160 @@ const Target targets[] = {
     {"zoriDemosaicAHD_16u_C1C3R", frameSize, Tier::ssse3, 3, "LibRaw AHD"},
 };
 
-// Words through a table of the curve, on AVX2.
-constexpr double tableSpeed = 250; // Mpx/s
-bool usesTable(const interface::Function& function) { return function.name.starts_with("zoriGammaFwd_16u_C3R"); }
+bool isOf(const Result& result, std::string_view function) { return result.name == function; }
 
-// Conversions that only move samples: on the best tier multiples of a memcpy beyond the caches, on the lowest multiples
-// of any peer that is held to the same instructions.
-bool movesSamples(const interface::Function& function) { return function.source->model == interface::Model::anyYcc; }
-constexpr double moveRatio = 0.9;
+// Conversions that only move samples.
+bool moves(const Result& result) { return result.function->source->model == interface::Model::anyYcc; }
+bool computes(const Result& result) { return !moves(result); }
 
-// Dithered 16-bit pixels on the best tier: multiples of those that are cut down.
-constexpr double ditheredRatio = 0.6;
+bool isAny(const Result&) { return true; }
 
-// On the lowest tier: multiples of any peer that is held to the same instructions, and Mpx/s of any function that
-// computes with integers and neither has variants nor does a hundred times the work of a conversion.
-constexpr double ssse3Ratio = 0.5;
-constexpr double ssse3Speed = 1000;
-bool isSlow(const interface::Function& function) { return function.name.starts_with("zoriDemosaicAHD"); }
-
-bool usesFloats(const interface::Function& function)
+// From and to PhotoYCC, which has no peer.
+bool isPhotoYccOfBytes(const Result& result)
 {
-    const bool ofBytes = function.source->sample == interface::Sample::u8;
-    return function.family == "HLS and HSV" || function.family == "CIE XYZ, LUV and Lab" ||
-           function.family == "PhotoYCC" || function.takesTwist ||
-           (!ofBytes && (function.family == "Gamma correction" || function.family == "Grey and tone mapping"));
+    return isOf(result, "zoriRGBToYCC_8u_C3R") || isOf(result, "zoriYCCToRGB_8u_C3R");
 }
 
-// Of bytes from and to PhotoYCC, which has no peer, on the AVX2 tier.
-constexpr double photoYccSpeed = 2000; // Mpx/s
-bool isPhotoYccOfBytes(std::string_view name) { return name == "zoriRGBToYCC_8u_C3R" || name == "zoriYCCToRGB_8u_C3R"; }
+// Words through a table of the curve.
+bool usesTable(const Result& result) { return isOf(result, "zoriGammaFwd_16u_C3R"); }
 
-bool same(ZorSize a, ZorSize b) { return a.width == b.width && a.height == b.height; }
+// Any function that computes with integers and neither has variants nor does a hundred times the work of a conversion.
+bool isSimple(const Result& result)
+{
+    const interface::Function& function = *result.function;
+    const bool ofBytes = function.source->sample == interface::Sample::u8;
+    const bool usesFloats =
+        function.family == "HLS and HSV" || function.family == "CIE XYZ, LUV and Lab" ||
+        function.family == "PhotoYCC" || function.takesTwist ||
+        (!ofBytes && (function.family == "Gamma correction" || function.family == "Grey and tone mapping"));
+    return result.name == function.name && !usesFloats && !function.name.starts_with("zoriDemosaicAHD");
+}
+
+// What holds for many functions, but for those that have a target of their own against the same.
+struct Rule {
+    std::string_view name;
+    bool (*holdsFor)(const Result&);
+    ZorSize size;
+    Tier tier;
+    double wanted;
+    std::string_view peer;
+};
+
+constexpr double mostTimeOfTinyCall = 1.5; // of libyuv's
+
+const Rule rules[] = {
+    {"everything", isAny, bothSizes, Tier::avx2, 1, bestPeer},
+    {"everything", isAny, bothSizes, Tier::avx512, 1, bestPeer},
+    {"everything", computes, bothSizes, Tier::ssse3, 0.5, bestSsse3Peer},
+    {"moves of samples", moves, bothSizes, Tier::ssse3, 0.95, bestSsse3Peer},
+    {"moves of samples", moves, frameSize, bestTier(), 0.9, "memcpy"},
+    {"dithered 16-bit pixels", isAny, cachedSize, bestTier(), 0.6, "zorcc undithered"},
+    {"calls on small images", isAny, tinySizes[0], Tier::avx2, 1 / mostTimeOfTinyCall, bestPeer},
+    {"calls on small images", isAny, tinySizes[0], Tier::avx512, 1 / mostTimeOfTinyCall, bestPeer},
+    {"PhotoYCC of bytes", isPhotoYccOfBytes, cachedSize, Tier::avx2, 2000, absolute},
+    {"gamma of words", usesTable, frameSize, Tier::avx2, 250, absolute},
+    {"functions of integers", isSimple, cachedSize, Tier::ssse3, 1000, absolute},
+};
+
+// Geomean of all that has a peer, in multiples of the best one.
+constexpr double wantedGeomean = 3.5;
+constexpr Tier tierOfGeomean = Tier::avx2;
+
+// ---- judging --------------------------------------------------------------------------------------------------------
+
+bool isIn(ZorSize size, ZorSize wanted) { return same(wanted, bothSizes) ? !isTiny(size) : same(size, wanted); }
+
+struct Figure {
+    double reached;
+    std::string unit;
+};
+
+// Nothing where that peer is not there.
+std::optional<Figure> figureOf(const Result& result, Tier tier, std::string_view peer)
+{
+    const double ours = result.ours.at(tier);
+    if (peer == absolute) return Figure{ours, std::string(absolute)};
+    const PeerSpeed* const found = peer == bestPeer        ? result.bestPeer()
+                                   : peer == bestSsse3Peer ? result.bestPeer(true)
+                                                           : result.find(peer);
+    if (!found) return std::nullopt;
+    return Figure{ours / found->speed, "x " + found->name};
+}
+
+std::string twoDigits(double value)
+{
+    char text[32];
+    std::snprintf(text, sizeof text, "%.2f", value);
+    return text;
+}
 
 class Judge {
 public:
-    void judge(const Result& result, Tier tier, double reached, double wanted, std::string_view unit)
+    void judge(const std::string& name, Tier tier, const Figure& figure, double wanted)
     {
-        const bool ok = reached >= wanted;
-        (ok ? met : missed)++;
-        std::printf("  %-6s  %-32s %-10s %-7s %8.2f, wanted %8.2f %.*s\n", ok ? "ok" : "MISSED", result.name.c_str(),
-                    sizeName(result.size).c_str(), nameOf(tier), reached, wanted, static_cast<int>(unit.size()),
-                    unit.data());
+        if (figure.reached >= wanted)
+            ++met;
+        else
+            missed.push_back(
+                {figure.reached / wanted, line(name, tier, wanted, figure.unit, twoDigits(figure.reached))});
     }
 
-    bool sum() const
+    // `name` is that of the result, or of all that have the target.
+    void judge(const Result& result, std::string_view name, const auto& target)
     {
-        std::printf("%d ok, %d MISSED\n", met, missed);
-        return missed == 0;
+        if (!result.ours.contains(target.tier))
+            untried.insert(line(std::string(name), target.tier, target.wanted, target.peer));
+        else if (const auto figure = figureOf(result, target.tier, target.peer))
+            judge(result.name + " " + sizeName(result.size), target.tier, *figure, target.wanted);
+    }
+
+    bool sum()
+    {
+        std::ranges::sort(missed);
+        std::printf("Targets: %d met, %zu missed\n", met, missed.size());
+        for (const auto& [share, text] : missed) std::printf("%s\n", text.c_str());
+        if (!untried.empty()) std::printf("Not tried, for want of the tier:\n");
+        for (const std::string& text : untried) std::printf("%s\n", text.c_str());
+        return missed.empty();
     }
 
 private:
-    int met = 0, missed = 0;
+    int met = 0;
+    std::vector<std::pair<double, std::string>> missed; // with the share that is reached
+    std::set<std::string> untried;
+
+    static std::string line(const std::string& name, Tier tier, double wanted, std::string_view unit,
+                            const std::string& reached = "")
+    {
+        char text[200];
+        std::snprintf(text, sizeof text, "  %-6s %-54s %8s, wanted %7.2f %.*s", nameOf(tier), name.c_str(),
+                      reached.c_str(), wanted, static_cast<int>(unit.size()), unit.data());
+        return text;
+    }
 };
 
 } // namespace
 
-bool checkTargets(const std::vector<Result>& results)
+bool checkTargets(const std::vector<Result>& results, bool areAll)
 {
-    std::printf("Targets\n");
     Judge judge;
+    Ranking all;
     for (const Result& result : results) {
-        for (const PeerSpeed& peer : result.peers) {
-            for (const Target& target : targets)
-                if (target.function == result.name && same(target.size, result.size) && target.peer == peer.name &&
-                    result.ours.contains(target.tier))
-                    judge.judge(result, target.tier, result.ours.at(target.tier) / peer.speed, target.ratio,
-                                "x " + peer.name);
-            if (peer.name == "zorcc undithered" && same(result.size, cachedSize))
-                judge.judge(result, bestTier(), result.ours.at(bestTier()) / peer.speed, ditheredRatio,
-                            "x " + peer.name);
-            if (peer.ssse3Only)
-                judge.judge(result, Tier::ssse3, result.ours.at(Tier::ssse3) / peer.speed,
-                            movesSamples(*result.function) ? moveRatio : ssse3Ratio, "x " + peer.name);
-            if (peer.name == "memcpy" && same(result.size, frameSize) && movesSamples(*result.function))
-                judge.judge(result, bestTier(), result.ours.at(bestTier()) / peer.speed, moveRatio, "x memcpy");
-        }
-        if (same(result.size, cachedSize) && isPhotoYccOfBytes(result.name) && result.ours.contains(Tier::avx2))
-            judge.judge(result, Tier::avx2, result.ours.at(Tier::avx2), photoYccSpeed, "Mpx/s");
-        if (same(result.size, frameSize) && usesTable(*result.function) && result.ours.contains(Tier::avx2))
-            judge.judge(result, Tier::avx2, result.ours.at(Tier::avx2), tableSpeed, "Mpx/s");
-        if (same(result.size, cachedSize) && result.name == result.function->name && !usesFloats(*result.function) &&
-            !isSlow(*result.function))
-            judge.judge(result, Tier::ssse3, result.ours.at(Tier::ssse3), ssse3Speed, "Mpx/s");
+        const std::string name = result.name + " " + sizeName(result.size);
+        std::set<std::pair<Tier, std::string_view>> own;
+        for (const Target& target : targets)
+            if (target.function == result.name && isIn(result.size, target.size)) {
+                judge.judge(result, name, target);
+                own.insert({target.tier, target.peer});
+            }
+        for (const Rule& rule : rules)
+            if (rule.holdsFor(result) && isIn(result.size, rule.size) && !own.contains({rule.tier, rule.peer}))
+                judge.judge(result, rule.name, rule);
+        if (!isTiny(result.size) && result.ours.contains(tierOfGeomean))
+            if (const auto figure = figureOf(result, tierOfGeomean, bestPeer)) all.add(name, figure->reached);
     }
+    if (areAll && results.front().ours.contains(tierOfGeomean))
+        judge.judge("geomean", tierOfGeomean, {all.geomean(), std::string(bestPeer)}, wantedGeomean);
     return judge.sum();
 }
 

@@ -1,32 +1,13 @@
 // SPDX-License-Identifier: MIT
-// What the comparison measures, and the speeds that the library must reach.
+// The speeds that the library must reach.
 #pragma once
 
-#include <map>
-#include <string>
-#include <vector>
-
-#include "interface/functions.h"
-#include "simd/tier.h"
+#include "bench/peers/results.h"
 
 namespace zorcc::bench {
 
-// Speeds in Mpx/s.
-struct PeerSpeed {
-    std::string name;
-    bool ssse3Only;
-    double speed;
-};
-
-struct Result {
-    const interface::Function* function;
-    std::string name; // of the function and its variant
-    ZorSize size;
-    std::map<Tier, double> ours;
-    std::vector<PeerSpeed> peers; // and a memcpy of the same traffic
-};
-
-// Prints every target for these results, and whether it is met; true if all are.
-bool checkTargets(const std::vector<Result>& results);
+// Prints the targets for these results that are missed, and those for tiers that they lack; true if none is missed. The
+// geomean is judged where the results are of all functions.
+bool checkTargets(const std::vector<Result>& results, bool areAll);
 
 } // namespace zorcc::bench

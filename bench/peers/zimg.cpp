@@ -52,7 +52,8 @@ Work prepare(const zimg_image_format& from, const zimg_image_format& to, zimg_di
 {
     zimg_graph_builder_params params;
     zimg_graph_builder_params_default(&params, ZIMG_API_VERSION);
-    params.cpu_type = ZIMG_CPU_AUTO_64B; // 64-byte vectors, where there are any
+    // 64-byte vectors, where there are any.
+    params.cpu_type = highestTier == Tier::avx512 ? ZIMG_CPU_AUTO_64B : ZIMG_CPU_X86_AVX2;
     params.dither_type = dither;
     auto work = std::make_shared<Graph>();
     work->graph.reset(zimg_filter_graph_build(&from, &to, &params));

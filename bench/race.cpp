@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "bench/peers/race.h"
+#include "bench/race.h"
 
 #include <algorithm>
 #include <chrono>
