@@ -65,7 +65,8 @@ ZorStatus zoriRGBToYCbCr422_8u_P3C2R(const uint8_t* const pSrc[3], int srcStep, 
 ZorStatus zoriRGBToYCbCr420_8u_C3P3R(const uint8_t* pSrc, int srcStep, uint8_t* const pDst[3], const int dstStep[3],
                                      ZorSize roiSize)
 {
-    return convert(even, rows().myRGBToYCbCr420_8u_C3P3R, interleaved(pSrc, srcStep), planar(pDst, dstStep), roiSize);
+    return convert(even, rows(roiSize).myRGBToYCbCr420_8u_C3P3R, interleaved(pSrc, srcStep), planar(pDst, dstStep),
+                   roiSize);
 }
 
 ZorStatus zoriYCbCrToRGB_8u_C3R(const uint8_t* pSrc, int srcStep, uint8_t* pDst, int dstStep, ZorSize roiSize)
@@ -116,26 +117,28 @@ ZorStatus zoriYCbCr422ToRGB_8u_P3C3R(const uint8_t* const pSrc[3], const int src
 ZorStatus zoriYCbCr420ToRGB_8u_P3C3R(const uint8_t* const pSrc[3], const int srcStep[3], uint8_t* pDst, int dstStep,
                                      ZorSize roiSize)
 {
-    return convert(even, rows().myYCbCr420ToRGB_8u_P3C3R, planar(pSrc, srcStep), interleaved(pDst, dstStep), roiSize);
+    return convert(even, rows(roiSize).myYCbCr420ToRGB_8u_P3C3R, planar(pSrc, srcStep), interleaved(pDst, dstStep),
+                   roiSize);
 }
 
 ZorStatus zoriYCbCr420ToBGR_8u_P3C3R(const uint8_t* const pSrc[3], const int srcStep[3], uint8_t* pDst, int dstStep,
                                      ZorSize roiSize)
 {
-    return convert(even, rows().myYCbCr420ToBGR_8u_P3C3R, planar(pSrc, srcStep), interleaved(pDst, dstStep), roiSize);
+    return convert(even, rows(roiSize).myYCbCr420ToBGR_8u_P3C3R, planar(pSrc, srcStep), interleaved(pDst, dstStep),
+                   roiSize);
 }
 
 ZorStatus zoriYCbCr420ToBGR_8u_P3C4R(const uint8_t* const pSrc[3], const int srcStep[3], uint8_t* pDst, int dstStep,
                                      ZorSize roiSize, uint8_t aval)
 {
-    return convert(even, rows().myYCbCr420ToBGR_8u_P3C4R, planar(pSrc, srcStep), interleaved(pDst, dstStep), roiSize,
-                   aval);
+    return convert(even, rows(roiSize).myYCbCr420ToBGR_8u_P3C4R, planar(pSrc, srcStep), interleaved(pDst, dstStep),
+                   roiSize, aval);
 }
 
 ZorStatus zoriYCrCb420ToRGB_8u_P3C4R(const uint8_t* const pSrc[3], const int srcStep[3], uint8_t* pDst, int dstStep,
                                      ZorSize roiSize, uint8_t aval)
 {
-    return convert(even, rows().myYCrCb420ToRGB_8u_P3C4R, planarCrCb(pSrc, srcStep), interleaved(pDst, dstStep),
+    return convert(even, rows(roiSize).myYCrCb420ToRGB_8u_P3C4R, planarCrCb(pSrc, srcStep), interleaved(pDst, dstStep),
                    roiSize, aval);
 }
 
@@ -188,36 +191,36 @@ ZorStatus zoriBGRToYCbCr411_8u_AC4P3R(const uint8_t* pSrc, int srcStep, uint8_t*
 ZorStatus zoriBGRToYCbCr420_8u_C3P3R(const uint8_t* pSrc, int srcStep, uint8_t* const pDst[3], const int dstStep[3],
                                      ZorSize roiSize)
 {
-    return convert(squares, rows().myBGRToYCbCr420_8u_C3P3R, interleaved(pSrc, srcStep), planar(pDst, dstStep),
+    return convert(squares, rows(roiSize).myBGRToYCbCr420_8u_C3P3R, interleaved(pSrc, srcStep), planar(pDst, dstStep),
                    roiSize);
 }
 
 ZorStatus zoriBGRToYCbCr420_8u_AC4P3R(const uint8_t* pSrc, int srcStep, uint8_t* const pDst[3], const int dstStep[3],
                                       ZorSize roiSize)
 {
-    return convert(squares, rows().myBGRToYCbCr420_8u_AC4P3R, interleaved(pSrc, srcStep), planar(pDst, dstStep),
+    return convert(squares, rows(roiSize).myBGRToYCbCr420_8u_AC4P3R, interleaved(pSrc, srcStep), planar(pDst, dstStep),
                    roiSize);
 }
 
 ZorStatus zoriBGRToYCrCb420_8u_C3P3R(const uint8_t* pSrc, int srcStep, uint8_t* const pDst[3], const int dstStep[3],
                                      ZorSize roiSize)
 {
-    return convert(squares, rows().myBGRToYCbCr420_8u_C3P3R, interleaved(pSrc, srcStep), planarCrCb(pDst, dstStep),
-                   roiSize);
+    return convert(squares, rows(roiSize).myBGRToYCbCr420_8u_C3P3R, interleaved(pSrc, srcStep),
+                   planarCrCb(pDst, dstStep), roiSize);
 }
 
 ZorStatus zoriBGRToYCrCb420_8u_AC4P3R(const uint8_t* pSrc, int srcStep, uint8_t* const pDst[3], const int dstStep[3],
                                       ZorSize roiSize)
 {
-    return convert(squares, rows().myBGRToYCbCr420_8u_AC4P3R, interleaved(pSrc, srcStep), planarCrCb(pDst, dstStep),
-                   roiSize);
+    return convert(squares, rows(roiSize).myBGRToYCbCr420_8u_AC4P3R, interleaved(pSrc, srcStep),
+                   planarCrCb(pDst, dstStep), roiSize);
 }
 
 ZorStatus zoriRGBToYCrCb420_8u_AC4P3R(const uint8_t* pSrc, int srcStep, uint8_t* const pDst[3], const int dstStep[3],
                                       ZorSize roiSize)
 {
-    return convert(squares, rows().myRGBToYCrCb420_8u_AC4P3R, interleaved(pSrc, srcStep), planarCrCb(pDst, dstStep),
-                   roiSize);
+    return convert(squares, rows(roiSize).myRGBToYCrCb420_8u_AC4P3R, interleaved(pSrc, srcStep),
+                   planarCrCb(pDst, dstStep), roiSize);
 }
 
 ZorStatus zoriYCbCr422ToBGR_8u_C2C3R(const uint8_t* pSrc, int srcStep, uint8_t* pDst, int dstStep, ZorSize roiSize)
@@ -271,6 +274,6 @@ ZorStatus zoriYCbCr411ToBGR_8u_P3C4R(const uint8_t* const pSrc[3], const int src
 ZorStatus zoriYCrCb420ToBGR_Filter_8u_P3C4R(const uint8_t* const pSrc[3], const int srcStep[3], uint8_t* pDst,
                                             int dstStep, ZorSize roiSize, uint8_t aval)
 {
-    return convert(even, rows().myYCrCb420ToBGR_Filter_8u_P3C4R, planarCrCb(pSrc, srcStep), interleaved(pDst, dstStep),
-                   roiSize, aval);
+    return convert(even, rows(roiSize).myYCrCb420ToBGR_Filter_8u_P3C4R, planarCrCb(pSrc, srcStep),
+                   interleaved(pDst, dstStep), roiSize, aval);
 }

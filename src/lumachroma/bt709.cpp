@@ -10,36 +10,36 @@ static constexpr auto& rows = bt709Rows;
 ZorStatus zoriBGRToYCbCr420_709CSC_8u_C3P3R(const uint8_t* pSrc, int srcStep, uint8_t* const pDst[3],
                                             const int dstStep[3], ZorSize roiSize)
 {
-    return convert(even, rows().myBGRToYCbCr420_709CSC_8u_C3P3R, interleaved(pSrc, srcStep), planar(pDst, dstStep),
-                   roiSize);
+    return convert(even, rows(roiSize).myBGRToYCbCr420_709CSC_8u_C3P3R, interleaved(pSrc, srcStep),
+                   planar(pDst, dstStep), roiSize);
 }
 
 ZorStatus zoriBGRToYCbCr420_709CSC_8u_AC4P3R(const uint8_t* pSrc, int srcStep, uint8_t* const pDst[3],
                                              const int dstStep[3], ZorSize roiSize)
 {
-    return convert(even, rows().myBGRToYCbCr420_709CSC_8u_AC4P3R, interleaved(pSrc, srcStep), planar(pDst, dstStep),
-                   roiSize);
+    return convert(even, rows(roiSize).myBGRToYCbCr420_709CSC_8u_AC4P3R, interleaved(pSrc, srcStep),
+                   planar(pDst, dstStep), roiSize);
 }
 
 ZorStatus zoriBGRToYCrCb420_709CSC_8u_C3P3R(const uint8_t* pSrc, int srcStep, uint8_t* const pDst[3],
                                             const int dstStep[3], ZorSize roiSize)
 {
-    return convert(even, rows().myBGRToYCbCr420_709CSC_8u_C3P3R, interleaved(pSrc, srcStep), planarCrCb(pDst, dstStep),
-                   roiSize);
+    return convert(even, rows(roiSize).myBGRToYCbCr420_709CSC_8u_C3P3R, interleaved(pSrc, srcStep),
+                   planarCrCb(pDst, dstStep), roiSize);
 }
 
 ZorStatus zoriBGRToYCrCb420_709CSC_8u_AC4P3R(const uint8_t* pSrc, int srcStep, uint8_t* const pDst[3],
                                              const int dstStep[3], ZorSize roiSize)
 {
-    return convert(even, rows().myBGRToYCbCr420_709CSC_8u_AC4P3R, interleaved(pSrc, srcStep), planarCrCb(pDst, dstStep),
-                   roiSize);
+    return convert(even, rows(roiSize).myBGRToYCbCr420_709CSC_8u_AC4P3R, interleaved(pSrc, srcStep),
+                   planarCrCb(pDst, dstStep), roiSize);
 }
 
 ZorStatus zoriYCbCr420ToBGR_709CSC_8u_P3C3R(const uint8_t* const pSrc[3], const int srcStep[3], uint8_t* pDst,
                                             int dstStep, ZorSize roiSize)
 {
-    return convert(even, rows().myYCbCr420ToBGR_709CSC_8u_P3C3R, planar(pSrc, srcStep), interleaved(pDst, dstStep),
-                   roiSize);
+    return convert(even, rows(roiSize).myYCbCr420ToBGR_709CSC_8u_P3C3R, planar(pSrc, srcStep),
+                   interleaved(pDst, dstStep), roiSize);
 }
 
 ZorStatus zoriYCbCrToBGR_709CSC_8u_P3C3R(const uint8_t* const pSrc[3], int srcStep, uint8_t* pDst, int dstStep,
@@ -58,15 +58,15 @@ ZorStatus zoriYCbCrToBGR_709CSC_8u_P3C4R(const uint8_t* const pSrc[3], int srcSt
 ZorStatus zoriBGRToYCbCr420_709HDTV_8u_AC4P3R(const uint8_t* pSrc, int srcStep, uint8_t* const pDst[3],
                                               const int dstStep[3], ZorSize roiSize)
 {
-    return convert(even, rows().myBGRToYCbCr420_709HDTV_8u_AC4P3R, interleaved(pSrc, srcStep), planar(pDst, dstStep),
-                   roiSize);
+    return convert(even, rows(roiSize).myBGRToYCbCr420_709HDTV_8u_AC4P3R, interleaved(pSrc, srcStep),
+                   planar(pDst, dstStep), roiSize);
 }
 
 ZorStatus zoriYCbCr420ToBGR_709HDTV_8u_P3C4R(const uint8_t* const pSrc[3], const int srcStep[3], uint8_t* pDst,
                                              int dstStep, ZorSize roiSize, uint8_t aval)
 {
-    return convert(even, rows().myYCbCr420ToBGR_709HDTV_8u_P3C4R, planar(pSrc, srcStep), interleaved(pDst, dstStep),
-                   roiSize, aval);
+    return convert(even, rows(roiSize).myYCbCr420ToBGR_709HDTV_8u_P3C4R, planar(pSrc, srcStep),
+                   interleaved(pDst, dstStep), roiSize, aval);
 }
 
 ZorStatus zoriBGRToCbYCr422_709HDTV_8u_C3C2R(const uint8_t* pSrc, int srcStep, uint8_t* pDst, int dstStep,

@@ -32,7 +32,7 @@ constexpr Checks pairs = {.minimum = {2, 1}},
 #define ZORCC_FROM_PLANES(name, driver)                                                                                \
     ZorStatus name(const uint8_t* const pSrc[3], const int srcStep[3], uint16_t* pDst, int dstStep, ZorSize roiSize)   \
     {                                                                                                                  \
-        return convert(rows().driver, planar(pSrc, srcStep), interleaved(pDst, dstStep), roiSize);                     \
+        return convert(rows(roiSize).driver, planar(pSrc, srcStep), interleaved(pDst, dstStep), roiSize);              \
     }
 #define ZORCC_FROM_PACKED(name, driver)                                                                                \
     ZorStatus name(const uint8_t* pSrc, int srcStep, uint16_t* pDst, int dstStep, ZorSize roiSize)                     \
@@ -147,21 +147,21 @@ ZorStatus zoriBGR555ToYCbCr411_16u8u_C3P3R(const uint16_t* pSrc, int srcStep, ui
 ZorStatus zoriBGR555ToYCbCr420_16u8u_C3P3R(const uint16_t* pSrc, int srcStep, uint8_t* const pDst[3],
                                            const int dstStep[3], ZorSize roiSize)
 {
-    return convert(squares, rows().myBGR555ToYCbCr420_16u8u_C3P3R, interleaved(pSrc, srcStep), planar(pDst, dstStep),
-                   roiSize);
+    return convert(squares, rows(roiSize).myBGR555ToYCbCr420_16u8u_C3P3R, interleaved(pSrc, srcStep),
+                   planar(pDst, dstStep), roiSize);
 }
 
 ZorStatus zoriBGR555ToYCrCb420_16u8u_C3P3R(const uint16_t* pSrc, int srcStep, uint8_t* const pDst[3],
                                            const int dstStep[3], ZorSize roiSize)
 {
-    return convert(squares, rows().myBGR555ToYCbCr420_16u8u_C3P3R, interleaved(pSrc, srcStep),
+    return convert(squares, rows(roiSize).myBGR555ToYCbCr420_16u8u_C3P3R, interleaved(pSrc, srcStep),
                    planarCrCb(pDst, dstStep), roiSize);
 }
 
 ZorStatus zoriBGR555ToYUV420_16u8u_C3P3R(const uint16_t* pSrc, int srcStep, uint8_t* const pDst[3],
                                          const int dstStep[3], ZorSize roiSize)
 {
-    return convert(evenPlanesFirst, rows().myBGR555ToYUV420_16u8u_C3P3R, interleaved(pSrc, srcStep),
+    return convert(evenPlanesFirst, rows(roiSize).myBGR555ToYUV420_16u8u_C3P3R, interleaved(pSrc, srcStep),
                    planar(pDst, dstStep), roiSize);
 }
 
@@ -189,21 +189,21 @@ ZorStatus zoriBGR565ToYCbCr411_16u8u_C3P3R(const uint16_t* pSrc, int srcStep, ui
 ZorStatus zoriBGR565ToYCbCr420_16u8u_C3P3R(const uint16_t* pSrc, int srcStep, uint8_t* const pDst[3],
                                            const int dstStep[3], ZorSize roiSize)
 {
-    return convert(squares, rows().myBGR565ToYCbCr420_16u8u_C3P3R, interleaved(pSrc, srcStep), planar(pDst, dstStep),
-                   roiSize);
+    return convert(squares, rows(roiSize).myBGR565ToYCbCr420_16u8u_C3P3R, interleaved(pSrc, srcStep),
+                   planar(pDst, dstStep), roiSize);
 }
 
 ZorStatus zoriBGR565ToYCrCb420_16u8u_C3P3R(const uint16_t* pSrc, int srcStep, uint8_t* const pDst[3],
                                            const int dstStep[3], ZorSize roiSize)
 {
-    return convert(squares, rows().myBGR565ToYCbCr420_16u8u_C3P3R, interleaved(pSrc, srcStep),
+    return convert(squares, rows(roiSize).myBGR565ToYCbCr420_16u8u_C3P3R, interleaved(pSrc, srcStep),
                    planarCrCb(pDst, dstStep), roiSize);
 }
 
 ZorStatus zoriBGR565ToYUV420_16u8u_C3P3R(const uint16_t* pSrc, int srcStep, uint8_t* const pDst[3],
                                          const int dstStep[3], ZorSize roiSize)
 {
-    return convert(evenPlanesFirst, rows().myBGR565ToYUV420_16u8u_C3P3R, interleaved(pSrc, srcStep),
+    return convert(evenPlanesFirst, rows(roiSize).myBGR565ToYUV420_16u8u_C3P3R, interleaved(pSrc, srcStep),
                    planar(pDst, dstStep), roiSize);
 }
 

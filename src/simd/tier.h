@@ -3,6 +3,8 @@
 // name; all tiers give the same bytes.
 #pragma once
 
+#include "zorcc/types.h"
+
 namespace zorcc {
 
 enum class Tier {
@@ -22,6 +24,14 @@ extern Tier currentTier;
 inline Tier activeTier() { return currentTier; }
 inline void setActiveTier(Tier tier) { currentTier = tier; }
 
+// The widest tier with vectors of bytes that rows of `width` pixels fill. Shorter rows go through copies, which takes
+// several times as long as a narrower tier does.
+inline Tier activeTierFor(int width)
+{
+    const Tier widest = width >= 64 ? Tier::avx512 : width >= 32 ? Tier::avx2 : Tier::ssse3;
+    return widest < activeTier() ? widest : activeTier();
+}
+
 } // namespace zorcc
 
 // Calls `of` with each tier that is built; builds for diagnosis may leave out the wider ones.
@@ -33,7 +43,21 @@ inline void setActiveTier(Tier tier) { currentTier = tier; }
     #define ZORCC_OF_EACH_TIER(of, ...) of(ssse3, __VA_ARGS__)
 #endif
 
-// Declares the table of drivers of a family for each tier, and a function of its name that gives the active tier's.
+namespace zorcc {
+
+// The tables of drivers of a family, one for each tier.
+template <class Table> struct TablesOfTiers {
+    const Table* ofTier[ZORCC_TIERS_BUILT];
+
+    const Table& operator()() const { return *ofTier[static_cast<int>(activeTier())]; }
+
+    // For conversions that never walk an image without gaps as one row.
+    const Table& operator()(ZorSize size) const { return *ofTier[static_cast<int>(activeTierFor(size.width))]; }
+};
+
+} // namespace zorcc
+
+// Declares the table of drivers of a family for each tier, and the tables by its name.
 #define ZORCC_DECLARE_TABLE(tier, Table, table)                                                                        \
     namespace zorcc::tier {                                                                                            \
     extern const Table table;                                                                                          \
@@ -42,9 +66,5 @@ inline void setActiveTier(Tier tier) { currentTier = tier; }
 #define ZORCC_TABLE_OF_EACH_TIER(Table, table)                                                                         \
     ZORCC_OF_EACH_TIER(ZORCC_DECLARE_TABLE, Table, table)                                                              \
     namespace zorcc {                                                                                                  \
-    inline const Table& table()                                                                                        \
-    {                                                                                                                  \
-        const Table* const ofTier[] = {ZORCC_OF_EACH_TIER(ZORCC_ADDRESS_OF_TABLE, table)};                             \
-        return *ofTier[static_cast<int>(activeTier())];                                                                \
-    }                                                                                                                  \
+    inline constexpr TablesOfTiers<Table> table = {{ZORCC_OF_EACH_TIER(ZORCC_ADDRESS_OF_TABLE, table)}};               \
     }
