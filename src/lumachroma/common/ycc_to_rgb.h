@@ -196,7 +196,7 @@ private:
     {
         if constexpr (constant == 0 && weight >= -32768 && weight < 32768) {
             const s16v w = fill16(weight);
-            return {mulHigh(v, w), (u16v)(v * w)};
+            return {mulHigh(v, w), (u16v)v * (u16v)w};
         }
         constexpr int whole = weight >> 16, rest = weight & 0xffff;
         constexpr int unit = std::min({rest & -rest, k.y & -k.y, 65536});
