@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: MIT
+// Which kinds of pictures a plan connects. The conversion layer is asked once for each pair, when it is first needed.
+#pragma once
+
+#include "formats.h"
+
+namespace zorcc::gstreamer {
+
+bool connects(const Kind& from, const Kind& to);
+
+// Whether colours can be computed from and to it, and not just moved.
+bool isConvertible(const Kind& kind);
+
+} // namespace zorcc::gstreamer
