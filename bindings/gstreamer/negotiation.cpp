@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <bitset>
 #include <climits>
+#include <optional>
 
 #include "formats.h"
 #include "pairs.h"
@@ -279,6 +280,32 @@ GstCaps* otherCaps(GstPadDirection direction, GstCaps* caps, bool keepsAlpha)
         append(others, structure, anyColour.reached, nullptr);
     }
     return others;
+}
+
+std::string refusalOf(const GstCaps* from, const GstCaps* to)
+{
+    std::optional<Kind> ends[2];
+    for (const bool isTarget : {false, true}) {
+        const GstCaps* const caps = isTarget ? to : from;
+        if (gst_caps_is_empty(caps)) return {};
+        const GstStructure* const structure = gst_caps_get_structure(caps, 0);
+        const Formats formats = formatsOf(structure);
+        int format = 0;
+        while (format < formatCount && !formats[format]) ++format;
+        if (format == formatCount) return {};
+        GstVideoColorimetry colour = {};
+        const char* name = nullptr;
+        eachString(gst_structure_get_value(structure, "colorimetry"), [&](const char* text) {
+            if (!name && gst_video_colorimetry_from_string(&colour, text)) name = text;
+        });
+        int height = 0;
+        gst_structure_get_int(structure, "height", &height);
+        ends[isTarget] = kindOf(format, colour, height);
+        if (!ends[isTarget])
+            return std::string("no conversion ") + (isTarget ? "leads to " : "comes from ") +
+                   GST_VIDEO_FORMAT_INFO_NAME(infoOf(format)) + " of colorimetry " + name;
+    }
+    return connects(*ends[0], *ends[1]) ? std::string() : whyNot(*ends[0], *ends[1]);
 }
 
 GstCaps* bestCaps(const GstVideoInfo& input, GstCaps* caps, bool keepsAlpha)

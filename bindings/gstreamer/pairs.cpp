@@ -2,6 +2,7 @@
 #include "pairs.h"
 
 #include <atomic>
+#include <memory>
 
 namespace zorcc::gstreamer {
 
@@ -11,17 +12,16 @@ constexpr int kinds = formatCount * Kind::colourCount;
 
 int placeOf(const Kind& kind) { return kind.format * Kind::colourCount + kind.colour; }
 
-bool isThereAPlan(const Kind& from, const Kind& to)
+using Plan = std::unique_ptr<ZorPlan, decltype(&zorPlanFree)>;
+
+Plan planOf(const Kind& from, const Kind& to)
 {
-    constexpr ZorSize size = {16, 16}; // it depends on none
+    constexpr ZorSize size = {16, 16}; // whether there is one depends on none
     const ZorPicture ends[2] = {from.picture(size), to.picture(size)};
     ZorPlanOptions options = {};
     options.structBytes = sizeof options;
     options.threads = 1;
-    ZorPlan* const plan = zorPlanCreate(&ends[0], &ends[1], &options);
-    const bool exists = zorPlanStatus(plan) == zorStatusOk;
-    zorPlanFree(plan);
-    return exists;
+    return Plan(zorPlanCreate(&ends[0], &ends[1], &options), zorPlanFree);
 }
 
 } // namespace
@@ -31,7 +31,7 @@ bool connects(const Kind& from, const Kind& to)
     enum Answer : char { unknown, yes, no };
     static std::atomic<Answer> answers[kinds][kinds]; // threads that ask at a time find the same
     std::atomic<Answer>& answer = answers[placeOf(from)][placeOf(to)];
-    if (answer == unknown) answer = isThereAPlan(from, to) ? yes : no;
+    if (answer == unknown) answer = zorPlanStatus(planOf(from, to).get()) == zorStatusOk ? yes : no;
     return answer == yes;
 }
 
@@ -42,5 +42,7 @@ bool isConvertible(const Kind& kind)
     const Kind planes = {indexOf(GST_VIDEO_FORMAT_I420), kind.colour}, rgb = {indexOf(GST_VIDEO_FORMAT_RGB), 0};
     return connects(planes, rgb) || connects(rgb, planes);
 }
+
+std::string whyNot(const Kind& from, const Kind& to) { return zorPlanDescribe(planOf(from, to).get()); }
 
 } // namespace zorcc::gstreamer

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "plans.h"
 
-#include "pairs.h"
-
 namespace zorcc::gstreamer {
 
 namespace {
@@ -118,15 +116,6 @@ ZorStatus Plans::run(const GstVideoFrame& input, const GstVideoFrame& output)
         if (const ZorStatus status = runOn(plan.get(), input, output, parity, 2); status != zorStatusOk) return status;
     }
     return zorStatusOk;
-}
-
-std::string whyNotConverted(const GstVideoInfo& input)
-{
-    const std::optional<Kind> kind = kindOf(input);
-    if (kind && isConvertible(*kind)) return {};
-    GstVideoInfo rgb;
-    gst_video_info_set_format(&rgb, GST_VIDEO_FORMAT_RGB, input.width, input.height);
-    return Plans(input, rgb, {}).description();
 }
 
 } // namespace zorcc::gstreamer

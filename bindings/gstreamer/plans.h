@@ -47,7 +47,4 @@ private:
     bool isByFields(const GstVideoFrame& input, const GstVideoFrame& output) const;
 };
 
-// Empty for colours that can be computed from.
-std::string whyNotConverted(const GstVideoInfo& input);
-
 } // namespace zorcc::gstreamer

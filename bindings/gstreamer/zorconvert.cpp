@@ -17,6 +17,7 @@ namespace {
 struct ZorConvert {
     GstVideoFilter base;
     Settings settings; // under the object's lock
+    bool hasWarned;    // likewise
     Plans* plans;      // of the streaming thread; null while frames pass as they are
 };
 
@@ -45,6 +46,17 @@ void* printed(GstCaps* caps) { return caps; }
 
 // ---- negotiation ----------------------------------------------------------------------------------------------------
 
+// Whoever finds nothing in common only learns that it failed; here is why, once.
+void warn(GstBaseTransform* base, const GstCaps* from, const GstCaps* to)
+{
+    const std::string words = refusalOf(from, to);
+    if (words.empty()) return;
+    GST_OBJECT_LOCK(base);
+    const bool isNews = !std::exchange(self(base)->hasWarned, true);
+    GST_OBJECT_UNLOCK(base);
+    if (isNews) GST_ELEMENT_WARNING(base, STREAM, FORMAT, ("%s", words.c_str()), (nullptr));
+}
+
 GstCaps* transformCaps(GstBaseTransform* base, GstPadDirection direction, GstCaps* caps, GstCaps* filter)
 {
     GstCaps* others = otherCaps(direction, caps, keepsAlpha(base));
@@ -52,6 +64,7 @@ GstCaps* transformCaps(GstBaseTransform* base, GstPadDirection direction, GstCap
         GstCaps* const permitted = gst_caps_intersect_full(filter, others, GST_CAPS_INTERSECT_FIRST);
         gst_caps_unref(others);
         others = permitted;
+        if (gst_caps_is_empty(others)) direction == GST_PAD_SINK ? warn(base, caps, filter) : warn(base, filter, caps);
     }
     GST_DEBUG_OBJECT(base, "beside %" GST_PTR_FORMAT " may be %" GST_PTR_FORMAT, printed(caps), printed(others));
     return others;
@@ -83,17 +96,18 @@ gboolean setInfo(GstVideoFilter* filter, GstCaps*, GstVideoInfo* input, GstCaps*
     return TRUE;
 }
 
-// A colour without functions is refused before there are plans that could say so.
 gboolean sinkEvent(GstBaseTransform* base, GstEvent* event)
 {
-    GstVideoInfo input;
     GstCaps* caps = nullptr;
     if (GST_EVENT_TYPE(event) == GST_EVENT_CAPS) gst_event_parse_caps(event, &caps);
-    const bool isVideo = caps && gst_video_info_from_caps(&input, caps);
+    if (caps) gst_caps_ref(caps);
     const gboolean isDone = GST_BASE_TRANSFORM_CLASS(zorconvert_parent_class)->sink_event(base, event);
-    if (isDone || !isVideo) return isDone;
-    const std::string reason = whyNotConverted(input);
-    if (!reason.empty()) GST_ELEMENT_WARNING(base, STREAM, FORMAT, ("%s", reason.c_str()), (nullptr));
+    if (caps && !isDone) {
+        GstCaps* const wanted = gst_pad_peer_query_caps(GST_BASE_TRANSFORM_SRC_PAD(base), nullptr);
+        warn(base, caps, wanted);
+        gst_caps_unref(wanted);
+    }
+    if (caps) gst_caps_unref(caps);
     return isDone;
 }
 
@@ -113,6 +127,7 @@ GstFlowReturn transformFrame(GstVideoFilter* filter, GstVideoFrame* input, GstVi
 gboolean stop(GstBaseTransform* base)
 {
     delete std::exchange(self(base)->plans, nullptr);
+    self(base)->hasWarned = false;
     return TRUE;
 }
 
