@@ -72,6 +72,10 @@ GstCaps* transformCaps(GstBaseTransform* base, GstPadDirection direction, GstCap
 
 GstCaps* fixateCaps(GstBaseTransform* base, GstPadDirection direction, GstCaps* caps, GstCaps* others)
 {
+    if (gst_caps_is_subset(caps, others)) { // frames pass as they are
+        gst_caps_unref(others);
+        return gst_caps_ref(caps);
+    }
     GstVideoInfo input;
     if (direction != GST_PAD_SINK || !gst_video_info_from_caps(&input, caps)) return gst_caps_fixate(others);
     GstCaps* const best = bestCaps(input, others, keepsAlpha(base));
@@ -122,6 +126,17 @@ GstFlowReturn transformFrame(GstVideoFilter* filter, GstVideoFrame* input, GstVi
     if (status == zorStatusOk) return GST_FLOW_OK;
     GST_ELEMENT_ERROR(element, STREAM, FAILED, ("a frame could not be converted: status %d", status), (nullptr));
     return GST_FLOW_ERROR;
+}
+
+// The base class keeps metas that are about no property of video; those about the picture's geometry stay true, too.
+gboolean transformMeta(GstBaseTransform* base, GstBuffer* output, GstMeta* meta, GstBuffer* input)
+{
+    const gchar* const geometry[] = {GST_META_TAG_VIDEO_STR, GST_META_TAG_VIDEO_SIZE_STR,
+                                     GST_META_TAG_VIDEO_ORIENTATION_STR, nullptr};
+    const gchar* const* tag = gst_meta_api_type_get_tags(meta->info->api);
+    while (tag && *tag && g_strv_contains(geometry, *tag)) ++tag;
+    return (tag && !*tag) ||
+           GST_BASE_TRANSFORM_CLASS(zorconvert_parent_class)->transform_meta(base, output, meta, input);
 }
 
 gboolean stop(GstBaseTransform* base)
@@ -237,6 +252,7 @@ void zorconvert_class_init(ZorConvertClass* type)
     transform->transform_caps = transformCaps;
     transform->fixate_caps = fixateCaps;
     transform->sink_event = sinkEvent;
+    transform->transform_meta = transformMeta;
     transform->stop = stop;
     transform->passthrough_on_same_caps = TRUE;
     filter->set_info = setInfo;
