@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Milliseconds of a frame of 1920x1080 in zorconvert and in videoconvert, on one thread: bench.sh [PLUGIN-FOLDER [FRAMES]]
-# videotestsrc draws one frame and hands it out again; what the pipeline takes without a converter is subtracted. The
-# best of seven runs, the elements in turn.
+# Milliseconds of a frame of 1920x1080 in zorconvert and in videoconvert, on one thread: bench.sh [FOLDER [FRAMES]]
+# FOLDER has the plugin. videotestsrc draws one frame and hands it out again; what the pipeline takes without a
+# converter is subtracted. The best of seven runs, the elements in turn.
 set -euo pipefail
 cd "$(dirname "$0")/../.."
 export GST_PLUGIN_PATH=${1:-$PWD/build/release/lib/gstreamer-1.0}

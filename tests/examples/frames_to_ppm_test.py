@@ -10,8 +10,8 @@ import unittest
 ZORCC, EXAMPLE = os.environ["ZORCC_TOOL"], os.environ["ZORCC_EXAMPLE"]
 CLIP = pathlib.Path(os.environ["ZORCC_PICTURES"], "cockatoo_352x288_10f_420.y4m")
 
-# Name, size, arguments of ffmpeg to write it, format of the samples, options of the tool for those without a header. The
-# rows of the last one are decoded with a negative step.
+# Name, size, arguments of ffmpeg to write it, format of the samples, options of the tool for those without a header.
+# The rows of the last one are decoded with a negative step.
 CLIPS = (
     ("motion.avi", "320x240", "-c:v mpeg4 -pix_fmt yuv420p", "yuv420p", ""),
     ("odd.mkv", "321x181", "-c:v ffv1 -pix_fmt yuv422p -colorspace bt709 -color_range tv", "yuv422p",
