@@ -145,7 +145,7 @@ int main(int argc, char** argv)
     app.add_flag("--check", options.check, "Compare the figures with the project's targets; exit 1 if one is missed");
     CLI11_PARSE(app, argc, argv);
 
-    // OpenCV is told when it is loaded.
+    // OpenCV reads the instructions that it is not to use from the environment while it is loaded.
     constexpr const char* unused = "OPENCV_CPU_DISABLE";
     if (options.tier != nameOf(bestTier()) && !std::getenv(unused)) {
         setenv(unused, "AVX512-SKX", 1);
