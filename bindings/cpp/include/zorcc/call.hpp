@@ -4,8 +4,7 @@
 #define ZORCC_CALL_HPP
 
 #include <array>
-#include <memory>
-#include <new>
+#include <cstdlib>
 
 #include "zorcc/views.hpp"
 
@@ -35,6 +34,7 @@ struct Scratch {
     void* data;
     std::size_t bytes;
 
+    constexpr Scratch(void* start, std::size_t size) noexcept : data(start), bytes(size) {}
     template <class Samples, class = decltype(static_cast<void*>(std::data(std::declval<Samples&>())))>
     Scratch(Samples&& samples) noexcept
         : data(std::data(samples)), bytes(std::size(samples) * sizeof(*std::data(samples)))
@@ -163,15 +163,13 @@ ZorStatus callMosaicIn(E& errors, const char* name, const S& src, ZorRect region
                        ZorBayerGrid grid) noexcept(quiet<E&>)
 {
     struct Memory {
-        std::size_t count;
-        std::unique_ptr<unsigned char[]> bytes{new (std::nothrow) unsigned char[count]};
-
-        unsigned char* data() const { return bytes.get(); }
-        std::size_t size() const { return count; }
+        std::size_t bytes;
+        void* start = std::malloc(bytes);
+        ~Memory() { std::free(start); }
     };
     const Memory memory{demosaicScratchBytes(insideOf(src, region).width)};
-    if (!memory.bytes) return finish(zorStatusNoMemory, name, errors);
-    return callMosaicIn<function>(errors, name, src, region, dst, grid, memory);
+    if (!memory.start) return finish(zorStatusNoMemory, name, errors);
+    return callMosaicIn<function>(errors, name, src, region, dst, grid, Scratch(memory.start, memory.bytes));
 }
 
 } // namespace detail
