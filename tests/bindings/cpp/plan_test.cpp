@@ -55,7 +55,7 @@ TEST(CppPlanTest, RefusesOtherViews)
     EXPECT_EQ(plan.run(nv12, viewOfSamples<Interleaved<int8_t, 3>>(chars, size), error), zorStatusBadArgument);
     EXPECT_EQ(error, makeErrorCode(zorStatusBadArgument));
     auto far = rgb;
-    far.step[0] = std::ptrdiff_t{1} << 32;
+    far.step[0] += std::ptrdiff_t{1} << 32;
     EXPECT_EQ(plan.run(nv12, far, error), zorStatusBadStep);
     EXPECT_EQ(plan.run(nv12, Rgb(nullptr, 69, size), error), zorStatusNullPointer);
     EXPECT_THROW(plan.run(nv12, viewOfSamples<Rgb>(bytes, {22, 14})), Error);
