@@ -1,0 +1,77 @@
+# SPDX-License-Identifier: MIT
+"""Texts that live elsewhere in the repository. A line of a page
+
+    {{ README.md }}                     is that file
+    {{ README.md # Limits }}            is what is under that heading, without the heading
+    {{ x/README.md, or: C++ }}          may be missing, and then says so under that title
+
+Links to what is no page of the site become their words. In all pages the names of functions lead to them.
+"""
+import os
+import pathlib
+import re
+
+from docutils import nodes
+from sphinx.addnodes import pending_xref
+from sphinx.errors import ExtensionError
+from sphinx.transforms import SphinxTransform
+
+ROOT = pathlib.Path(__file__).resolve().parents[2]
+TEXT = re.compile(r"^\{\{ ([\w./-]+)(?: # (.+?))?(?:, or: (.+?))? \}\}$", re.M)
+LINK = re.compile(r"(!?)\[([^\]]*)\]\((?!\w+:)([^)#]*)(#[^)]*)?\)")
+FUNCTION = re.compile(r"zor[A-Z]\w+|zori\w+_\w+|ownGetNumThreads")
+
+
+def under(heading, text, path):
+    """What is under a heading, up to the next one of its level or above."""
+    found = re.search(rf"^(#+) {re.escape(heading)}\n(.*?)(?=^#{{1,2}} |\Z)", text, re.S | re.M)
+    if not found:
+        raise ExtensionError(f"{path} has no heading {heading}")
+    return found[2].strip()
+
+
+def insert(app, docname, source):
+    page = pathlib.Path(app.env.doc2path(docname)).parent
+
+    def text_of(found):
+        name, heading, title = found.groups()
+        path = ROOT / name
+        if title and not path.exists():
+            return f"# {title}\n\nThis part is not in the sources that these pages are made of.\n"
+        app.env.note_dependency(str(path))
+        text = path.read_text(encoding="utf-8")
+        if heading:
+            text = under(heading, text, name)
+
+        def link(found):
+            picture, words, target, anchor = found.groups()
+            file = path.parent / target if target else path
+            relative = os.path.relpath(file, page)
+            if picture:
+                return f"![{words}]({relative})"
+            is_page = target and app.srcdir in str(file.resolve()) and file.exists()
+            return f"[{words}]({relative}{anchor or ''})" if is_page or not target else words
+
+        return LINK.sub(link, text)
+
+    source[0] = TEXT.sub(text_of, source[0])
+
+
+class NamesOfFunctions(SphinxTransform):
+    """Names of functions that are written as code lead to them: none may be wrong."""
+    default_priority = 400
+
+    def apply(self):
+        for literal in list(self.document.findall(nodes.literal)):
+            name = literal.astext()
+            if FUNCTION.fullmatch(name) and not isinstance(literal.parent, (nodes.reference, pending_xref)):
+                reference = pending_xref("", refdomain="c", reftype="func", reftarget=name, refexplicit=True,
+                                         refwarn=True, refdoc=self.env.docname)
+                literal.replace_self(reference)
+                reference += literal
+
+
+def setup(app):
+    app.connect("source-read", insert)
+    app.add_transform(NamesOfFunctions)
+    return {"parallel_read_safe": True}
