@@ -74,6 +74,10 @@ def titled(title, underline):
     return f"{title}\n{underline * len(title)}\n\n"
 
 
+def see_also(page):
+    return ".. only:: man\n\n   See also " + f":manpage:`{page}`.\n\n"
+
+
 class HeaderText(SphinxDirective):
     required_arguments = 1
 
@@ -131,7 +135,7 @@ class Family(HeaderText):
         rst += "".join(f"      * - ``{f.name}``\n        - {f.source}\n        - {f.destination}\n" for f in functions)
         rst += "\n.. only:: man\n\n   ::\n\n"
         rst += "".join(f"      {f.name}\n          {f.source} to {f.destination}\n" for f in functions)
-        return self.parse(rst)
+        return self.parse(rst + "\n" + see_also("zorcc(3)"))
 
 
 def enumerator(app, env, node, contnode):

@@ -4,6 +4,7 @@
     {{ README.md }}                     is that file
     {{ README.md # Limits }}            is what is under that heading, without the heading
     {{ x/README.md, or: C++ }}          may be missing, and then says so under that title
+    {{ differences of libyuv }}         is how far its results are from those of the page's functions, as measured
 
 Links to what is no page of the site become their words. In all pages the names of functions lead to them.
 """
@@ -19,6 +20,7 @@ from sphinx.transforms import SphinxTransform
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 TEXT = re.compile(r"^\{\{ ([\w./-]+)(?: # (.+?))?(?:, or: (.+?))? \}\}$", re.M)
 LINK = re.compile(r"(!?)\[([^\]]*)\]\((?!\w+:)([^)#]*)(#[^)]*)?\)")
+DIFFERENCES = re.compile(r"^\{\{ differences of (\w+) \}\}$", re.M)
 FUNCTION = re.compile(r"zor[A-Z]\w+|zori\w+_\w+|ownGetNumThreads")
 
 
@@ -28,6 +30,20 @@ def under(heading, text, path):
     if not found:
         raise ExtensionError(f"{path} has no heading {heading}")
     return found[2].strip()
+
+
+def differences(library, page):
+    """A table from docs/differences.txt, which `zorcc_peers --differences` has printed."""
+    lines = (ROOT / "docs/differences.txt").read_text(encoding="utf-8").splitlines()
+    version = next(line for line in lines if line.startswith(library))
+    rows = []
+    for line in lines:
+        function, peer, difference = (re.split(" {2,}", line, maxsplit=2) + [""] * 2)[:3]
+        if peer.startswith(f"{library} ") and "only" not in peer and f"`{function}`" in page:
+            largest, share = re.fullmatch(r"largest +(\d+), +([\d.]+ %) differ", difference).groups()
+            rows.append(f"| `{function}` | {peer.removeprefix(library).strip()} | {largest} | {share} |")
+    return "\n".join([f"## Measured differences\n\n{version}, random bytes, by `zorcc_peers --differences`:\n",
+                      "| zorcc | theirs | largest | bytes that differ |", "|---|---|---|---|", *rows])
 
 
 def insert(app, docname, source):
@@ -54,7 +70,7 @@ def insert(app, docname, source):
 
         return LINK.sub(link, text)
 
-    source[0] = TEXT.sub(text_of, source[0])
+    source[0] = DIFFERENCES.sub(lambda found: differences(found[1], source[0]), TEXT.sub(text_of, source[0]))
 
 
 class NamesOfFunctions(SphinxTransform):

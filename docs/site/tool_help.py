@@ -4,7 +4,7 @@ import re
 import subprocess
 
 from comments import text_of
-from headers import HeaderText, titled
+from headers import HeaderText, see_also, titled
 
 INTEGER = re.compile(r" (\w+):INT in \[(\d+) - (\d+)\](?:=(\d+))?")
 
@@ -74,7 +74,7 @@ class ToolHelp(HeaderText):
                 else:
                     rst += f".. option:: {name}\n\n   {words}\n\n"
             rst += "\n"
-        return self.parse(rst)
+        return self.parse(rst + see_also("zorcc(1)") if command else rst)
 
 
 def setup(app):
