@@ -38,7 +38,7 @@ def table(tool):
 class Group(NamedTuple):
     title: str
     text: str
-    functions: list
+    functions: dict  # prototypes by names
 
 
 class Header(NamedTuple):
@@ -59,7 +59,8 @@ def headers(xml):
     for compound in ElementTree.parse(xml / "index.xml").findall("compound[@kind='file']"):
         definition = ElementTree.parse(xml / f"{compound.get('refid')}.xml").find("compounddef")
         groups = [Group(section.findtext("header", ""), text_of(section, "description"),
-                        [name.text for name in section.iterfind("memberdef[@kind='function']/name")])
+                        {f.findtext("name"): f.findtext("definition") + f.findtext("argsstring")
+                         for f in section.iterfind("memberdef[@kind='function']")})
                   for section in definition.iter("sectiondef")]
         statuses = [(value.findtext("name"), value.findtext("initializer"),
                      "".join(value.find("detaileddescription").itertext()).strip())
@@ -122,13 +123,13 @@ class Family(HeaderText):
         for name, header in ours.items():
             level = "-"
             if len(ours) > 1:
-                rst += titled(re.split("[:.,]", header.text)[0], "-")
+                rst += titled(re.split("[:.]", header.text)[0], "-")
                 level = "~"
             rst += self.text(name)
             for group in header.groups:
                 if group.title:
                     rst += titled(group.title, level) + group.text + "\n\n"
-                rst += "".join(f".. doxygenfunction:: {function}\n" for function in group.functions) + "\n"
+                rst += "".join(f".. c:function:: {prototype}\n" for prototype in group.functions.values()) + "\n"
         rst += titled("Formats", "-") + (
             ".. only:: html\n\n   .. list-table::\n      :header-rows: 1\n      :class: functions\n\n"
             "      * - function\n        - from\n        - to\n")
@@ -138,13 +139,17 @@ class Family(HeaderText):
         return self.parse(rst + "\n" + see_also("zorcc(3)"))
 
 
+@functools.cache
+def enumerators(env):
+    """Where enumerators are, by their names alone."""
+    return {name.rpartition(".")[2]: (page, anchor)
+            for name, _, kind, page, anchor, _ in env.get_domain("c").get_objects() if kind == "enumerator"}
+
+
 def enumerator(app, env, node, contnode):
     """C has all enumerators in one scope; Sphinx has them in their enumeration's."""
-    domain = env.get_domain("c")
-    for name, _, kind, page, anchor, _ in domain.get_objects() if node.get("refdomain") == "c" else ():
-        if kind == "enumerator" and name.endswith(f".{node['reftarget']}"):
-            return make_refnode(app.builder, node["refdoc"], page, anchor, contnode, name)
-    return None
+    found = enumerators(env).get(node["reftarget"]) if node.get("refdomain") == "c" else None
+    return make_refnode(app.builder, node["refdoc"], *found, contnode) if found else None
 
 
 def setup(app):
