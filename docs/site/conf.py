@@ -24,6 +24,7 @@ myst_enable_extensions = ["deflist"]
 myst_heading_anchors = 3
 
 html_theme = "furo"
+pygments_style = pygments_dark_style = "default"
 html_title = "zorcc"
 html_static_path = [str(site / "static")]
 html_css_files = ["style.css"]

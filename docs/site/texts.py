@@ -19,6 +19,7 @@ from sphinx.transforms import SphinxTransform
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 TEXT = re.compile(r"^\{\{ ([\w./-]+)(?: # (.+?))?(?:, or: (.+?))? \}\}$", re.M)
+CODE = re.compile(r"(```.*?```|``?[^`]+``?|^    .*?$)", re.S | re.M)
 LINK = re.compile(r"(!?)\[([^\]]*)\]\((?!\w+:)([^)#]*)(#[^)]*)?\)")
 DIFFERENCES = re.compile(r"^\{\{ differences of (\w+) \}\}$", re.M)
 FUNCTION = re.compile(r"zor[A-Z]\w+|zori\w+_\w+|ownGetNumThreads")
@@ -68,7 +69,7 @@ def insert(app, docname, source):
             is_page = target and app.srcdir in str(file.resolve()) and file.exists()
             return f"[{words}]({relative}{anchor or ''})" if is_page or not target else words
 
-        return LINK.sub(link, text)
+        return "".join(part if i % 2 else LINK.sub(link, part) for i, part in enumerate(CODE.split(text)))
 
     source[0] = DIFFERENCES.sub(lambda found: differences(found[1], source[0]), TEXT.sub(text_of, source[0]))
 
