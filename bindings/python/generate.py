@@ -21,8 +21,9 @@ def plain(comment):
 
 def statuses(*headers):
     """{name: (number, text)}"""
-    return {name: (int(number), text) for header in headers
-            for name, number, text in re.findall(r"\b(zorStatus\w+) = (-?\d+),? *(?:/\* (.*?) \*/)?", header.read_text())}
+    constant = re.compile(r"\b(zorStatus\w+) = (-?\d+),? *(?:/\* (.*?) \*/)?")
+    found = (constant.findall(header.read_text(encoding="ascii")) for header in headers)
+    return {name: (int(number), text) for name, number, text in sum(found, [])}
 
 
 def functions(header):
@@ -76,7 +77,7 @@ def main():
         f"{name} = {pprint.pformat(table, width=120, sort_dicts=False)}\n" for name, table in tables.items()))
     (package / "functions.pyi").write_text(
         note + "from typing import Optional, Sequence\n\nimport numpy\nimport numpy.typing as npt\n\n"
-        "from ._types import Picture, Size\n\n" + "".join(stub(row) + "\n" for row in rows))
+        "from ._types import Picture, Size\n\n__all__: list[str]\n\n" + "".join(stub(row) + "\n" for row in rows))
 
 
 if __name__ == "__main__":

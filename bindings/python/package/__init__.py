@@ -14,9 +14,9 @@ several planes  a tuple of them, luma (height, width), the pairs of chroma of nv
 
 Results with several planes are a tuple, or of `joined=True` one array of planes below each other. Where shapes do not
 say the size, as for odd widths of shared chroma, `size=(width, height)` does; the planes then may have any shape of
-that many rows and samples, or of all samples in a row. Rows may be any distance apart, upwards, too; the samples of a row lie side by side.
-Arrays of other libraries are taken by the buffer protocol or DLPack; sources may be read-only. Calls release the
-interpreter's lock. What cannot be is an `Error`, which has a `status` and says why.
+that many rows and samples, or of all samples in a row. Rows may be any distance apart, upwards, too; the samples of a
+row lie side by side. Arrays of other libraries are taken by the buffer protocol or DLPack; sources may be read-only.
+Calls release the interpreter's lock. What cannot be is an `Error`, which has a `status` and says why.
 """
 from __future__ import annotations
 
@@ -72,8 +72,8 @@ class Options(TypedDict, total=False):
     from_range, to_range
     alpha                    drop: where only the source has alpha, it is dropped; refuse: such a plan is an Error;
                              opaque: the result is opaque, whatever the source has
-    depth                    how more than 8 bits become 8: nearest, truncate, ordered dithering, or diffusion of errors:
-                             fs (Floyd-Steinberg), jjn (Jarvis-Judice-Ninke), stucki
+    depth                    how more than 8 bits become 8: nearest, truncate, ordered (dithering), or by diffusion of
+                             errors: fs (Floyd-Steinberg), jjn (Jarvis-Judice-Ninke), stucki
     dither                   ordered dithering into packed 16-bit formats, from luma and chroma
     grey                     how colours become grey: luma, refuse, or three weights of red, green and blue
     threads                  the most threads of a call; 0: as many as `threads()` says
@@ -117,7 +117,8 @@ def convert(source: Picture, from_format: str, to_format: str, *, size: Optional
     except TypeError:  # weights of grey in a list or an array
         if "grey" not in options or isinstance(options["grey"], (str, tuple)):
             raise
-        run = _conversion(from_format, to_format, **{**options, "grey": tuple(options["grey"])})
+        options["grey"] = tuple(options["grey"])
+        run = _conversion(from_format, to_format, **options)
     return run(source, size, out, joined)
 
 

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# A wheel of what is built works in an environment that has nothing else of it: wheel.sh PYTHON BUILD-FOLDER SOURCE-FOLDER
+# A wheel of what is built works in an environment that has nothing else of it:
+# wheel.sh PYTHON BUILD-FOLDER SOURCE-FOLDER
 set -euo pipefail
 python=$1 build=$2 source=$3
 work=$(mktemp -d)
