@@ -17,8 +17,8 @@ def arguments():
     parser = argparse.ArgumentParser(description=__doc__.splitlines()[0], epilog=__doc__.splitlines()[2])
     parser.add_argument("source", type=pathlib.Path, help="folder with PNG, JPEG and Y4M files, at any depth")
     parser.add_argument("destination", type=pathlib.Path, help="folder for the results, with the same folders in it")
-    parser.add_argument("--to", default="yuv420p", help="format of the results: .y4m where Y4M has it, otherwise planes "
-                                                        "without a header in a file named for it")
+    parser.add_argument("--to", default="yuv420p",
+                        help="format of the results: .y4m where Y4M has it, otherwise planes without a header")
     for name in ("matrix", "from-matrix", "range", "alpha", "depth"):
         parser.add_argument(f"--{name}", help="as in zorcc.Options")
     parser.add_argument("--workers", type=int, default=1, help="processes on this machine")
@@ -83,7 +83,7 @@ def convert_all(client, jobs, format, options):
 def print_report(report, seconds):
     print(f"\n{report.files} files, {report.frames} frames, {report.megapixels:.0f} megapixels in {seconds:.1f} s: "
           f"{report.read * 1e-6 / seconds:.1f} MB/s in, {report.written * 1e-6 / seconds:.1f} MB/s out, "
-          f"{report.megapixels / seconds:.1f} megapixels/s")
+          f"{report.megapixels / seconds:.1f} megapixels/s, {report.processor:.2f} s of processors")
     for stage, spent in report.seconds.items():
         rate = report.megapixels / spent if spent else float("inf")
         print(f"  {stage:8}{spent:8.2f} s of all workers, {rate:8.1f} megapixels/s of one")

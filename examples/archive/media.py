@@ -26,6 +26,7 @@ class Report:
     megapixels: float = 0
     read: float = 0
     written: float = 0
+    processor: float = 0  # seconds, which others on the machine do not make longer
     seconds: dict = field(default_factory=lambda: {"decode": 0.0, "convert": 0.0, "write": 0.0})
 
     @contextlib.contextmanager
@@ -35,7 +36,7 @@ class Report:
         self.seconds[stage] += time.perf_counter() - start
 
     def add(self, other):
-        for name in ("files", "frames", "megapixels", "read", "written"):
+        for name in ("files", "frames", "megapixels", "read", "written", "processor"):
             setattr(self, name, getattr(self, name) + getattr(other, name))
         for stage, seconds in other.seconds.items():
             self.seconds[stage] += seconds
@@ -110,6 +111,7 @@ def y4m_header(source, format, options):
 def convert_file(source, destination, format, options):
     """Converts a file to a Y4M file, or one of planes without a header; options are those of zorcc.Plan."""
     source, destination, report = pathlib.Path(source), pathlib.Path(destination), Report()
+    begun = time.process_time()
     with report.timed("decode"):
         opened = (open_video if source.suffix.lower() in VIDEOS else open_picture)(source)
         frames = iter(opened.frames)
@@ -138,5 +140,6 @@ def convert_file(source, destination, format, options):
     if report.frames == 0:
         destination.unlink()
         raise ValueError("no frames")
+    report.processor = time.process_time() - begun
     report.files, report.read, report.written = 1, source.stat().st_size, destination.stat().st_size
     return report
