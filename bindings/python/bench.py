@@ -53,6 +53,7 @@ def nv12_to_rgb(size):
 
 
 def rgb_to_i420(size):
+    """OpenCV takes the chroma of one pixel of four, which differs much in noise; here it is their mean."""
     width, height = size
     rgb = numpy.random.default_rng(2).integers(0, 256, (height, width, 3), dtype=numpy.uint8)
     frame = numpy.empty((height * 3 // 2, width), numpy.uint8)
