@@ -51,7 +51,8 @@ class Zorcc(ConanFile):
     def generate(self):
         toolchain = CMakeToolchain(self)
         toolchain.cache_variables.update(ZORCC_BUILD_TOOLS=bool(self.options.tool), ZORCC_BUILD_TESTS=False,
-                                         ZORCC_BUILD_BENCHMARKS=False, ZORCC_BUILD_PYTHON=False)
+                                         ZORCC_BUILD_BENCHMARKS=False, ZORCC_BUILD_PYTHON=False,
+                                         ZORCC_BUILD_GSTREAMER=False)
         toolchain.generate()
         CMakeDeps(self).generate()
 
