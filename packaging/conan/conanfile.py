@@ -10,7 +10,7 @@ from conan.tools.files import copy, load, rm, rmdir
 
 ROOT = os.path.join("..", "..")
 # What of the sources is built.
-SOURCES = ["CMakeLists.txt", "LICENSE", "cmake/*", "include/*", "interface/*", "src/*", "tools/*"]
+SOURCES = ["CMakeLists.txt", "LICENSE", "bindings/cpp/*", "cmake/*", "include/*", "interface/*", "src/*", "tools/*"]
 
 
 class Zorcc(ConanFile):
@@ -74,9 +74,10 @@ class Zorcc(ConanFile):
         self.cpp_info.set_property("cmake_target_name", "zorcc::all") # zorcc::zorcc is a component
         for component, library, requires, config in (("zorcore", "zorcore", [], None),
                                                      ("zorcc", "zorccn8", ["zorcore"], "zorcc"),
+                                                     ("cpp", None, ["zorcc"], None),
                                                      ("convert", "zorconvert", ["zorcc"], "zorconvert")):
             info = self.cpp_info.components[component]
-            info.libs = [library]
+            info.libs = [library] if library else []
             info.requires = requires
             info.set_property("cmake_target_name", f"zorcc::{component}")
             if config:

@@ -117,8 +117,8 @@ class ConanTest(unittest.TestCase):
         recipe.generate()
         self.assertFalse(recipe.unknown)
         subprocess.run(["cmake", "-S", recipe.export_sources_folder, "-B", self.folder / "build", "-G", "Ninja",
-                        "--log-level=WARNING", "-DZORCC_BUILD_TESTS=OFF", "-DZORCC_BUILD_BENCHMARKS=OFF"], check=True,
-                       stdout=subprocess.DEVNULL)
+                        "--log-level=WARNING", *(f"-DZORCC_BUILD_{part}=OFF" for part in (
+                            "TESTS", "BENCHMARKS", "PYTHON", "GSTREAMER"))], check=True, stdout=subprocess.DEVNULL)
 
     def test_other_systems_are_refused(self):
         recipe = self.recipe()

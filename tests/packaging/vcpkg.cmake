@@ -97,13 +97,13 @@ set(FEATURES core tool)
 include(${PORT_FOLDER}/portfile.cmake)
 
 file(GLOB_RECURSE files RELATIVE ${CURRENT_PACKAGES_DIR} ${CURRENT_PACKAGES_DIR}/*)
-foreach(file IN ITEMS include/zorcc.h share/zorcc/copyright share/zorcc/usage share/zorcc/zorccConfig.cmake
+foreach(file IN ITEMS include/zorcc.h include/zorcc.hpp share/zorcc/copyright share/zorcc/usage share/zorcc/zorccConfig.cmake
     lib/pkgconfig/zorcc.pc debug/lib/pkgconfig/zorcc.pc tools/zorcc/zorcc)
   if(NOT file IN_LIST files)
     message(FATAL_ERROR "not in the package: ${file}")
   endif()
 endforeach()
-set(allowed "^((debug/)?lib/(pkgconfig/)?[^/]+|include/(zorcc/)?[^/]+\\.h|share/zorcc/[^/]+|tools/zorcc/zorcc)$")
+set(allowed "^((debug/)?lib/(pkgconfig/)?[^/]+|include/(zorcc/)?[^/]+\\.h(pp)?|share/zorcc/[^/]+|tools/zorcc/zorcc)$")
 list(FILTER files EXCLUDE REGEX "${allowed}")
 if(files)
   message(FATAL_ERROR "in the package, where vcpkg wants nothing: ${files}")
