@@ -75,12 +75,36 @@ std::optional<Result> compare(const Function& function, const Variant& variant, 
     return result;
 }
 
+// How far the bytes that each peer gives are from ours, for an image of random bytes.
+void printDifferences(const Function& function, const Variant& variant, const std::vector<const Peer*>& peers)
+{
+    if (function.source->sample != interface::Sample::u8 || function.destination->sample != interface::Sample::u8)
+        return;
+    Variant opaque = variant;
+    opaque.arguments.alpha = 255;
+    const Workload ours(function, opaque, cachedSize);
+    ours();
+    const auto* const first = static_cast<const std::uint8_t*>(ours.destination.image.plane[0]);
+    const std::vector<std::uint8_t> expected(first, first + imageBytes(*function.destination, cachedSize));
+    for (const Peer* peer : peers) {
+        if (peer->select) peer->select();
+        peer->prepare({function, ours.source.image, ours.destination.image, cachedSize, variant.arguments})();
+        int largest = 0, different = 0;
+        for (std::size_t i = 0; i < expected.size(); ++i) {
+            largest = std::max(largest, std::abs(expected[i] - first[i]));
+            different += expected[i] != first[i];
+        }
+        std::printf("%-50s %-50s largest %3d, %5.1f %% differ\n", nameOf(function, variant).c_str(), peer->name.c_str(),
+                    largest, 100.0 * different / static_cast<double>(expected.size()));
+    }
+}
+
 bool isLibyuv(const Peer* peer) { return peer->name.starts_with("libyuv ") && !peer->ssse3Only; }
 
 struct Options {
     std::string filter, tier = nameOf(bestTier()), json;
     double seconds = 0.5;
-    bool check = false, summary = false;
+    bool check = false, summary = false, differences = false;
 };
 
 // False if a target is missed.
@@ -94,9 +118,11 @@ bool compareAll(const Options& options)
     for (const Library& library : all)
         if (!library.version.empty()) versions.push_back(library.version);
     for (const std::string& version : versions) std::printf("%s\n", version.c_str());
-    std::printf("Mpx/s of one thread, or nanoseconds of a call on a small image, the best of many short batches in "
-                "turn; under each tier\nour speed in multiples of the row's. memcpy reads and writes as many bytes as "
-                "the conversion.\n\n");
+    if (!options.differences)
+        std::printf(
+            "Mpx/s of one thread, or nanoseconds of a call on a small image, the best of many short batches in "
+            "turn; under each tier\nour speed in multiples of the row's. memcpy reads and writes as many bytes as "
+            "the conversion.\n\n");
 
     std::vector<Result> results;
     const auto measure = [&](const Function& function, const Variant& variant, std::span<const ZorSize> sizes,
@@ -116,11 +142,16 @@ bool compareAll(const Options& options)
                 for (const Peer& peer : library.peers)
                     if (peer.function == name) peers.push_back(&peer);
             std::ranges::copy_if(peers, std::back_inserter(libyuvs), isLibyuv);
+            if (options.differences) {
+                printDifferences(function, variant, peers);
+                continue;
+            }
             // There are targets for functions without peers, but not for variants of them.
             if (peers.empty() && !(options.check && variant.name.empty())) continue;
             measure(function, variant, std::array{cachedSize, frameSize}, peers);
             if (!libyuvs.empty()) measure(function, variant, tinySizes, libyuvs);
         }
+    if (options.differences) return true;
     if (results.empty()) throw std::runtime_error("no function with a peer matches '" + options.filter + "'");
     if (!options.json.empty()) writeJson(options.json, options.tier, versions, results);
     if (options.summary) printSummary(results);
@@ -143,9 +174,10 @@ int main(int argc, char** argv)
     app.add_option("--json", options.json, "File to write the figures to");
     app.add_flag("--summary", options.summary, "Print the geomean to the best peer, and the worst figures, at the end");
     app.add_flag("--check", options.check, "Compare the figures with the project's targets; exit 1 if one is missed");
+    app.add_flag("--differences", options.differences, "Print how far the peers' bytes are from ours, and no speed");
     CLI11_PARSE(app, argc, argv);
 
-    // OpenCV is told when it is loaded.
+    // OpenCV reads the instructions that it is not to use from the environment while it is loaded.
     constexpr const char* unused = "OPENCV_CPU_DISABLE";
     if (options.tier != nameOf(bestTier()) && !std::getenv(unused)) {
         setenv(unused, "AVX512-SKX", 1);

@@ -18,6 +18,7 @@ from html import escape
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 TIERS = {"avx2": "AVX2", "avx512": "AVX-512"}
 CACHED, FRAME = "256x64", "1920x1080"
+NO_SUCH_CHOICE = 105  # the code with which zorcc_peers leaves for an option's value that is none of its choices
 
 # What the README's table shows.
 CONVERSIONS = {
@@ -175,10 +176,14 @@ def table(runs):
 
 
 def measure(tier):
+    """None where the processor lacks the tier."""
     with tempfile.NamedTemporaryFile(suffix=".json") as file:
         run = subprocess.run([ROOT / "build/release/bin/zorcc_peers", "--tier", tier, "--json", file.name, "--seconds",
                               "0.25"], stdout=subprocess.DEVNULL)
-        return json.load(file) if run.returncode == 0 else None  # the processor lacks the tier
+        if run.returncode == NO_SUCH_CHOICE:
+            return None
+        run.check_returncode()
+        return json.load(file)
 
 
 def main():

@@ -28,7 +28,7 @@ int bytesOf16Pixels(const Format& f)
     return samples * sampleBytes(f.sample);
 }
 
-// Fields, frames cut into slices, transfer curves, matrices of the caller's, mosaics whose colours nobody said: what no
+// Fields, frames cut into slices, transfer curves, matrices of the caller's, mosaics whose grid is not given: what no
 // picture format says of itself. Neither do statistics of a whole picture, nor does interpolation of chroma that has a
 // twin which loses nothing (4:1:1 and 4:2:0).
 bool isOnRequest(const Function& f)

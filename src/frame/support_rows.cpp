@@ -2,7 +2,7 @@
 // Row drivers of the support primitives, compiled once for every tier.
 #include "frame/support_rows.h"
 
-#include "simd/floats.h"
+#include "simd/doubles.h"
 
 namespace zorcc::ZORCC_TIER {
 
@@ -78,22 +78,21 @@ struct Maximum {
 struct Sum {
     static constexpr float neutral = 0;
     static constexpr int block = 16, doubles = vectorBytes / 8, vectors = block / doubles;
-    using Singles __attribute__((vector_size(vectorBytes / 2))) = float;
 
-    Vec<double> sums[vectors] = {};
+    Doubles<vectors> sums = {};
 
     void add(const float* samples)
     {
-        for (int v = 0; v < vectors; ++v) {
-            Singles singles;
-            __builtin_memcpy(&singles, samples + v * doubles, sizeof singles);
-            sums[v] += __builtin_convertvector(singles, Vec<double>);
+        for (int v = 0; v < vectors; v += 2) {
+            const Doubles<2> two = toDoubles(load<f32v>(samples + v * doubles));
+            sums.v[v] += two.v[0];
+            sums.v[v + 1] += two.v[1];
         }
     }
 
     double result() const
     {
-        const auto at = [&](int i) { return sums[i / doubles][i % doubles]; };
+        const auto at = [&](int i) { return sums.v[i / doubles][i % doubles]; };
         double even = 0, odd = 0;
         for (int i = 0; i < block; i += 4) {
             even += at(i) + at(i + 2);

@@ -10,33 +10,34 @@ namespace {
 
 // ---- 4:2:0 with filtered chroma -------------------------------------------------------------------------------------
 
-constexpr int tileChroma = 512;        // chroma samples of a row that are upsampled at a time
-constexpr int words = vectorBytes / 2; // of a vector
+constexpr int tileChroma = 512;              // chroma samples of a row that are upsampled at a time
+constexpr int wordsAtOnce = vectorBytes / 2; // of 16 bits
 
-// 3 to 1 of two rows.
+// 3 to 1 of two rows; not a byte beyond `count` is read.
 void mixRows(const uint8_t* near, const uint8_t* far, int count, uint16_t* mixed)
 {
     const auto mix = [=](int x) { store(mixed + x, 3 * loadWidened(near + x) + loadWidened(far + x)); };
-    if (count < words) {
+    if (count < wordsAtOnce) {
         for (int x = 0; x < count; ++x) mixed[x] = static_cast<uint16_t>(3 * near[x] + far[x]);
         return;
     }
-    for (int x = 0; x < count - words; x += words) mix(x);
-    mix(count - words);
+    for (int x = 0; x < count - wordsAtOnce; x += wordsAtOnce) mix(x);
+    mix(count - wordsAtOnce);
 }
 
 // Columns 2 * first to 2 * (first + count) - 1 of a row of full size. Of its four nearest chroma samples the nearest
 // counts 9, its neighbours in the row and in the column 3 each, the diagonal one 1, of 16. Edges repeat.
 void upsample(const uint8_t* near, const uint8_t* far, int chromaWidth, int first, int count,
-              uint8_t (&full)[2 * (tileChroma + words)])
+              uint8_t (&full)[2 * (tileChroma + wordsAtOnce)])
 {
-    uint16_t mixed[tileChroma + 2 + words]; // a sample more on either side
+    uint16_t mixed[tileChroma + 2 + wordsAtOnce]; // a sample more on either side
     const int before = first > 0 ? 1 : 0, after = first + count < chromaWidth ? 1 : 0;
     uint16_t* const start = mixed + 1 - before;
     mixRows(near + first - before, far + first - before, before + count + after, start);
     if (before == 0) mixed[0] = mixed[1];
     if (after == 0) mixed[count + 1] = mixed[count];
-    for (int x = 0; x < count; x += words) {
+    // The last vector may pass the samples: what it makes of the rest of the buffers is never used.
+    for (int x = 0; x < count; x += wordsAtOnce) {
         const u16v nearest = 3 * load<u16v>(mixed + x + 1) + 8;
         const u16v even = (nearest + load<u16v>(mixed + x)) >> 4, odd = (nearest + load<u16v>(mixed + x + 2)) >> 4;
         store(full + 2 * x, even | odd << 8);
@@ -54,7 +55,7 @@ void filtered420(const Image& from, const Image& to, ZorSize size, uint8_t alpha
         const int far = neighbour < 0 || neighbour >= chromaHeight ? near : neighbour;
         for (int first = 0; first < chromaWidth; first += tileChroma) {
             const int count = chromaWidth - first < tileChroma ? chromaWidth - first : tileChroma;
-            uint8_t full[2][2 * (tileChroma + words)];
+            uint8_t full[2][2 * (tileChroma + wordsAtOnce)];
             for (int c = 0; c < 2; ++c)
                 upsample(from.row(c + 1, near), from.row(c + 1, far), chromaWidth, first, count, full[c]);
             const P3<> ycc = {{{from.row(0, y) + 2 * first, full[0], full[1]}}};
