@@ -9,7 +9,6 @@
 #include <exception>
 #include <fstream>
 #include <iostream>
-#include <regex>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -171,16 +170,16 @@ void writeStatuses(const std::vector<string>& headers)
                  "#ifndef ZORCC_STATUSES_HPP\n#define ZORCC_STATUSES_HPP\n\n#include \"zorcc/types.h\"\n\n"
                  "namespace zorcc {\n\ninline const char* statusText(ZorStatus status) noexcept\n{\n"
                  "    switch (status) {\n";
-    const std::regex declaration(R"(^ *(zorStatus\w+) = (-?\d+),?(?: */\* (.*) \*/)?$)");
     for (const string& header : headers) {
         std::ifstream in(header);
         int count = 0;
-        for (string line; std::getline(in, line);) {
-            std::smatch found;
-            if (!std::regex_match(line, found, declaration)) continue;
+        for (string line; std::getline(in, line);) { //     zorStatusName = -1, /* text */
+            const std::size_t name = line.find_first_not_of(' '), is = line.find(" = "), text = line.find(" /* ");
+            if (name == string::npos || !line.substr(name).starts_with("zorStatus") || is == string::npos) continue;
             ++count;
-            std::cout << "    case " << found[2] << ": return \"" << found[1] << (found[3].matched ? ": " : "")
-                      << found[3] << "\";\n";
+            std::cout << "    case " << std::stoi(line.substr(is + 3)) << ": return \"" << line.substr(name, is - name);
+            if (text != string::npos) std::cout << ": " << line.substr(text + 4, line.rfind(" */") - text - 4);
+            std::cout << "\";\n";
         }
         if (count == 0) throw std::runtime_error("no statuses in " + header);
     }
