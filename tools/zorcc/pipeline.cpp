@@ -59,6 +59,7 @@ private:
         const std::lock_guard lock(readMutex);
         if (isAtEnd || hasFailed()) return {};
         number = reader.count() + 1;
+        isAtEnd = true; // after a failure, too: what follows would be misread, and fail in other words
         auto pending = reader.start();
         isAtEnd = !pending;
         return pending;
