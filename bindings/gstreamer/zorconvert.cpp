@@ -172,7 +172,7 @@ GType alphaType()
     return type;
 }
 
-void setProperty(GObject* object, guint property, const GValue* value, GParamSpec* specification)
+void setProperty(GObject* object, guint property, const GValue* value, GParamSpec* parameter)
 {
     ZorConvert* const element = self(object);
     GST_OBJECT_LOCK(element);
@@ -188,13 +188,13 @@ void setProperty(GObject* object, guint property, const GValue* value, GParamSpe
         settings.alpha = static_cast<ZorAlpha>(g_value_get_enum(value));
         break;
     default:
-        G_OBJECT_WARN_INVALID_PROPERTY_ID(object, property, specification);
+        G_OBJECT_WARN_INVALID_PROPERTY_ID(object, property, parameter);
     }
     GST_OBJECT_UNLOCK(element);
     if (property == propertyAlpha) gst_base_transform_reconfigure_src(GST_BASE_TRANSFORM(element));
 }
 
-void getProperty(GObject* object, guint property, GValue* value, GParamSpec* specification)
+void getProperty(GObject* object, guint property, GValue* value, GParamSpec* parameter)
 {
     const Settings settings = settingsOf(self(object));
     switch (property) {
@@ -208,7 +208,7 @@ void getProperty(GObject* object, guint property, GValue* value, GParamSpec* spe
         g_value_set_enum(value, settings.alpha);
         break;
     default:
-        G_OBJECT_WARN_INVALID_PROPERTY_ID(object, property, specification);
+        G_OBJECT_WARN_INVALID_PROPERTY_ID(object, property, parameter);
     }
 }
 

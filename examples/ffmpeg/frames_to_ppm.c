@@ -33,8 +33,7 @@ static int prepare(Converter* c, const AVFrame* frame)
     const int isRgb = (description->flags & AV_PIX_FMT_FLAG_RGB) != 0,
               hasChroma = !isRgb && description->nb_components > 2;
     const ZorSize size = {frame->width, frame->height};
-    ZorPicture from = {description->name, NULL, zorRangeDefault,
-                       size}; /* zorconvert knows FFmpeg's names of formats, */
+    ZorPicture from = {description->name, NULL, zorRangeDefault, size}; /* FFmpeg's names of formats are known, */
     const ZorPicture to = {"rgb24", NULL, zorRangeDefault, size};
 
     if (c->plan && c->format == frame->format && c->width == frame->width && c->height == frame->height &&

@@ -58,7 +58,7 @@ Extent extentOf(const Memory& memory, int p)
 
 bool planesOverlap(const Memory& a, int p, const Memory& b, int q)
 {
-    if (a.rows[p] < 1 || b.rows[q] < 1) return false;
+    if (a.rows[p] < 1 || b.rows[q] < 1 || a.rowBytes[p] < 1 || b.rowBytes[q] < 1) return false;
     const Extent one = extentOf(a, p), other = extentOf(b, q);
     if (one.end <= other.begin || other.end <= one.begin) return false;
     // Parts of one array, side by side: rows at the same distance that fit into each other's gaps.
