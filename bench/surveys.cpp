@@ -3,11 +3,13 @@
 
 #include <algorithm>
 #include <array>
+#include <atomic>
 #include <chrono>
 #include <cstdio>
 #include <ctime>
 #include <map>
 #include <memory>
+#include <sched.h>
 #include <set>
 #include <span>
 #include <thread>
@@ -25,6 +27,8 @@ using interface::Function;
 
 constexpr std::size_t shown = 10;
 constexpr double growthLimit = 0.9;
+constexpr double busyLimit = 0.5;
+constexpr double longCall = 0.01; // seconds
 constexpr ZorSize largeSize = {7680, 4320};
 
 template <class Visit> void forEachVariant(const std::regex& filter, Visit visit)
@@ -80,6 +84,35 @@ bool forks(const Workload& work)
     };
     const double first = timeOfOthers(), second = timeOfOthers(), third = timeOfOthers();
     return std::min(second - first, third - second) > 2e-5;
+}
+
+// Something else that wants the processor which this process may use last.
+class BusyProcessor {
+public:
+    BusyProcessor()
+        : worker([this](const std::stop_token& end) {
+              cpu_set_t own;
+              sched_getaffinity(0, sizeof own, &own);
+              int last = CPU_SETSIZE - 1;
+              while (!CPU_ISSET(last, &own)) --last;
+              CPU_ZERO(&own);
+              CPU_SET(last, &own);
+              sched_setaffinity(0, sizeof own, &own);
+              while (!end.stop_requested()) ++turns;
+          })
+    {
+    }
+
+private:
+    std::atomic<std::uint64_t> turns = 0;
+    std::jthread worker;
+};
+
+double secondsOfCall(const Workload& work)
+{
+    const auto start = std::chrono::steady_clock::now();
+    work();
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
 }
 
 double median(std::vector<double> values)
@@ -153,6 +186,36 @@ bool printForks(const std::regex& filter)
     for (const auto& [name, figure] : best) gain.add(name, figure);
     gain.print("Speed at " + sizeName(frameSize) + " on two threads in multiples of that on one", 1, std::string::npos);
     return gain.below(1) == 0;
+}
+
+bool printBusy(const std::regex& filter)
+{
+    constexpr int calls = 100;
+    Ranking longCalls, shortCalls;
+    std::set<std::string> seen;
+    forEachVariant(filter, [&](const Function& function, const Variant& variant, const std::string& name) {
+        if (seen.contains(groupOf(function, variant))) return;
+        for (const ZorSize size : {frameSize, largeSize}) {
+            const Workload work(function, variant, size);
+            zorSetNumThreads(2);
+            if (!forks(work)) return;
+            seen.insert(groupOf(function, variant));
+            const BusyProcessor busy;
+            std::map<int, std::vector<double>> seconds;
+            for (int i = 0; i < calls; ++i)
+                for (const int threads : {1, 2}) {
+                    zorSetNumThreads(threads);
+                    seconds[threads].push_back(secondsOfCall(work));
+                }
+            const double alone = median(seconds[1]);
+            (alone < longCall ? shortCalls : longCalls).add(name + " " + sizeName(size), alone / median(seconds[2]));
+            if (alone >= longCall) return;
+        }
+    });
+    const std::string title = "Speed on two threads in multiples of that on one, one processor busy, calls of ";
+    longCalls.print(title + "at least 10 ms", busyLimit, std::string::npos);
+    shortCalls.print(title + "less", busyLimit, std::string::npos);
+    return longCalls.below(busyLimit) == 0;
 }
 
 } // namespace zorcc::bench

@@ -88,6 +88,7 @@ int main(int argc, char** argv)
         {"--summary", "List the slowest relative to memcpy, and to their family", printSlowest},
         {"--growth", "List speeds at 8K in multiples of those at 1080p; exit 1 if one is below 0.9", printGrowth},
         {"--forks", "List speeds on two threads in multiples of those on one; exit 1 if one is below 1", printForks},
+        {"--busy", "The same with one processor busy; exit 1 if a call of 10 ms is below 0.5", printBusy},
     };
     for (auto& survey : surveys) app.add_flag(survey.option, survey.wanted, survey.help);
     app.allow_extras();

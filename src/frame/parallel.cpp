@@ -6,6 +6,7 @@
 #include <stdint.h>
 
 #include <algorithm>
+#include <atomic>
 
 #include "frame/team_size.h"
 #include "zorcore.h"
@@ -34,23 +35,44 @@ void forEach(int wanted, int count, FunctionRef<void(int)> body)
 
 } // namespace
 
+// A barrier that soon sleeps. OpenMP's first spins for some milliseconds, on a processor that a member which is behind
+// may need: two share one while something else keeps the others busy.
+class MeetingPoint {
+public:
+    void wait(int members)
+    {
+        const unsigned now = round.load(std::memory_order_relaxed); // ends when all have arrived, this one too
+        if (arrived.fetch_add(1, std::memory_order_acq_rel) + 1 == members) {
+            arrived.store(0, std::memory_order_relaxed);
+            round.store(now + 1, std::memory_order_release);
+            round.notify_all();
+            return;
+        }
+        round.wait(now, std::memory_order_acquire);
+    }
+
+private:
+    std::atomic<int> arrived = 0;
+    std::atomic<unsigned> round = 0;
+};
+
 // A caller that is parallel itself already keeps the processors busy.
 int threadsHere() { return omp_in_parallel() ? 1 : teamSize(ownGetNumThreads()); }
 
 void Member::waitForOthers() const
 {
-    if (count == 1) return;
-#pragma omp barrier
+    if (count > 1) meetingPoint->wait(count);
 }
 
 void team(int threads, FunctionRef<void(const Member&)> work)
 {
     if (threads == 1 || omp_in_parallel()) {
-        work({0, 1});
+        work({0, 1, nullptr});
         return;
     }
+    MeetingPoint meetingPoint;
 #pragma omp parallel num_threads(threads)
-    work({omp_get_thread_num(), omp_get_num_threads()});
+    work({omp_get_thread_num(), omp_get_num_threads(), &meetingPoint});
 }
 
 void rowsAboveThreshold(int width, int height, FunctionRef<void(int)> row)

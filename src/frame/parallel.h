@@ -14,9 +14,12 @@ namespace zorcc {
 // of. What follows also uses no more than there are rows, bands or sections.
 int threadsHere();
 
+class MeetingPoint;
+
 // One of the threads of a team.
 struct Member {
     int index, count;
+    MeetingPoint* meetingPoint; // of the team
 
     void waitForOthers() const; // every member must, equally often
 };
