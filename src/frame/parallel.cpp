@@ -2,8 +2,11 @@
 #include "frame/parallel.h"
 
 #include <limits.h>
+#include <linux/futex.h>
 #include <omp.h>
 #include <stdint.h>
+#include <sys/syscall.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <atomic>
@@ -36,24 +39,28 @@ void forEach(int wanted, int count, FunctionRef<void(int)> body)
 } // namespace
 
 // A barrier that soon sleeps. OpenMP's first spins for some milliseconds, on a processor that a member which is behind
-// may need: two share one while something else keeps the others busy.
+// may need: two share one while something else keeps the others busy. The C++ library's would have to be linked.
 class MeetingPoint {
 public:
     void wait(int members)
     {
-        const unsigned now = round.load(std::memory_order_relaxed); // ends when all have arrived, this one too
-        if (arrived.fetch_add(1, std::memory_order_acq_rel) + 1 == members) {
+        const int now = round.load(std::memory_order_relaxed); // ends when all have arrived, this one too
+        if (arrived.fetch_add(1, std::memory_order_acq_rel) + 1 < members) {
+            const auto isGoingOn = [&] { return round.load(std::memory_order_acquire) == now; };
+            for (int i = 0; i < turns && isGoingOn(); ++i) __builtin_ia32_pause();
+            while (isGoingOn()) futex(FUTEX_WAIT_PRIVATE, now);
+        } else {
             arrived.store(0, std::memory_order_relaxed);
-            round.store(now + 1, std::memory_order_release);
-            round.notify_all();
-            return;
+            round.store(now ^ 1, std::memory_order_release);
+            futex(FUTEX_WAKE_PRIVATE, INT_MAX);
         }
-        round.wait(now, std::memory_order_acquire);
     }
 
 private:
-    std::atomic<int> arrived = 0;
-    std::atomic<unsigned> round = 0;
+    static constexpr int turns = 1000; // some ten microseconds: waking up takes as long
+    std::atomic<int> arrived = 0, round = 0;
+
+    void futex(int operation, int value) { syscall(SYS_futex, &round, operation, value, nullptr, nullptr, 0); }
 };
 
 // A caller that is parallel itself already keeps the processors busy.
