@@ -19,26 +19,24 @@ public:
         alignas(64) uint8_t outputs[side][side][256];
         evaluate(formula, thresholds, outputs);
         Staircase stairs[side][side];
-        bool present[256] = {};
+        uint64_t present[256 / 64] = {}; // a bit for each output
         for (int y = 0; y < side; ++y)
             for (int x = 0; x < side; ++x) {
                 if (!stairs[y][x].climb(outputs[y][x])) return false;
-                for (int k = 0; k < stairs[y][x].steps; ++k) present[stairs[y][x].value[k]] = true;
+                for (int k = 0; k < stairs[y][x].steps; ++k) {
+                    const int v = stairs[y][x].value[k];
+                    present[v / 64] |= uint64_t{1} << v % 64;
+                }
             }
         int count = 0;
-        for (int v = 0; v < 256; ++v) {
-            if (!present[v]) continue;
-            if (count == maxValues) return false;
-            values.byte[count++] = static_cast<uint8_t>(v);
-        }
+        for (int base = 0; base < 256; base += 64)
+            for (uint64_t rest = present[base / 64]; rest; rest &= rest - 1) {
+                if (count == maxValues) return false;
+                values.byte[count++] = static_cast<uint8_t>(base + __builtin_ctzll(rest));
+            }
         rises = count - 1;
-        alignas(64) uint8_t column[rowBytes]; // of the matrix, for each sample of a row
-        for (int i = 0, x = 0, c = 0; i < rowBytes; ++i) {
-            column[i] = static_cast<uint8_t>(x);
-            if (++c < samplesPerPixel) continue;
-            c = 0;
-            if (++x == side) x = 0;
-        }
+        static constexpr Columns columns;
+        const uint8_t* const column = columns.of[samplesPerPixel];
         for (int y = 0; y < side; ++y) {
             int stair[side] = {};
             for (int r = 0; r < rises; ++r) {
@@ -86,6 +84,17 @@ private:
     int rises;
     alignas(64) int8_t below[side][maxValues - 1][rowBytes];
 
+    // Columns of the matrix, for the samples of a row.
+    struct Columns {
+        alignas(64) uint8_t of[5][rowBytes] = {}; // by the samples of a pixel, at least 1
+
+        constexpr Columns()
+        {
+            for (int samples = 1; samples <= 4; ++samples)
+                for (int i = 0; i < rowBytes; ++i) of[samples][i] = static_cast<uint8_t>(i / samples % side);
+        }
+    };
+
     // The outputs for one threshold, ascending, and the first input beyond each.
     struct Staircase {
         int steps = 0;
@@ -95,13 +104,21 @@ private:
         // False where there are too many, or an output falls.
         bool climb(const uint8_t* output)
         {
-            if (falls(output)) return false;
-            for (int i = 0; i < 256; i = end[steps - 1]) {
-                if (steps == maxValues) return false;
-                value[steps] = output[i];
-                end[steps++] = static_cast<short>(firstAbove(output, output[i]));
+            u8v fall = {};
+            value[0] = output[0];
+            for (int i = 1; i < 256; i += vectorBytes) {
+                const int first = i + vectorBytes > 256 ? 256 - vectorBytes : i;
+                const u8v before = load(output + first - 1), here = load(output + first);
+                fall |= subSaturate(before, here);
+                for (uint64_t rest = differences(before, here) >> (i - first); rest; rest &= rest - 1) {
+                    const int input = i + __builtin_ctzll(rest);
+                    end[steps] = static_cast<short>(input);
+                    if (++steps == maxValues) return false;
+                    value[steps] = output[input];
+                }
             }
-            return true;
+            end[steps++] = 256;
+            return differences(fall, u8v{}) == 0;
         }
 
         // Whether the step after this one is not above `limit`.
@@ -117,27 +134,6 @@ private:
         for (int i = 0; i < 256; i += lanes, input += lanes)
             for (int y = 0; y < side; ++y)
                 for (int x = 0; x < side; ++x) storeSamples(to[y][x] + i, formula(input, fillFloat(thresholds[y][x])));
-    }
-
-    static bool falls(const uint8_t* output)
-    {
-        u8v fall = {};
-        for (int i = 1; i < 256; i += vectorBytes) {
-            const int first = i + vectorBytes > 256 ? 256 - vectorBytes : i;
-            fall |= subSaturate(load(output + first - 1), load(output + first));
-        }
-        uint64_t any = 0;
-        for (int i = 0; i < vectorBytes / 8; ++i) any |= ((u64v)fall)[i];
-        return any != 0;
-    }
-
-    // The first input whose output is above `value`; 256 if there is none.
-    static int firstAbove(const uint8_t* output, int value)
-    {
-        int first = 0;
-        for (int size = 128; size > 0; size /= 2)
-            if (output[first + size - 1] <= value) first += size;
-        return first + (output[first] <= value);
     }
 };
 

@@ -272,6 +272,18 @@ ZORCC_INLINE u8v addOneWhere(u8v v, s8v a, s8v b)
 #endif
 }
 
+// A bit for every byte, the lowest for the first: whether they differ.
+ZORCC_INLINE uint64_t differences(u8v a, u8v b)
+{
+#if defined(ZORCC_TIER_avx512)
+    return _mm512_cmpneq_epi8_mask(reg(a), reg(b));
+#elif defined(ZORCC_TIER_avx2)
+    return static_cast<uint32_t>(~_mm256_movemask_epi8(reg(a == b)));
+#else
+    return static_cast<uint16_t>(~_mm_movemask_epi8(reg(a == b)));
+#endif
+}
+
 // All bits in the even elements, or in the odd ones.
 template <class V> ZORCC_INLINE V alternatingMask(bool odd)
 {
