@@ -15,7 +15,7 @@ enum class LumaOrder {
     byHalf    // the first and the last 32 columns in a vector each; the even ones in the lower elements
 };
 
-// Luma times four, and the two channels of chroma in the two elements of a lane, for 32 columns in each vector.
+// Luma times a factor, and the two channels of chroma in the two elements of a lane, for 32 columns in each vector.
 template <int rows, LumaOrder order> struct YccLanes {
     s16v luma[rows][2];
     s16v chroma[2];
@@ -40,15 +40,15 @@ constexpr YccLanesTable yccLanesTable;
 class ToYccLanes {
 public:
     // Chroma in halves: per block eight samples of the first channel, then eight of the second.
-    template <int rows>
+    template <int factor, int rows>
     __attribute__((always_inline)) YccLanes<rows, LumaOrder::byColumn> operator()(const u8v (&y)[rows],
                                                                                   u8v chroma) const
     {
         YccLanes<rows, LumaOrder::byColumn> ycc;
         for (int row = 0; row < rows; ++row) {
             const u8v luma = (u8v)_mm512_permutexvar_epi8(reg(load(yccLanesTable.luma)), reg(y[row]));
-            ycc.luma[row][0] = mulAddPairs(luma, fillPair8(4, 0));
-            ycc.luma[row][1] = mulAddPairs(luma, fillPair8(0, 4));
+            ycc.luma[row][0] = mulAddPairs(luma, fillPair8(factor, 0));
+            ycc.luma[row][1] = mulAddPairs(luma, fillPair8(0, factor));
         }
         for (int half = 0; half < 2; ++half) {
             const __m512i from = reg(load(yccLanesTable.chroma[half]));

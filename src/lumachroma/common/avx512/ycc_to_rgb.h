@@ -9,19 +9,18 @@ namespace {
 
 template <ToRgb k> class DotProductsToRgb {
     // Weights may pass 16 bits. They are products of a coefficient and a small factor, by which the
-    // sample is multiplied first.
+    // sample is multiplied first, and a rest of less than that factor where there is no such product.
     static constexpr int factorOf(int weight)
     {
-        int factor = 1;
-        while (weight / factor > 32767 || weight % factor != 0) ++factor;
-        return factor;
+        for (int factor = 1; factor < 128; ++factor)
+            if (weight % factor == 0 && weight / factor < 32768) return factor;
+        return weight / 32768 + 1;
     }
     static constexpr int factorR = factorOf(k.r), factorB = factorOf(k.b);
 
 public:
-    // A quarter of the weight of luma has to fit an element; luma of weight 1 has a quicker way.
-    static constexpr bool possible =
-        k.y % 4 == 0 && k.y / 4 < 32768 && k.y != 65536 && 255 * factorR < 32768 && 255 * factorB < 32768;
+    static constexpr int lumaFactor = factorOf(k.y);
+    static constexpr bool possible = k.y % lumaFactor == 0; // there is no place for a rest of luma
 
     template <int rows, LumaOrder order> struct Prepared {
         s16v luma[rows][2];
@@ -30,7 +29,7 @@ public:
 
     template <int rows> [[gnu::always_inline]] auto prepare(const Subsampled<rows>& ycc) const
     {
-        return prepare(toLanes(ycc.y, ycc.chroma));
+        return prepare(toLanes.template operator()<lumaFactor>(ycc.y, ycc.chroma));
     }
 
     template <int rows, LumaOrder order>
@@ -40,10 +39,9 @@ public:
         for (int half = 0; half < 2; ++half) {
             for (int row = 0; row < rows; ++row) from.luma[row][half] = ycc.luma[row][half];
             const s16v uv = ycc.chroma[half], multiples = uv * fillPair16(factorB, factorR);
-            const s32v g = mulAddPairs(fill32(k.constantG), uv, fillPair16(-k.g1 % factorB, -k.g2 % factorR));
-            from.chroma[half][0] = mulAddPairs(fill32(k.constantR), multiples, fillPair16(0, k.r / factorR));
-            from.chroma[half][1] = mulAddPairs(g, multiples, fillPair16(-k.g1 / factorB, -k.g2 / factorR));
-            from.chroma[half][2] = mulAddPairs(fill32(k.constantB), multiples, fillPair16(k.b / factorB, 0));
+            from.chroma[half][0] = sum<0, k.r>(fill32(k.constantR), uv, multiples);
+            from.chroma[half][1] = sum<-k.g1, -k.g2>(fill32(k.constantG), uv, multiples);
+            from.chroma[half][2] = sum<k.b, 0>(fill32(k.constantB), uv, multiples);
         }
         return from;
     }
@@ -51,7 +49,7 @@ public:
     template <int rows, LumaOrder order>
     [[gnu::always_inline]] Unsaturated<rows> operator()(const Prepared<rows, order>& from) const
     {
-        const s16v lower = fillPair16(k.y / 4, 0), upper = fillPair16(0, k.y / 4);
+        const s16v lower = fillPair16(k.y / lumaFactor, 0), upper = fillPair16(0, k.y / lumaFactor);
         Unsaturated<rows> rgb;
         for (int half = 0; half < 2; ++half)
             for (int row = 0; row < rows; ++row)
@@ -75,6 +73,14 @@ public:
 private:
     UpperHalves upperHalves;
     ToYccLanes toLanes;
+
+    // Of both chroma channels and their multiples.
+    template <int u, int v> ZORCC_INLINE s32v sum(s32v constant, s16v uv, s16v multiples)
+    {
+        constexpr int restU = u % factorB, restV = v % factorR;
+        if constexpr (restU != 0 || restV != 0) constant = mulAddPairs(constant, uv, fillPair16(restU, restV));
+        return mulAddPairs(constant, multiples, fillPair16(u / factorB, v / factorR));
+    }
 };
 
 template <int rows> ZORCC_INLINE UnsaturatedWithAlpha<rows> withAlpha(const Unsaturated<rows>& rgb, uint8_t alpha)
@@ -92,17 +98,17 @@ template <int rows> ZORCC_INLINE Pixels<3, rows> inBytes(const Unsaturated<rows>
 
 // ---- layouts --------------------------------------------------------------------------------------------------------
 
-template <class Layout> struct InLanes : Layout {
+template <class Layout, int lumaFactor> struct InLanes : Layout {
 };
 
-template <PackedOrder order> struct InLanes<Packed422<order>> : Packed422<order> {
+template <PackedOrder order, int lumaFactor> struct InLanes<Packed422<order>, lumaFactor> : Packed422<order> {
     [[gnu::always_inline]] YccLanes<1, LumaOrder::byHalf> load(int x) const
     {
         constexpr bool lumaFirst = order == PackedOrder::lumaFirst;
         YccLanes<1, LumaOrder::byHalf> ycc;
         for (int half = 0; half < 2; ++half) {
             const u8v bytes = zorcc::ZORCC_TIER::load(this->at(0, x) + half * vectorBytes);
-            ycc.luma[0][half] = mulAddPairs(bytes, lumaFirst ? fillPair8(4, 0) : fillPair8(0, 4));
+            ycc.luma[0][half] = mulAddPairs(bytes, lumaFirst ? fillPair8(lumaFactor, 0) : fillPair8(0, lumaFactor));
             ycc.chroma[half] = lumaFirst ? secondOfPairs(bytes) : firstOfPairs(bytes);
         }
         return ycc;
@@ -130,10 +136,23 @@ template <Order order> struct OfWide<C4<uint8_t, order>> : C4<uint8_t, order> {
 
 // ---- where they are used ---
 
-// Sources that share chroma.
+template <class Layout> constexpr bool isPacked422 = false;
+template <PackedOrder order> constexpr bool isPacked422<Packed422<order>> = true;
+
+template <class Layout> constexpr bool hasFourChannels = false;
+template <Order order> constexpr bool hasFourChannels<C4<uint8_t, order>> = true;
+
+// Packed pixels, and two rows that share chroma. Luma of weight 1 has a quicker way, but from packed pixels to four
+// channels; so have single rows of planes.
 template <class From, ToRgb k, class To>
-requires(DotProductsToRgb<k>::possible&& From::group* From::rowsAtOnce > 1) struct OnThisTier<From, YccToRgb<k>, To> {
-    using Source = InLanes<From>;
+constexpr bool areQuicker = DotProductsToRgb<k>::possible &&
+                            (isPacked422<From> ? k.y != 65536 || hasFourChannels<To>
+                                               : k.y != 65536 && From::rowsAtOnce == 2);
+
+template <class From, ToRgb k, class To>
+requires areQuicker<From, k, To>
+struct OnThisTier<From, YccToRgb<k>, To> {
+    using Source = InLanes<From, DotProductsToRgb<k>::lumaFactor>;
     using Formula = DotProductsToRgb<k>;
     using Destination = OfWide<To>;
 };
