@@ -2,28 +2,24 @@
 #include "bench/race.h"
 
 #include <algorithm>
-#include <chrono>
 
 namespace zorcc::bench {
 
 namespace {
 
-using Clock = std::chrono::steady_clock;
-
 constexpr double batchSeconds = 2e-4; // long compared with reading the clock, short compared with a time slice
 constexpr int fewestCalls = 3;        // in a batch, however long they take
 constexpr int fewestBatches = 5;
-
-double secondsSince(Clock::time_point start) { return std::chrono::duration<double>(Clock::now() - start).count(); }
 
 // Seconds of one call. An untimed call comes first: caches and branch predictors still know the runner before.
 double timeBatch(const Runner& runner, int calls)
 {
     if (runner.select) runner.select();
     runner.work();
-    const auto start = Clock::now();
-    for (int i = 0; i < calls; ++i) runner.work();
-    return secondsSince(start) / calls;
+    const auto batch = [&] {
+        for (int i = 0; i < calls; ++i) runner.work();
+    };
+    return secondsOf(batch) / calls;
 }
 
 } // namespace
@@ -46,9 +42,8 @@ void race(std::vector<Runner>& runners, double seconds)
         again = false;
         for (Turn& turn : turns) {
             if (turn.batches >= fewestBatches && turn.used >= share) continue;
-            const auto start = Clock::now();
-            turn.runner.seconds = std::min(turn.runner.seconds, timeBatch(turn.runner, turn.calls));
-            turn.used += secondsSince(start);
+            turn.used += secondsOf(
+                [&] { turn.runner.seconds = std::min(turn.runner.seconds, timeBatch(turn.runner, turn.calls)); });
             ++turn.batches;
             again = true;
         }

@@ -2,12 +2,21 @@
 // Fair timing of several ways to do one job.
 #pragma once
 
+#include <chrono>
 #include <functional>
 #include <limits>
 #include <string>
 #include <vector>
 
 namespace zorcc::bench {
+
+// By the clock on the wall.
+double secondsOf(const auto& work)
+{
+    const auto start = std::chrono::steady_clock::now();
+    work();
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+}
 
 struct Runner {
     std::string name;

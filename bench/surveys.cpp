@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <array>
-#include <atomic>
 #include <chrono>
 #include <cstdio>
 #include <ctime>
@@ -90,7 +89,7 @@ bool forks(const Workload& work)
 class BusyProcessor {
 public:
     BusyProcessor()
-        : worker([this](const std::stop_token& end) {
+        : worker([](const std::stop_token& end) {
               cpu_set_t own;
               sched_getaffinity(0, sizeof own, &own);
               int last = CPU_SETSIZE - 1;
@@ -98,22 +97,14 @@ public:
               CPU_ZERO(&own);
               CPU_SET(last, &own);
               sched_setaffinity(0, sizeof own, &own);
-              while (!end.stop_requested()) ++turns;
+              while (!end.stop_requested()) continue;
           })
     {
     }
 
 private:
-    std::atomic<std::uint64_t> turns = 0;
     std::jthread worker;
 };
-
-double secondsOfCall(const Workload& work)
-{
-    const auto start = std::chrono::steady_clock::now();
-    work();
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-}
 
 double median(std::vector<double> values)
 {
@@ -205,7 +196,7 @@ bool printBusy(const std::regex& filter)
             for (int i = 0; i < calls; ++i)
                 for (const int threads : {1, 2}) {
                     zorSetNumThreads(threads);
-                    seconds[threads].push_back(secondsOfCall(work));
+                    seconds[threads].push_back(secondsOf(work));
                 }
             const double alone = median(seconds[1]);
             (alone < longCall ? shortCalls : longCalls).add(name + " " + sizeName(size), alone / median(seconds[2]));

@@ -142,16 +142,14 @@ template <PackedOrder order> constexpr bool isPacked422<Packed422<order>> = true
 template <class Layout> constexpr bool hasFourChannels = false;
 template <Order order> constexpr bool hasFourChannels<C4<uint8_t, order>> = true;
 
-// Packed pixels, and two rows that share chroma. Luma of weight 1 has a quicker way, but from packed pixels to four
-// channels; so have single rows of planes.
+// For packed pixels and for two rows that share chroma. Luma of weight 1 has a quicker way, but from packed pixels to
+// four channels; so have single rows of planes.
 template <class From, ToRgb k, class To>
-constexpr bool areQuicker = DotProductsToRgb<k>::possible &&
-                            (isPacked422<From> ? k.y != 65536 || hasFourChannels<To>
-                                               : k.y != 65536 && From::rowsAtOnce == 2);
+constexpr bool dotProductsAreQuicker =
+    k.y == 65536 ? isPacked422<From>&& hasFourChannels<To> : isPacked422<From> || From::rowsAtOnce == 2;
 
 template <class From, ToRgb k, class To>
-requires areQuicker<From, k, To>
-struct OnThisTier<From, YccToRgb<k>, To> {
+requires(DotProductsToRgb<k>::possible&& dotProductsAreQuicker<From, k, To>) struct OnThisTier<From, YccToRgb<k>, To> {
     using Source = InLanes<From, DotProductsToRgb<k>::lumaFactor>;
     using Formula = DotProductsToRgb<k>;
     using Destination = OfWide<To>;
